@@ -1,0 +1,94 @@
+#include "core/job_file.h"
+
+#include "core/job_fields.h"
+#include "core/job_text_encoding.h"
+#include "core/job_text_reader.h"
+#include "core/job_text_writer.h"
+#include "core/platform_file.h"
+#include "core/runtime_failure.h"
+
+namespace halvane {
+namespace {
+
+void TestThatNoFileIsOpen() {
+  if (Module1.JobFileOpen) throw RuntimeFailure(FailureKind::FileAlreadyOpen);
+}
+
+/// What the steps before a read do: the posture factors are not in the file, and the forms of RULA
+/// and REBA set them again when they load.
+void PrepareRead() {
+  Module1.JobDirty = kFalse;
+  Module1.RebaUpperArmFactors.fill(0);
+  Module1.RebaWristFactors.fill(0);
+  Module1.RebaNeckFactors.fill(0);
+  Module1.RebaTrunkFactors.fill(0);
+  Module1.RebaLegFactors.fill(0);
+  Module1.RebaForceFactors.fill(0);
+  Module1.RulaUpperArmFactors.fill(0);
+  Module1.RulaLowerArmFactors.fill(0);
+  Module1.RulaWristFactors.fill(0);
+  Module1.RulaNeckFactors.fill(0);
+  Module1.RulaTrunkFactors.fill(0);
+}
+
+/// Opens the file and gives its text. From here on the file counts as open.
+std::string OpenForInput() {
+  TestThatNoFileIsOpen();
+  InputFile file(Module1.JobFileName);
+  Module1.JobFileOpen = true;
+  return DecodeJobText(file.ReadAll());
+}
+
+void ReadFields(const std::string& text) {
+  JobTextReader reader(text);
+  VisitJobFields(Module1, reader);
+  Module1.JobFileOpen = false;
+}
+
+}  // namespace
+
+void WriteJobFile() {
+  Module1.JobDirty = kFalse;
+  TestThatNoFileIsOpen();
+  FileReplacement file(Module1.JobFileName);
+  Module1.JobFileOpen = true;
+  JobTextWriter writer;
+  try {
+    VisitJobFields(Module1, writer);
+  } catch (const RuntimeFailure&) {
+    // The lines before the one that failed stand in the file.
+    file.Write(EncodeJobText(writer.text()));
+    throw;
+  }
+  file.Write(EncodeJobText(writer.text()));
+  file.Commit();
+  Module1.JobFileOpen = false;
+}
+
+void ReadJobFile() {
+  PrepareRead();
+  ReadFields(OpenForInput());
+}
+
+OpenOutcome OpenJobFile() {
+  const std::string text = OpenForInput();
+  JobTextReader reader(text);
+  const bool isJobFile = reader.ReadMarkerLine();
+  if (isJobFile) reader.Line(Named("TaskCount", Module1.TaskCount));
+  Module1.JobFileOpen = false;
+  if (!isJobFile) return OpenOutcome::NotAJobFile;
+  ResizeTaskArrays();
+  PrepareRead();
+  // The same text again instead of a second reading, so that no change in between can come through.
+  Module1.JobFileOpen = true;
+  ReadFields(text);
+  return OpenOutcome::Opened;
+}
+
+std::string JobFileBytes(JobState& job) {
+  JobTextWriter writer;
+  VisitJobFields(job, writer);
+  return EncodeJobText(writer.text());
+}
+
+}  // namespace halvane

@@ -1,0 +1,150 @@
+#pragma once
+
+#include <string>
+
+#include "core/checked_array.h"
+#include "core/integer.h"
+#include "core/tagged_field.h"
+
+namespace halvane {
+
+/// The highest task number that a job can store.
+inline constexpr int kHighestTask = 40;
+/// Posture slots of a task, one a body joint and side; see `CtdLoadHeld`.
+inline constexpr int kPostureSlots = 8;
+
+/// The data dictionary of the program: the one job in memory and the working values of the tools.
+/// Every form and computation reads and writes `Module1`; there is no other copy. `JobState{}` is a
+/// freshly started program with its empty job.
+///
+/// A comment gives unit, range and the default of an empty job where it is not 0 or empty. Fields
+/// with no other word are saved in the job file.
+struct JobState {
+  // The job itself.
+  std::string JobFileName;      ///< path; empty: never saved or opened; not saved
+  Integer JobDirty = kFalse;    ///< -1: unsaved changes; survives `JobReset`; not saved
+  TaggedField JobAnalyst = "";  ///< text
+  TaggedField JobName = "";     ///< text
+  std::string JobWorkstationId;
+  Integer Hand = 0;                            ///< 0 right side, 1 left side; a label only
+  double JobCycleTime = 0;                     ///< minutes
+  TaggedField JobDurationPerDay = Integer{8};  ///< hours worked per shift; default 8
+  Integer JobFileFlag = 0;                     ///< carried through the file; survives `JobReset`
+  Integer Units = 0;  ///< 0 metric, 1 English; survives `JobReset`; not saved
+
+  // The task list, shared by the OCRA and CTD tools. Tasks are numbered from 1.
+  TaggedField TaskCount = Integer{0};  ///< highest task number ever made in this job
+  TaggedField CurrentTask;             ///< task on screen; survives `JobReset`; not saved
+  TaskArray<std::string> TaskNames;
+  TaskArray<TaggedField> TaskActive;  ///< 1 the task exists, 0 it was deleted
+  TaskArray<double> TaskSpare;        ///< carried through the file; no tool uses it
+
+  // OCRA, one value a job.
+  TaggedField OcraRecoveryHours = Integer{0};  ///< hours without adequate recovery, 0 to 10
+  TaggedField OcraWristActions = Integer{0};   ///< ticked 4, else 0; so the next four
+  Integer OcraWristHold = 0;
+  TaggedField OcraSameFingers = Integer{0};
+  Integer OcraHoldObject = 0;
+  Integer OcraElbowGesture = 0;
+  FixedArray<Integer, 14> OcraComboChoice =
+      AllThree();  ///< answers 0 to 3; default 3, not applicable
+
+  // OCRA, one value a task.
+  TaskArray<TaggedField> OcraActionFrequency;  ///< actions a minute
+  TaskArray<double> OcraTaskDuration;          ///< minutes a shift
+  TaskArray<double> OcraForceRating;           ///< Borg scale, 0 to 5 in halves
+
+  // CTD Risk Index, one value a task.
+  TaskArray<TaggedField> CtdWorkTime;  ///< minutes a cycle
+  TaskArray<TaggedField> CtdRestTime;  ///< minutes a cycle; computed
+  TaskArray<TaggedField> CtdHandSpan;  ///< centimetres or inches, by `Units`
+  TaskArray<TaggedField> CtdGripType;
+  TaskArray<Integer> CtdWristPosition;
+  TaskArray<TaggedField> CtdFlexExtDeviation;
+  TaskArray<double> CtdRadUlnDeviation;
+  TaskArray<double> CtdForceMvc;                ///< per cent of the maximal voluntary contraction
+  TaskArray<TaggedField> CtdLtShoulderFlexion;  ///< posture categories; empty in a new task
+  TaskArray<TaggedField> CtdRtShoulderFlexion;
+  TaskArray<TaggedField> CtdLtShoulderAbduction;
+  TaskArray<TaggedField> CtdRtShoulderAbduction;
+  TaskArray<TaggedField> CtdLtElbowFlexion;
+  TaskArray<TaggedField> CtdRtElbowFlexion;
+  TaskArray<TaggedField> CtdBackFlexion;
+  TaskArray<Integer> CtdNeckFlexion;
+  TaskArray<double> CtdRepetitions;                                       ///< repetitions a cycle
+  FixedGrid<double, kHighestTask + 1, kPostureSlots> CtdLoadHeld;         ///< kilograms
+  FixedGrid<double, kHighestTask + 1, kPostureSlots> CtdPostureDuration;  ///< minutes
+
+  // Strain Index.
+  TaggedField SiExertionMinutes = Integer{0};         ///< duration of all exertions, minutes
+  TaggedField SiDutyObservationMinutes = Integer{0};  ///< observation time for the above, minutes
+  TaggedField SiExertionCount = Integer{0};           ///< number of exertions
+  double SiEffortObservationMinutes = 0;              ///< observation time for the count, minutes
+  TaggedField SiIntensityPick = Integer{0};           ///< ribbon 0 to 14
+  TaggedField SiPosturePick = Integer{0};             ///< ribbon 0 to 19
+  Integer SiSpeedPick = 0;                            ///< ribbon 0 to 9
+
+  // RULA and REBA: what is set on each control.
+  FixedArray<Integer, 20> RulaControlState;
+  FixedArray<Integer, 23> RebaControlState;
+
+  // Hand Activity Level.
+  TaggedField HalExertionFrequency = Integer{0};  ///< exertions a minute
+  TaggedField HalDutyCycle = Integer{0};          ///< per cent of the cycle time
+  TaggedField HalForceRating = Integer{0};
+  TaggedField HalActivityLevel = Integer{0};  ///< 0 to 10
+
+  // Working values: neither saved nor reset by `JobReset`; they live as long as the program runs.
+
+  /// The job file stands open after a failure: every later open fails with `FileAlreadyOpen`.
+  bool JobFileOpen = false;
+
+  TaskArray<TaggedField> OcraForceMultiplier;  ///< by task; resized with the task list
+  TaskArray<double> CtdTaskPostureScore;       ///< by task; resized with the task list
+
+  Integer SiIntensityRating = 0;  ///< 1 to 5; 0 until the form has loaded
+  Integer SiPostureRating = 0;    ///< 1 to 5; 0 until the form has loaded
+  Integer SiSpeedRating = 0;      ///< 1 to 5; 0 until the form has loaded
+  double SiDutyCyclePercent = 0;  ///< exertion in per cent of the observation
+  Integer SiDutyRating = 0;       ///< 1 to 5; a value in a gap keeps the last one
+  double SiEffortsPerMinute = 0;
+  Integer SiEffortsRating = 0;   ///< 1 to 5; a value in a gap keeps the last one
+  Integer SiDurationRating = 0;  ///< 1 to 5
+  double SiStrainIndexScore = 0;
+
+  // Cleared by `ReadJobFile` and by nothing else.
+  FixedArray<Integer, 4> RulaUpperArmFactors;
+  FixedArray<Integer, 2> RulaLowerArmFactors;
+  FixedArray<Integer, 2> RulaWristFactors;
+  FixedArray<Integer, 3> RulaNeckFactors;
+  FixedArray<Integer, 4> RulaTrunkFactors;
+  FixedArray<Integer, 4> RebaUpperArmFactors;
+  FixedArray<Integer, 2> RebaWristFactors;
+  FixedArray<Integer, 3> RebaNeckFactors;
+  FixedArray<Integer, 3> RebaTrunkFactors;
+  FixedArray<Integer, 2> RebaLegFactors;
+  FixedArray<Integer, 2> RebaForceFactors;
+
+  bool operator==(const JobState&) const = default;
+
+ private:
+  static FixedArray<Integer, 14> AllThree();
+};
+
+/// The one instance.
+extern JobState Module1;
+
+/// Makes the job the empty job. `JobDirty`, `Units`, `CurrentTask`, `JobFileFlag` and all working
+/// values stay, so a job that was changed still counts as changed.
+void JobReset();
+
+/// Gives every per-task array the bounds 0 to `TaskCount`, rounded half to even, and discards their
+/// contents; clears loads and durations of tasks 1 to 40. Throws `SubscriptOutOfRange` for a count
+/// below 0 and `Overflow` for one above 32767, with nothing changed.
+void ResizeTaskArrays();
+
+/// Grows every per-task array to `TaskCount`, which the caller has raised by one, and fills the new
+/// last slot. Throws as `ResizeTaskArrays` does.
+void NewTaskRecord();
+
+}  // namespace halvane

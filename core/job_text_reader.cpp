@@ -1,0 +1,127 @@
+#include "core/job_text_reader.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <limits>
+
+namespace halvane {
+namespace {
+
+/// How much of a field a message shows, in bytes.
+constexpr std::size_t kShownLength = 40;
+
+std::string Shown(std::string_view found) {
+  if (found.size() <= kShownLength) return std::string(found);
+  std::size_t end = kShownLength;
+  while (end > 0 && (static_cast<unsigned char>(found[end]) & 0xC0U) == 0x80U) --end;
+  return std::string(found.substr(0, end)) + "...";
+}
+
+std::string Where(int line, const FieldName& name, std::string_view found) {
+  std::string where = "line " + std::to_string(line) + ", field " + name.text();
+  if (!found.empty()) where += ": \"" + Shown(found) + "\"";
+  return where;
+}
+
+/// The number in the text of a field; 0 where it holds nothing but blanks.
+double NumberIn(std::string_view text) {
+  if (text.find_first_not_of(" \t") == std::string_view::npos) return 0;
+  const auto number = WholeTextAsNumber(text);
+  if (!number) throw RuntimeFailure(FailureKind::TypeMismatch);
+  return *number;
+}
+
+/// The number in the kind that a tagged field holds it in: whole digits within 16 bits are an
+/// integer.
+TaggedField TaggedNumber(std::string_view text, double number) {
+  const bool wholeDigits = text.find_first_of(".Ee") == std::string_view::npos;
+  const bool fits = number >= std::numeric_limits<Integer>::min() &&
+                    number <= std::numeric_limits<Integer>::max();
+  if (wholeDigits && fits) return ToInteger(number);
+  return number;
+}
+
+/// Where the comma or line end behind position `from` stands, the end of `text` where there is
+/// none.
+std::size_t SeparatorFrom(std::string_view text, std::size_t from) {
+  const auto isSeparator = [](char c) { return c == ',' || c == '\r' || c == '\n'; };
+  return static_cast<std::size_t>(
+      std::find_if(text.begin() + static_cast<std::ptrdiff_t>(from), text.end(), isSeparator) -
+      text.begin());
+}
+
+}  // namespace
+
+JobReadFailure::JobReadFailure(FailureKind kind, int line, const FieldName& name,
+                               std::string_view found)
+    : RuntimeFailure(kind, Where(line, name, found)),
+      line_(line),
+      field_(name.text()),
+      found_(found) {}
+
+bool JobTextReader::ReadMarkerLine() {
+  static constexpr std::array<std::string_view, 5> kNames{"marker", "constant 1", "constant 2",
+                                                          "constant 3", "constant 4"};
+  bool isJobFile = false;
+  for (const std::string_view name : kNames) {
+    TaggedField scratch;
+    ReadField({name}, scratch);
+    if (name == kNames.front()) isJobFile = scratch == TaggedField(kJobFileMarker);
+  }
+  return isJobFile;
+}
+
+JobTextReader::FieldText JobTextReader::NextField(const FieldName& name) {
+  const std::size_t start = text_.find_first_not_of(" \t", position_);
+  if (start == std::string_view::npos) {
+    fieldStart_ = position_ = text_.size();
+    throw JobReadFailure(FailureKind::InputPastEnd, fieldLine(), name, {});
+  }
+  fieldStart_ = start;
+  if (text_[start] != '"') {
+    const std::size_t end = SeparatorFrom(text_, start);
+    PassSeparator(end);
+    return {text_.substr(start, end - start), false};
+  }
+  // Without a closing quote the field takes the rest of the file.
+  const std::size_t close = std::min(text_.find('"', start + 1), text_.size());
+  PassSeparator(SeparatorFrom(text_, std::min(close + 1, text_.size())));
+  return {text_.substr(start + 1, close - start - 1), true};
+}
+
+void JobTextReader::PassSeparator(std::size_t separator) {
+  const bool lineEndOfTwo = text_.substr(separator, 2) == "\r\n";
+  position_ = std::min(separator + (lineEndOfTwo ? 2 : 1), text_.size());
+}
+
+int JobTextReader::fieldLine() const {
+  int line = 1;
+  for (std::size_t i = 0; i < fieldStart_; ++i) {
+    const bool returnAlone = text_[i] == '\r' && (i + 1 == text_.size() || text_[i + 1] != '\n');
+    if (text_[i] == '\n' || returnAlone) ++line;
+  }
+  return line;
+}
+
+void JobTextReader::Read(FieldText field, std::string& target) { target = field.text; }
+
+void JobTextReader::Read(FieldText field, Integer& target) {
+  target = ToInteger(NumberIn(field.text));
+}
+
+void JobTextReader::Read(FieldText field, double& target) { target = NumberIn(field.text); }
+
+void JobTextReader::Read(FieldText field, TaggedField& target) {
+  if (field.quoted) {
+    target = field.text;
+  } else if (field.text.empty()) {
+    target = TaggedField();
+  } else if (const auto number = WholeTextAsNumber(field.text)) {
+    target = TaggedNumber(field.text, *number);
+  } else {
+    target = field.text;
+  }
+}
+
+}  // namespace halvane

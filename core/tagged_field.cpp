@@ -1,0 +1,22 @@
+#include "core/tagged_field.h"
+
+namespace halvane {
+
+double TaggedField::AsDouble() const {
+  if (const auto* integer = std::get_if<Integer>(&value_)) return *integer;
+  if (const auto* number = std::get_if<double>(&value_)) return *number;
+  if (const auto* text = std::get_if<std::string>(&value_)) return ReadsAs(*text);
+  return 0;
+}
+
+std::string TaggedField::AsText() const {
+  if (const auto* text = std::get_if<std::string>(&value_)) return *text;
+  if (std::holds_alternative<std::monostate>(value_)) return {};
+  return PlainText(AsDouble());
+}
+
+std::string Format(const TaggedField& field, Pattern pattern) {
+  return Format(field.AsDouble(), pattern);
+}
+
+}  // namespace halvane

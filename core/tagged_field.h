@@ -1,0 +1,52 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <utility>
+#include <variant>
+
+#include "core/integer.h"
+#include "core/number_text.h"
+
+namespace halvane {
+
+/// A field of the job that keeps the kind of what was put into it: nothing, a whole number, a
+/// double or a text. Text boxes store texts, computations store numbers, and the job file writes
+/// each by the kind that it holds at that moment.
+class TaggedField {
+ public:
+  using Value = std::variant<std::monostate, Integer, double, std::string>;
+
+  TaggedField() = default;
+  // Implicit, since assigning a number or a text to a field is what the class is for.
+  TaggedField(Integer value) : value_(value) {}  // NOLINT(google-explicit-constructor)
+  TaggedField(double value) : value_(value) {}   // NOLINT(google-explicit-constructor)
+  TaggedField(std::string value)
+      : value_(std::move(value)) {}  // NOLINT(google-explicit-constructor)
+  TaggedField(std::string_view value)
+      : value_(std::string(value)) {}  // NOLINT(google-explicit-constructor)
+  TaggedField(const char* value)
+      : value_(std::string(value)) {}  // NOLINT(google-explicit-constructor)
+  /// An `int` would have to become one of the two kinds of number; the caller has to say which.
+  TaggedField(int value) = delete;
+
+  /// What the field counts as in a calculation: its number, the number that its text reads as, 0
+  /// when empty. Throws `Overflow` for a text that reads as a number beyond a double.
+  [[nodiscard]] double AsDouble() const;
+
+  /// What a text box shows: the text, the plain text of the number, nothing when empty.
+  [[nodiscard]] std::string AsText() const;
+
+  /// The kind and its content, for the job file.
+  [[nodiscard]] const Value& value() const { return value_; }
+
+  bool operator==(const TaggedField&) const = default;
+
+ private:
+  Value value_;
+};
+
+/// The number of the field in a fixed-point pattern; 0 when it is empty or holds no number.
+std::string Format(const TaggedField& field, Pattern pattern);
+
+}  // namespace halvane

@@ -1,0 +1,42 @@
+#include "tools/tool_table.h"
+
+#include <array>
+
+#include "tools/strain_index/si_controls.h"
+#include "tools/strain_index/si_score.h"
+
+namespace halvane {
+namespace {
+
+void WriteStrainIndexReport(RichText& RichTextBox1) {
+  SiControls controls;
+  controls.Load();
+  SI_Calculate(RichTextBox1);
+}
+
+constexpr std::array kTools{
+    ToolRow{Tool::Ocra, "ocra", "OCRA", "Occupational Repetitive Actions Index",
+            "Occupational Repetitive Actions Index",
+            "Occupational Repetitive Actions Index (OCRA)2.htm", nullptr, nullptr},
+    ToolRow{Tool::Ctd, "ctd", "CTD Risk Index", "Cumulative Trauma Disorders Risk Assessment Model",
+            "Cumulative Trauma Disorders Risk Assessment Model", "CTD2.htm", nullptr, nullptr},
+    ToolRow{Tool::StrainIndex, "si", "SI", "Strain Index", "Strain Index", "Strain Index2.htm",
+            WriteStrainIndexReport, SiWorkingValues},
+    ToolRow{Tool::Reba, "reba", "REBA", "Rapid Entire Body Assessment",
+            "Rapid Entire Body Assessment", "REBA (Rapid Entire Body Assessment)2.htm", nullptr,
+            nullptr},
+    // The form's title differs from the button's tip, which is wanted.
+    ToolRow{Tool::Rula, "rula", "RULA", "Rapid Upper Limb Assessment",
+            "Repetitive Upper Limb Assessment", "RULA (Rapid Upper Limb Assessment)2.htm", nullptr,
+            nullptr},
+    ToolRow{Tool::Hal, "hal", "", "", "ACGIH: Hand Activity Level",
+            "ACGIH Hand Activity Level2.htm", nullptr, nullptr},
+};
+
+}  // namespace
+
+std::span<const ToolRow> Tools() { return kTools; }
+
+const ToolRow& RowOf(Tool tool) { return kTools[static_cast<std::size_t>(tool)]; }
+
+}  // namespace halvane
