@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QTextEdit>
+
+#include "core/rich_text.h"
+
+namespace halvane {
+
+/// The report pane on screen: shows a `RichText` as black on white paper, in light and dark
+/// palettes alike, since that is how it prints. Nobody types in it.
+class RichTextBox : public QTextEdit {
+  Q_OBJECT
+ public:
+  explicit RichTextBox(QWidget* parent = nullptr);
+
+  /// Shows `report` with the caret at its start.
+  void ShowReport(const RichText& report);
+
+  /// Selects `length` characters from `start` on; a line end is one character here.
+  void Select(int start, int length);
+  /// Selects the whole text.
+  void SelectAll();
+  [[nodiscard]] QString SelectedText() const;
+};
+
+}  // namespace halvane

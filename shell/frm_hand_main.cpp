@@ -1,0 +1,255 @@
+#include "shell/frm_hand_main.h"
+
+#include <QAction>
+#include <QActionGroup>
+#include <QCloseEvent>
+#include <QMenu>
+#include <QMouseEvent>
+#include <QPushButton>
+#include <QStyle>
+#include <QTimer>
+#include <QToolButton>
+
+#include "core/job_state.h"
+#include "core/units.h"
+#include "shell/frm_about.h"
+#include "shell/hand_main_look.h"
+#include "shell/layout.h"
+#include "shell/menu_item.h"
+#include "shell/platform.h"
+#include "shell/program_title.h"
+#include "shell/tool_form.h"
+#include "shell/tool_forms.h"
+
+namespace halvane {
+namespace {
+
+constexpr int kOpeningMilliseconds = 3500;
+constexpr auto kExitQuestion = "Exit Program?";
+constexpr auto kSaveQuestion = "Save data before exiting this program?";
+
+QString Text(std::string_view text) {
+  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+}  // namespace
+
+FrmHandMain::FrmHandMain() : fileCommands_(*this), Timer1_(new QTimer(this)) {
+  setObjectName("frmHand_Main");
+  setWindowTitle("Halvane Tools V1.0");
+  setMouseTracking(true);
+  MakeMenus();
+  MakeButtons();
+  HandMainLook::Arrange(*this);
+  Timer1_->setObjectName("Timer1");
+  Timer1_->setSingleShot(true);
+  connect(Timer1_, &QTimer::timeout, this, &FrmHandMain::Timer1_Timer);
+  Load();
+}
+
+FrmHandMain::~FrmHandMain() = default;
+
+void FrmHandMain::Load() {
+  Module1.JobDirty = kFalse;
+  JobReset();
+  ShowUnits();
+  EnableShortcuts(false);
+  Timer1_->start(kOpeningMilliseconds);
+}
+
+void FrmHandMain::MakeMenus() {
+  mnuPopUp1_ = new QMenu("Popup1", this);
+  mnuPopUp1_->setObjectName("mnuPopUp1");
+  QMenu& file = *mnuPopUp1_;
+  AddMenuItem(file, "mnuNew", "New", this, &FrmHandMain::mnuNew_Click)
+      ->setShortcut(Qt::CTRL | Qt::Key_N);
+  AddMenuItem(file, "mnuOpen", "Open", this, &FrmHandMain::mnuOpen_Click)
+      ->setShortcut(Qt::CTRL | Qt::Key_O);
+  file.addSeparator();
+  AddMenuItem(file, "mnuSave", "Save", this, &FrmHandMain::mnuSave_Click)
+      ->setShortcut(Qt::CTRL | Qt::Key_S);
+  AddMenuItem(file, "mnuSaveAs", "Save As...", this, &FrmHandMain::mnuSaveAs_Click);
+  file.addSeparator();
+  QMenu& unit = *file.addMenu("Unit");
+  unit.menuAction()->setObjectName("mnuUnit");
+  mnuMetric_ = AddMenuItem(unit, "mnuMetric", "Metric", this, &FrmHandMain::mnuMetric_Click);
+  mnuEnglish_ = AddMenuItem(unit, "mnuEnglish", "English", this, &FrmHandMain::mnuEnglish_Click);
+  auto* units = new QActionGroup(this);
+  for (QAction* choice : {mnuMetric_, mnuEnglish_}) {
+    choice->setCheckable(true);
+    units->addAction(choice);
+  }
+  file.addSeparator();
+  AddMenuItem(file, "mnuExit", "Exit Program", this, &FrmHandMain::mnuExit_Click);
+  // The menu never stands in a bar, so the window itself has to know its shortcuts.
+  addActions(file.actions());
+
+  mnuPopup2_ = new QMenu("Popup2", this);
+  mnuPopup2_->setObjectName("mnuPopup2");
+  // The program has no help file yet.
+  AddMenuItem(*mnuPopup2_, "mnuContent", "Content...")->setEnabled(false);
+  mnuPopup2_->addSeparator();
+  AddMenuItem(*mnuPopup2_, "mnuAbout", "About Ostrel...", this, &FrmHandMain::mnuAbout_Click);
+}
+
+void FrmHandMain::MakeButtons() {
+  for (const ToolRow& row : Tools()) {
+    if (row.buttonCaption.empty()) continue;
+    const int index = static_cast<int>(SSCommand2_.size());
+    auto* button = new QPushButton(Text(row.buttonCaption), this);
+    button->setObjectName(ElementName("SSCommand2", index));
+    button->setToolTip(Text(row.buttonTip));
+    button->setEnabled(row.isBuilt());
+    connect(button, &QPushButton::clicked, this, [this, index] { SSCommand2_Click(index); });
+    SSCommand2_.push_back(button);
+  }
+  const std::array captions{"File", "Help"};
+  const std::array tips{"File Menu", "Help Menu"};
+  for (int i = 0; i < 2; ++i) {
+    const auto at = static_cast<std::size_t>(i);
+    auto* ribbon = new QToolButton(this);
+    ribbon->setObjectName(ElementName("SSRibbon1", i));
+    ribbon->setText(captions.at(at));
+    ribbon->setToolTip(tips.at(at));
+    ribbon->setCheckable(true);
+    ribbon->setFocusPolicy(Qt::StrongFocus);
+    connect(ribbon, &QToolButton::clicked, this,
+            [this, i](bool pressed) { SSRibbon1_Click(i, pressed); });
+    SSRibbon1_.push_back(ribbon);
+  }
+  const std::array closeTips{"Close", "Minimize"};
+  const std::array icons{QStyle::SP_TitleBarCloseButton, QStyle::SP_TitleBarMinButton};
+  for (int i = 0; i < 2; ++i) {
+    const auto at = static_cast<std::size_t>(i);
+    auto* button = new QToolButton(this);
+    button->setObjectName(ElementName("SSCommand3", i));
+    button->setToolTip(closeTips.at(at));
+    button->setAccessibleName(closeTips.at(at));
+    button->setIcon(style()->standardIcon(icons.at(at)));
+    button->setFocusPolicy(Qt::StrongFocus);
+    connect(button, &QToolButton::clicked, this, [this, i] { SSCommand3_Click(i); });
+    SSCommand3_.push_back(button);
+  }
+  SSCommand1_ = new QPushButton("ssCommand1", this);
+  SSCommand1_->setObjectName("SSCommand1");
+  connect(SSCommand1_, &QPushButton::clicked, this, &FrmHandMain::SSCommand1_Click);
+
+  for (QWidget* control : findChildren<QAbstractButton*>()) control->hide();
+}
+
+void FrmHandMain::Timer1_Timer() {
+  Picture3_->hide();
+  for (QWidget* control : SSCommand2_) control->show();
+  for (QWidget* control : SSRibbon1_) control->show();
+  for (QWidget* control : SSCommand3_) control->show();
+  EnableShortcuts(true);
+  ParkFocus();
+}
+
+void FrmHandMain::EnableShortcuts(bool enabled) {
+  for (QAction* item : actions()) item->setEnabled(enabled);
+}
+
+void FrmHandMain::ParkFocus() {
+  SSCommand1_->setEnabled(true);
+  SSCommand1_->show();
+  SSCommand1_->setFocus();
+  SSCommand1_->setEnabled(false);
+  SSCommand1_->hide();
+  // The toolkit hands the focus of a hidden button to its neighbour.
+  if (QWidget* holder = focusWidget()) holder->clearFocus();
+}
+
+void FrmHandMain::SSCommand1_Click() { ThePlatform().EndProgram(0); }
+
+void FrmHandMain::SSCommand2_Click(int index) {
+  if (index >= 0 && index < static_cast<int>(SSCommand2_.size())) {
+    const Tool tool = Tools()[static_cast<std::size_t>(index)].tool;
+    std::unique_ptr<ToolForm>& form = forms_[tool];
+    if (!form) form = MakeToolForm(tool, this);
+    // New and Open on a tool ask for another showing; so nothing nests, and one close comes back
+    // here.
+    do {
+      form->load();
+    } while (form->exec() == ToolForm::Reload);
+  }
+  ParkFocus();
+  ReleaseRibbons();
+}
+
+void FrmHandMain::SSCommand3_Click(int index) {
+  ParkFocus();
+  if (index == 0) {
+    mnuExit_Click();
+  } else {
+    showMinimized();
+  }
+}
+
+void FrmHandMain::SSRibbon1_Click(int index, bool pressed) {
+  if (!pressed) return;
+  const QWidget* ribbon = SSRibbon1_.at(static_cast<std::size_t>(index));
+  QMenu* menu = index == 0 ? mnuPopUp1_ : mnuPopup2_;
+  menu->exec(ribbon->mapToGlobal(QPoint(0, ribbon->height())));
+}
+
+void FrmHandMain::ReleaseRibbons() {
+  for (QToolButton* ribbon : SSRibbon1_) ribbon->setChecked(false);
+}
+
+void FrmHandMain::mousePressEvent(QMouseEvent* event) {
+  ReleaseRibbons();
+  QWidget::mousePressEvent(event);
+}
+
+void FrmHandMain::mouseMoveEvent(QMouseEvent* event) {
+  ReleaseRibbons();
+  QWidget::mouseMoveEvent(event);
+}
+
+void FrmHandMain::mnuNew_Click() { fileCommands_.New(); }
+
+void FrmHandMain::mnuOpen_Click() { fileCommands_.Open(); }
+
+void FrmHandMain::mnuSave_Click() { fileCommands_.Save(); }
+
+void FrmHandMain::mnuSaveAs_Click() { fileCommands_.SaveAs(); }
+
+void FrmHandMain::mnuMetric_Click() {
+  ChooseUnits(LengthUnit::Metric);
+  ShowUnits();
+}
+
+void FrmHandMain::mnuEnglish_Click() {
+  ChooseUnits(LengthUnit::English);
+  ShowUnits();
+}
+
+void FrmHandMain::ShowUnits() {
+  const bool english = Module1.Units == static_cast<Integer>(LengthUnit::English);
+  (english ? mnuEnglish_ : mnuMetric_)->setChecked(true);
+}
+
+void FrmHandMain::mnuExit_Click() {
+  Platform& platform = ThePlatform();
+  const Answer leave =
+      platform.ShowMessage(this, kProgramTitle, kExitQuestion, {Answer::Yes, Answer::No});
+  if (leave != Answer::Yes) return;
+  if (Module1.JobDirty != kFalse) {
+    const Answer save = platform.ShowMessage(this, kProgramTitle, kSaveQuestion,
+                                             {Answer::Yes, Answer::No, Answer::Cancel});
+    if (save == Answer::Cancel) return;
+    if (save == Answer::Yes) mnuSave_Click();
+  }
+  platform.EndProgram(0);
+}
+
+void FrmHandMain::mnuAbout_Click() { FrmAbout(this).exec(); }
+
+void FrmHandMain::closeEvent(QCloseEvent* event) {
+  // The window manager's close is the close button; only the end of the program closes the window.
+  event->ignore();
+  SSCommand3_Click(0);
+}
+
+}  // namespace halvane

@@ -1,0 +1,79 @@
+#pragma once
+
+#include <QWidget>
+#include <map>
+#include <memory>
+
+#include "shell/file_commands.h"
+#include "tools/tool_table.h"
+
+class QAction;
+class QMenu;
+class QPushButton;
+class QTimer;
+class QToolButton;
+
+namespace halvane {
+
+class HandMainLook;
+class ToolForm;
+
+/// The main window: opening phase, launch buttons, file and help menus, the way out. How it looks
+/// and where things stand is the business of `HandMainLook`.
+class FrmHandMain : public QWidget {
+  Q_OBJECT
+ public:
+  FrmHandMain();
+  ~FrmHandMain() override;
+
+  // In the order of the screen.
+  void SSCommand3_Click(int index);  ///< 0 close, 1 minimise
+  void SSCommand2_Click(int index);  ///< launch buttons
+  void SSRibbon1_Click(int index, bool pressed);
+  void SSCommand1_Click();
+  void Timer1_Timer();
+
+  // In the order of the menus.
+  void mnuNew_Click();
+  void mnuOpen_Click();
+  void mnuSave_Click();
+  void mnuSaveAs_Click();
+  void mnuMetric_Click();
+  void mnuEnglish_Click();
+  void mnuExit_Click();
+  void mnuAbout_Click();
+
+  /// Takes the focus off every button, so that none stays in its focused look.
+  void ParkFocus();
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+
+ private:
+  friend class HandMainLook;
+
+  void Load();
+  void MakeMenus();
+  void MakeButtons();
+  void ReleaseRibbons();
+  void ShowUnits();
+  void EnableShortcuts(bool enabled);
+
+  FileCommands fileCommands_;
+  QTimer* Timer1_;
+  QWidget* Picture1_ = nullptr;
+  QWidget* Picture3_ = nullptr;
+  QPushButton* SSCommand1_ = nullptr;
+  std::vector<QPushButton*> SSCommand2_;
+  std::vector<QToolButton*> SSCommand3_;
+  std::vector<QToolButton*> SSRibbon1_;
+  QMenu* mnuPopUp1_ = nullptr;
+  QMenu* mnuPopup2_ = nullptr;
+  QAction* mnuMetric_ = nullptr;
+  QAction* mnuEnglish_ = nullptr;
+  std::map<Tool, std::unique_ptr<ToolForm>> forms_;
+};
+
+}  // namespace halvane

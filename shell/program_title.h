@@ -1,0 +1,9 @@
+#pragma once
+
+namespace halvane {
+
+/// The program's name as messages, windows and the desktop show it.
+inline constexpr auto kProgramTitle = "Halvane Tools";
+inline constexpr auto kMaker = "Ostrel";
+
+}  // namespace halvane

@@ -1,0 +1,141 @@
+#include "shell/tool_form.h"
+
+#include <QKeyEvent>
+#include <QMenu>
+#include <QMenuBar>
+#include <QVBoxLayout>
+
+#include "shell/controls/rich_text_box.h"
+#include "shell/frm_about.h"
+#include "shell/layout.h"
+#include "shell/menu_item.h"
+#include "shell/platform.h"
+#include "shell/silently.h"
+
+namespace halvane {
+namespace {
+
+constexpr QSize kDefaultSize{1120, 700};
+constexpr QSize kLeastSize{960, 620};
+
+QString Text(std::string_view text) {
+  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+}  // namespace
+
+ToolForm::ToolForm(Tool tool, const char* objectName, const IdentificationNames& names,
+                   QWidget* parent)
+    : QDialog(parent), row_(RowOf(tool)), fileCommands_(*this) {
+  setObjectName(objectName);
+  setWindowTitle(Text(row_.title));
+  setWindowFlags(Qt::Window | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+                 Qt::WindowMinMaxButtonsHint | Qt::WindowCloseButtonHint);
+  setMinimumSize(kLeastSize);
+  resize(kDefaultSize);
+  body_ = new QVBoxLayout(this);
+  body_->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+  body_->setSpacing(kGap);
+  identification_ = new IdentificationStrip(names, this);
+  pane_ = new RichTextBox(this);
+  connect(identification_, &IdentificationStrip::handChosen, this, &ToolForm::handChosen);
+  MakeMenus();
+}
+
+void ToolForm::MakeMenus() {
+  auto* bar = new QMenuBar(this);
+  body_->setMenuBar(bar);
+
+  QMenu& file = *bar->addMenu("&File");
+  file.setObjectName("mnuFile");
+  AddMenuItem(file, "mnuFileNew", "&New", this, &ToolForm::mnuFileNew_Click);
+  AddMenuItem(file, "mnuFileOpen", "&Open...", this, &ToolForm::mnuFileOpen_Click);
+  AddMenuItem(file, "mnuSave", "&Save", this, &ToolForm::mnuSave_Click);
+  AddMenuItem(file, "mnuSaveAs", "&Save &As...", this, &ToolForm::mnuSaveAs_Click);
+  file.addSeparator();
+  AddMenuItem(file, "mnuPrint", "&Print...", this, &ToolForm::mnuPrint_Click);
+  AddMenuItem(file, "mnuFilePrintSetup", "Print Setup...", this,
+              &ToolForm::mnuFilePrintSetup_Click);
+  file.addSeparator();
+  AddMenuItem(file, "mnuFileExit", "E&xit", this, &ToolForm::mnuFileExit_Click);
+
+  mnuEdit_ = bar->addMenu("&Edit");
+  mnuEdit_->setObjectName("mnuEdit");
+  AddMenuItem(*mnuEdit_, "mnuEditSelect", "&Select All...", this, &ToolForm::mnuEditSelect_Click);
+  AddMenuItem(*mnuEdit_, "mnuEditCopy", "&Copy Output", this, &ToolForm::mnuEditCopy_Click);
+
+  QMenu& help = *bar->addMenu("&Help");
+  help.setObjectName("mnuHelp");
+  // The program has no help file yet.
+  AddMenuItem(help, "mnuHelpContent", "&Content...")->setEnabled(false);
+  // Has no action, which is wanted.
+  AddMenuItem(help, "mnuHelpSearch", "&Search...");
+  help.addSeparator();
+  AddMenuItem(help, "mnuHelpAbout", "About Ostrel...", this, &ToolForm::mnuHelpAbout_Click);
+}
+
+void ToolForm::load() {
+  fileCommands_.Load();
+  mnuEdit_->setEnabled(false);
+  report_ = RichText();
+  pane_->ShowReport(report_);
+  loadFromJob();
+}
+
+void ToolForm::ShowReport() {
+  writeReport(report_);
+  pane_->ShowReport(report_);
+}
+
+void ToolForm::mnuFileNew_Click() {
+  if (fileCommands_.New()) done(Reload);
+}
+
+void ToolForm::mnuFileOpen_Click() {
+  if (fileCommands_.Open()) done(Reload);
+}
+
+void ToolForm::mnuSave_Click() { fileCommands_.Save(); }
+
+void ToolForm::mnuSaveAs_Click() { fileCommands_.SaveAs(); }
+
+void ToolForm::mnuPrint_Click() {
+  Silently([this] {
+    fileCommands_.SetCancelIsFailure();
+    if (!ThePlatform().ChoosePrinter(this)) return;
+    ShowReport();
+    pane_->SelectAll();
+    ThePlatform().Print(*pane_->document());
+    pane_->Select(0, 0);
+  });
+}
+
+void ToolForm::mnuFilePrintSetup_Click() {
+  Silently([this] { ThePlatform().SetUpPrinter(this); });
+}
+
+void ToolForm::mnuFileExit_Click() { done(Rejected); }
+
+void ToolForm::mnuEditSelect_Click() {
+  pane_->setFocus();
+  pane_->SelectAll();
+}
+
+void ToolForm::mnuEditCopy_Click() {
+  pane_->setFocus();
+  ThePlatform().ClearClipboard();
+  // With no selection the clipboard ends empty, which is wanted.
+  const QString selected = pane_->SelectedText();
+  if (!selected.isEmpty()) ThePlatform().SetClipboardText(selected);
+}
+
+void ToolForm::mnuHelpAbout_Click() { FrmAbout(this).exec(); }
+
+void ToolForm::keyPressEvent(QKeyEvent* event) {
+  // A dialog closes on Escape and presses a button on Return; a tool does neither.
+  const bool dialogKey = event->key() == Qt::Key_Escape || event->key() == Qt::Key_Return ||
+                         event->key() == Qt::Key_Enter;
+  if (!dialogKey) QDialog::keyPressEvent(event);
+}
+
+}  // namespace halvane

@@ -1,0 +1,80 @@
+#pragma once
+
+#include <QDialog>
+
+#include "core/rich_text.h"
+#include "shell/file_commands.h"
+#include "shell/identification_strip.h"
+#include "tools/tool_table.h"
+
+class QMenu;
+class QTabWidget;
+class QVBoxLayout;
+
+namespace halvane {
+
+class RichTextBox;
+
+/// What all six tools share: window, menus, file and report commands, identification strip, report
+/// pane. A tool says what differs through the four functions at the end. It keeps no data of the
+/// job.
+class ToolForm : public QDialog {
+  Q_OBJECT
+ public:
+  /// Result of `exec`: the job was replaced, and the form has to be loaded and shown again.
+  static constexpr int Reload = 2;
+
+  /// Brings the form to its design state and fills it from the job. Throws what the tool's load
+  /// throws.
+  void load();
+
+  /// The tool that the form is for: caption, help topic and name of its row.
+  [[nodiscard]] const ToolRow& row() const { return row_; }
+
+  // In the order of the menus.
+  void mnuFileNew_Click();
+  void mnuFileOpen_Click();
+  void mnuSave_Click();
+  void mnuSaveAs_Click();
+  void mnuPrint_Click();
+  void mnuFilePrintSetup_Click();
+  void mnuFileExit_Click();
+  void mnuEditSelect_Click();
+  void mnuEditCopy_Click();
+  void mnuHelpAbout_Click();
+
+ protected:
+  /// `objectName` is the form's own name, "frmSI".
+  ToolForm(Tool tool, const char* objectName, const IdentificationNames& names, QWidget* parent);
+
+  /// Computes, writes the report and shows it. Throws what the tool's computation throws.
+  void ShowReport();
+
+  IdentificationStrip& identification() { return *identification_; }
+  RichTextBox& RichTextBox1() { return *pane_; }
+  QMenu& mnuEdit() { return *mnuEdit_; }
+  /// The space below the menu bar; the tool puts its controls there.
+  QVBoxLayout& body() { return *body_; }
+
+  void keyPressEvent(QKeyEvent* event) override;
+
+  /// Fills the tool's controls from the job, running the handlers that a load runs.
+  virtual void loadFromJob() = 0;
+  /// Computes and writes the report.
+  virtual void writeReport(RichText& RichTextBox1) = 0;
+  /// The user chose a hand.
+  virtual void handChosen(int index) = 0;
+
+ private:
+  void MakeMenus();
+
+  const ToolRow& row_;
+  FileCommands fileCommands_;
+  RichText report_;
+  IdentificationStrip* identification_;
+  RichTextBox* pane_;
+  QMenu* mnuEdit_ = nullptr;
+  QVBoxLayout* body_;
+};
+
+}  // namespace halvane

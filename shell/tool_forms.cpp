@@ -1,0 +1,20 @@
+#include "shell/tool_forms.h"
+
+#include "shell/tool_form.h"
+#include "tools/strain_index/frm_si.h"
+
+namespace halvane {
+
+std::unique_ptr<ToolForm> MakeToolForm(Tool tool, QWidget* parent) {
+  switch (tool) {
+    case Tool::StrainIndex: return std::make_unique<FrmSI>(parent);
+    case Tool::Ocra:
+    case Tool::Ctd:
+    case Tool::Reba:
+    case Tool::Rula:
+    case Tool::Hal: return nullptr;
+  }
+  return nullptr;
+}
+
+}  // namespace halvane

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <memory>
+
+#include "tools/tool_table.h"
+
+class QWidget;
+
+namespace halvane {
+
+class ToolForm;
+
+/// A new form of a tool, not yet loaded; null for a tool that is not built.
+std::unique_ptr<ToolForm> MakeToolForm(Tool tool, QWidget* parent);
+
+}  // namespace halvane

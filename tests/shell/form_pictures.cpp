@@ -1,0 +1,67 @@
+// Draws the forms into PNG files, for looking at them and for the documents:
+// form_pictures FOLDER [JOBFILE]
+#include <QDir>
+#include <QPalette>
+#include <QTabWidget>
+#include <QTest>
+#include <cstdlib>
+#include <iostream>
+
+#include "core/job_file.h"
+#include "core/job_state.h"
+#include "shell/frm_about.h"
+#include "shell/frm_hand_main.h"
+#include "shell/halvane_application.h"
+#include "shell/tool_form.h"
+#include "shell/tool_forms.h"
+
+namespace {
+
+using halvane::Module1;
+
+void Draw(QWidget& form, const QString& path) {
+  QTest::qWait(50);
+  if (!form.grab().save(path)) {
+    std::cerr << "cannot write " << path.toStdString() << "\n";
+    std::exit(1);
+  }
+}
+
+void DrawTool(halvane::Tool tool, const QString& folder) {
+  const auto form = halvane::MakeToolForm(tool, nullptr);
+  form->load();
+  form->show();
+  auto* tabs = form->findChild<QTabWidget*>("SSTab1");
+  for (int tab = 0; tab < tabs->count(); ++tab) {
+    tabs->setCurrentIndex(tab);
+    Draw(*form, QString("%1/%2-%3.png").arg(folder, form->objectName()).arg(tab));
+  }
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  halvane::HalvaneApplication application(argc, argv);
+  if (argc < 2) {
+    std::cerr << "usage: form_pictures FOLDER [JOBFILE]\n";
+    return 2;
+  }
+  const QString folder = QString::fromLocal8Bit(argv[1]);
+  QDir().mkpath(folder);
+  halvane::FrmHandMain window;
+  window.show();
+  Draw(window, folder + "/frmHand_Main-opening.png");
+  window.Timer1_Timer();
+  Draw(window, folder + "/frmHand_Main.png");
+  halvane::FrmAbout about(&window);
+  about.show();
+  Draw(about, folder + "/frmAbout.png");
+  if (argc > 2) {
+    Module1.JobFileName = argv[2];
+    halvane::OpenJobFile();
+  }
+  for (const halvane::ToolRow& row : halvane::Tools()) {
+    if (row.isBuilt()) DrawTool(row.tool, folder);
+  }
+  return 0;
+}

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <array>
+#include <vector>
+
+#include "shell/tool_form.h"
+#include "tools/strain_index/si_controls.h"
+
+class QTabWidget;
+
+namespace halvane {
+
+class RibbonButton;
+class TextBox;
+
+/// The screen of the Strain Index tool.
+class FrmSI : public ToolForm {
+  Q_OBJECT
+ public:
+  explicit FrmSI(QWidget* parent);
+
+  // In the order of the screen.
+  void SSTab1_Click(int tab);
+  void SSOption5_Click(int index);
+  void Text1_KeyUp(int index);
+  void SSRibbon_Click(SiRibbonArray array, int index);
+
+ protected:
+  void loadFromJob() override;
+  void writeReport(RichText& RichTextBox1) override;
+  void handChosen(int index) override { SSOption5_Click(index); }
+
+ private:
+  QWidget* MakeInputTab();
+  QWidget* MakeNumberFrames(QWidget* parent);
+  QWidget* MakeRibbonFrame(SiRibbonArray array, QWidget* parent);
+  void AddNumber(QWidget* frame, const QString& label, int index);
+  void ShowControls();
+
+  SiControls controls_;
+  QTabWidget* SSTab1_;
+  std::array<TextBox*, 9> Text1_{};  ///< the boxes with numbers, at their own indexes
+  std::array<std::vector<RibbonButton*>, 3> ribbons_;
+};
+
+}  // namespace halvane
