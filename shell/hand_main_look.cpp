@@ -63,11 +63,11 @@ void HandMainLook::Arrange(FrmHandMain& form) {
   form.Picture1_ = MakeTitleStrip(form);
   form.Picture3_ = MakeOpeningPanel(form);
 
-  auto* column = new QVBoxLayout(&form);
-  column->setContentsMargins(0, 0, 0, 0);
-  column->setSpacing(0);
-  column->addWidget(form.Picture1_);
-  column->addWidget(form.Picture3_, 1);
+  auto* grid = new QGridLayout(&form);
+  grid->setContentsMargins(0, 0, 0, 0);
+  grid->setSpacing(0);
+  grid->setRowStretch(1, 1);
+  grid->addWidget(form.Picture1_, 0, 0);
 
   auto* strip = form.Picture1_->layout();
   // Minimise stands left of Close, as on other windows.
@@ -89,7 +89,10 @@ void HandMainLook::Arrange(FrmHandMain& form) {
     ribbons->addWidget(ribbon);
   }
   buttons->addLayout(ribbons);
-  column->addLayout(buttons);
+  grid->addLayout(buttons, 1, 0);
+  // The opening panel covers the place of the buttons.
+  grid->addWidget(form.Picture3_, 1, 0);
+  form.Picture3_->raise();
 }
 
 }  // namespace halvane

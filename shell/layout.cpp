@@ -27,6 +27,7 @@ TextBox* AddNumberRow(QGridLayout& grid, const QString& label, const QString& bo
   grid.addWidget(caption, row, 0);
   grid.addWidget(box, row, 1);
   grid.setColumnStretch(0, 1);
+  grid.setAlignment(Qt::AlignTop);
   return box;
 }
 

@@ -104,6 +104,8 @@ QWidget* FrmSI::MakeRibbonFrame(SiRibbonArray array, QWidget* parent) {
     auto* heading = new QLabel(Text(column.heading), box);
     heading->setAlignment(Qt::AlignHCenter | Qt::AlignBottom);
     heading->setWordWrap(true);
+    // Room for two lines everywhere, so that the rows of all frames stand level.
+    heading->setMinimumHeight(2 * heading->fontMetrics().lineSpacing());
     grid->addWidget(heading, 0, gridColumn);
     // One ribbon of a column is down; the arrow keys move within it.
     auto* group = new QButtonGroup(box);
