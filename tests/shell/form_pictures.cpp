@@ -1,5 +1,6 @@
 // Draws the forms into PNG files, for looking at them and for the documents:
-// form_pictures FOLDER [JOBFILE]
+// form_pictures FOLDER [JOBFILE], with QT_SCALE_FACTOR=2 for twice the size and HALVANE_DARK=1 for
+// the dark palette.
 #include <QDir>
 #include <QPalette>
 #include <QTabWidget>
@@ -27,6 +28,15 @@ void Draw(QWidget& form, const QString& path) {
   }
 }
 
+QPalette DarkPalette() {
+  const QColor window(45, 45, 48);
+  QPalette dark(window, window);
+  dark.setColor(QPalette::Base, QColor(30, 30, 32));
+  dark.setColor(QPalette::Highlight, QColor(42, 130, 218));
+  dark.setColor(QPalette::HighlightedText, Qt::white);
+  return dark;
+}
+
 void DrawTool(halvane::Tool tool, const QString& folder) {
   const auto form = halvane::MakeToolForm(tool, nullptr);
   form->load();
@@ -48,6 +58,7 @@ int main(int argc, char** argv) {
   }
   const QString folder = QString::fromLocal8Bit(argv[1]);
   QDir().mkpath(folder);
+  if (qEnvironmentVariableIsSet("HALVANE_DARK")) QApplication::setPalette(DarkPalette());
   halvane::FrmHandMain window;
   window.show();
   Draw(window, folder + "/frmHand_Main-opening.png");
