@@ -78,11 +78,11 @@ void SyncFolderOf(const std::string& path) {
 
 std::string PreviousOf(const std::string& path) { return path + ".previous"; }
 
-/// Copies what stands at `path` to its `.previous`, unless one is there. The copy is made under
-/// another name and gets its own only when it is whole on the disk.
-void KeepPrevious(const std::string& path) {
+/// Copies what stands at `path` to its `.previous`, unless one is there; tells whether it did. The
+/// copy is made under another name and gets its own only when it is whole on the disk.
+bool KeepPrevious(const std::string& path) {
   const std::string previous = PreviousOf(path);
-  if (access(previous.c_str(), F_OK) == 0) return;
+  if (access(previous.c_str(), F_OK) == 0) return false;
   const Descriptor source(Open(path, O_RDONLY));
   if (source.get() < 0) Fail(path, errno);
   struct stat status {};
@@ -110,6 +110,7 @@ void KeepPrevious(const std::string& path) {
     }
   }
   SyncFolderOf(path);
+  return true;
 }
 
 }  // namespace
@@ -149,13 +150,18 @@ FileReplacement::FileReplacement(const std::string& path) : path_(path) {
   const bool exists = stat(path.c_str(), &status) == 0;
   if (!exists && errno != ENOENT) Fail(path, errno);
   isRegular_ = !exists || S_ISREG(status.st_mode);
+  bool kept = false;
   if (exists && isRegular_) {
     // Tested first, so that a file that may not be written leaves no copy behind.
     if (access(path.c_str(), W_OK) != 0) Fail(path, errno);
-    KeepPrevious(path);
+    kept = KeepPrevious(path);
   }
   descriptor_ = Open(path, O_WRONLY | O_CREAT | O_TRUNC | O_NOCTTY, kNewFileMode);
-  if (descriptor_ < 0) Fail(path, errno);
+  if (descriptor_ >= 0) return;
+  const int error = errno;
+  // The file is as it was, so a copy made just now would only grow old.
+  if (kept) unlink(PreviousOf(path).c_str());
+  Fail(path, error);
 }
 
 FileReplacement::~FileReplacement() {
