@@ -1,0 +1,65 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "core/runtime_failure.h"
+
+namespace halvane {
+
+/// A new folder of its own for one test, removed with all that is in it.
+class TemporaryFolder {
+ public:
+  TemporaryFolder();
+  ~TemporaryFolder();
+  TemporaryFolder(const TemporaryFolder&) = delete;
+  TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+
+  [[nodiscard]] const std::string& path() const { return path_; }
+  /// The path of a file in it.
+  [[nodiscard]] std::string File(std::string_view name) const {
+    return path_ + "/" + std::string(name);
+  }
+  /// The names in it, sorted, a blank between them.
+  [[nodiscard]] std::string Names() const;
+
+ private:
+  std::string path_;
+};
+
+/// While it lives, the test has the rights of a user who owns nothing, also when it runs as root.
+class RightsOfNobody {
+ public:
+  RightsOfNobody();
+  ~RightsOfNobody();
+  RightsOfNobody(const RightsOfNobody&) = delete;
+  RightsOfNobody& operator=(const RightsOfNobody&) = delete;
+
+ private:
+  bool wasRoot_;
+};
+
+std::string BytesOf(const std::string& path);
+void WriteBytes(const std::string& path, std::string_view bytes);
+bool Exists(const std::string& path);
+
+/// The text of an empty job as the program writes it, line ends as in the file, with other text in
+/// one line, counted from 1.
+std::string EmptyJobWith(int line, std::string_view text);
+/// The 64 lines of an empty job, with `taskCount` in line 2.
+std::string EmptyJobText(std::string_view taskCount = "0");
+/// The 15 lines of a task that was made and never touched.
+std::string UntouchedTaskText(int task);
+
+/// The name of the failure kind that `action` throws, "none" when it throws none.
+template <typename Action>
+std::string FailureOf(const Action& action) {
+  try {
+    action();
+  } catch (const RuntimeFailure& failure) {
+    return std::string(KindName(failure.kind()));
+  }
+  return "none";
+}
+
+}  // namespace halvane

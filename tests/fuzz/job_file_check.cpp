@@ -1,0 +1,115 @@
+#include "tests/fuzz/job_file_check.h"
+
+#include <sys/mman.h>
+#include <unistd.h>
+
+#include <cstdlib>
+#include <variant>
+
+#include "core/job_fields.h"
+#include "core/job_file.h"
+#include "core/job_text_encoding.h"
+#include "core/runtime_failure.h"
+
+namespace halvane {
+namespace {
+
+/// A file without a folder, which the reader opens by its path like any other.
+class MemoryFile {
+ public:
+  explicit MemoryFile(std::string_view bytes) : descriptor_(memfd_create("job", MFD_CLOEXEC)) {
+    if (descriptor_ < 0) std::abort();
+    while (!bytes.empty()) {
+      const ssize_t written = write(descriptor_, bytes.data(), bytes.size());
+      if (written <= 0) std::abort();
+      bytes.remove_prefix(static_cast<std::size_t>(written));
+    }
+  }
+  ~MemoryFile() { close(descriptor_); }
+  MemoryFile(const MemoryFile&) = delete;
+  MemoryFile& operator=(const MemoryFile&) = delete;
+
+  [[nodiscard]] std::string path() const { return "/proc/self/fd/" + std::to_string(descriptor_); }
+
+ private:
+  int descriptor_;
+};
+
+/// Looks at every text of a job.
+class TextScan {
+ public:
+  void HeaderLine() {}
+  template <typename... T>
+  void Line(const JobField<T>&... fields) {
+    (Look(fields.value), ...);
+  }
+
+  [[nodiscard]] bool foundQuote() const { return foundQuote_; }
+  [[nodiscard]] bool allUtf8() const { return allUtf8_; }
+
+ private:
+  void Look(const std::string& text) {
+    foundQuote_ = foundQuote_ || text.find('"') != std::string::npos;
+    allUtf8_ = allUtf8_ && IsUtf8(text);
+  }
+  void Look(const TaggedField& field) {
+    if (const auto* text = std::get_if<std::string>(&field.value())) Look(*text);
+  }
+  void Look(Integer /*number*/) {}
+  void Look(double /*number*/) {}
+
+  bool foundQuote_ = false;
+  bool allUtf8_ = true;
+};
+
+std::string Open(std::string_view bytes) {
+  Module1 = JobState{};
+  const MemoryFile file(bytes);
+  Module1.JobFileName = file.path();
+  try {
+    return OpenJobFile() == OpenOutcome::Opened ? "Opened" : "NotAJobFile";
+  } catch (const RuntimeFailure& failure) {
+    return std::string(KindName(failure.kind()));
+  }
+}
+
+/// What has to hold of the job after any try to open a file.
+std::string ProblemOf(const std::string& outcome) {
+  if (Module1.JobDirty != kFalse) return "JobDirty is set";
+  if (outcome == "Opened" && Module1.JobFileOpen) return "a file read whole stays open";
+  if (outcome == "NotAJobFile") {
+    JobState untouched;
+    untouched.JobFileName = Module1.JobFileName;
+    if (Module1 != untouched) return "a refused file changed the job";
+  }
+  if ((outcome == "InputPastEnd" || outcome == "TypeMismatch") && !Module1.JobFileOpen) {
+    return "a file that failed half way does not stay open";
+  }
+  return {};
+}
+
+}  // namespace
+
+JobFileVerdict CheckJobFile(std::string_view bytes) {
+  JobFileVerdict verdict;
+  verdict.outcome = Open(bytes);
+  verdict.problem = ProblemOf(verdict.outcome);
+  if (!verdict.problem.empty() || verdict.outcome != "Opened") return verdict;
+
+  TextScan texts;
+  VisitJobFields(Module1, texts);
+  if (!texts.allUtf8()) verdict.problem = "a text of the job is no UTF-8";
+  if (texts.foundQuote()) return verdict;
+
+  verdict.roundTripTried = true;
+  const std::string first = JobFileBytes(Module1);
+  const std::string outcome = Open(first);
+  if (outcome != "Opened") {
+    verdict.problem = "what was written does not read: " + outcome;
+  } else if (JobFileBytes(Module1) != first) {
+    verdict.problem = "writing, reading and writing again gives other bytes";
+  }
+  return verdict;
+}
+
+}  // namespace halvane
