@@ -99,7 +99,8 @@ Decimal ToDecimal(double value) {
   const std::size_t mark = text.find('e');
   Decimal decimal;
   decimal.negative = std::signbit(value);
-  decimal.digits = std::string(text.substr(0, 1)) + std::string(text.substr(2, mark - 2));
+  decimal.digits.reserve(kSignificantDigits);
+  decimal.digits.append(text.substr(0, 1)).append(text.substr(2, mark - 2));
   const std::string_view exponent = text.substr(mark + (text[mark + 1] == '+' ? 2 : 1));
   std::from_chars(exponent.data(), exponent.data() + exponent.size(), decimal.exponent);
   ++decimal.exponent;
