@@ -1,0 +1,21 @@
+#pragma once
+
+#include "reporter/report_writer.h"
+
+namespace halvane {
+
+/// Reports as one page that needs nothing else: pictures inline, no script, a sheet of paper for
+/// each report when printed.
+class HtmlWriter : public ReportWriter {
+ public:
+  void Begin(std::string& out) override;
+  void Report(std::string& out, std::string_view file, const ToolRow& tool, const RichText& report,
+              const std::vector<WorkingValue>& results) override;
+  void ToolFailed(std::string& out, std::string_view file, const ToolRow& tool,
+                  const ReportFailure& failure) override;
+  void FileFailed(std::string& out, std::string_view file, std::span<const ToolRow* const> tools,
+                  const ReportFailure& failure) override;
+  void End(std::string& out) override;
+};
+
+}  // namespace halvane

@@ -1,0 +1,133 @@
+#include "reporter/options.h"
+
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <sstream>
+
+namespace halvane {
+namespace {
+
+/// CLI11 takes an argument like "[a,b]" apart as a list. A character that no argument can hold
+/// keeps such a file name whole on its way through.
+constexpr char kGuard = '\0';
+
+void GuardBrackets(std::vector<std::string>& arguments) {
+  for (std::string& argument : arguments) {
+    if (argument.starts_with('[') && argument.ends_with(']')) argument += kGuard;
+  }
+}
+
+void RemoveGuard(std::string& argument) {
+  if (argument.ends_with(kGuard)) argument.pop_back();
+}
+
+struct FormatName {
+  std::string_view name;
+  ReportFormat format;
+};
+
+constexpr std::array kFormats{
+    FormatName{"text", ReportFormat::Text},
+    FormatName{"json", ReportFormat::Json},
+    FormatName{"html", ReportFormat::Html},
+};
+
+const FormatName* FormatNamed(std::string_view name) {
+  const auto* const found = std::find_if(kFormats.begin(), kFormats.end(),
+                                         [name](auto& row) { return row.name == name; });
+  return found == kFormats.end() ? nullptr : found;
+}
+
+const ToolRow* ToolNamed(std::span<const ToolRow> tools, std::string_view key) {
+  const auto found =
+      std::find_if(tools.begin(), tools.end(), [key](auto& row) { return row.key == key; });
+  return found == tools.end() ? nullptr : &*found;
+}
+
+/// "ocra, ctd, si": the keys of the tools that are built, or of those that are not.
+std::string KeysOf(std::span<const ToolRow> tools, bool built) {
+  std::string keys;
+  for (const ToolRow& row : tools) {
+    if (row.isBuilt() != built) continue;
+    if (!keys.empty()) keys += ", ";
+    keys += row.key;
+  }
+  return keys;
+}
+
+std::string ToolHelp(std::span<const ToolRow> tools) {
+  std::string help =
+      "Tool to report on; may be given more than once. One of: " + KeysOf(tools, true) +
+      ". Without it: all of them.";
+  const std::string notBuilt = KeysOf(tools, false);
+  if (!notBuilt.empty()) help += " Not built yet: " + notBuilt + ".";
+  return help;
+}
+
+/// Why `key` names no tool to report on; empty when it does. For the parser's check of an option.
+std::string ToolComplaint(std::span<const ToolRow> tools, const std::string& key) {
+  const ToolRow* const row = ToolNamed(tools, key);
+  if (row == nullptr) return "there is no tool \"" + key + "\"";
+  if (!row->isBuilt()) return "the tool \"" + key + "\" is not built yet";
+  return {};
+}
+
+std::string FormatComplaint(const std::string& name) {
+  return FormatNamed(name) == nullptr ? "there is no format \"" + name + "\"" : std::string();
+}
+
+Options Collect(std::span<const ToolRow> tools, const std::vector<std::string>& keys,
+                const std::string& format, std::vector<std::string> files) {
+  Options options;
+  for (const std::string& key : keys) {
+    const ToolRow* const row = ToolNamed(tools, key);
+    if (std::ranges::find(options.tools, row) == options.tools.end()) options.tools.push_back(row);
+  }
+  if (keys.empty()) {
+    for (const ToolRow& row : tools) {
+      if (row.isBuilt()) options.tools.push_back(&row);
+    }
+  }
+  options.format = FormatNamed(format)->format;
+  options.files = std::move(files);
+  for (std::string& file : options.files) RemoveGuard(file);
+  return options;
+}
+
+}  // namespace
+
+std::variant<Options, Notice> ParseOptions(std::vector<std::string> arguments,
+                                           std::span<const ToolRow> tools) {
+  std::vector<std::string> keys;
+  std::string format = "text";
+  std::vector<std::string> files;
+
+  CLI::App app("Prints the reports of the tools on job files.", std::string(kProgramName));
+  app.set_version_flag("--version", std::string(kProgramName) + " " + HALVANE_VERSION);
+  app.add_option("--tool", keys, ToolHelp(tools))
+      ->type_name("NAME")
+      // Else it would take the files behind it for names of tools.
+      ->allow_extra_args(false)
+      ->check([tools](const std::string& key) { return ToolComplaint(tools, key); });
+  app.add_option("--format", format, "text (default), json (one object a line) or html (one page)")
+      ->type_name("NAME")
+      ->check(FormatComplaint);
+  app.add_option("FILE", files, "Job file (.qjt)")->type_name("")->required();
+  app.footer(
+      "Exit status: 0 all reports are done, 1 a file could not be read, a computation failed or "
+      "the output could not be written, 2 wrong use.");
+
+  GuardBrackets(arguments);
+  std::reverse(arguments.begin(), arguments.end());  // the order that the parser takes them in
+  try {
+    app.parse(std::move(arguments));
+  } catch (const CLI::ParseError& end) {
+    std::ostringstream out;
+    std::ostringstream error;
+    const bool isError = app.exit(end, out, error) != 0;
+    return Notice{isError, isError ? std::string(kProgramName) + ": " + error.str() : out.str()};
+  }
+  return Collect(tools, keys, format, std::move(files));
+}
+
+}  // namespace halvane

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <span>
+#include <string>
+#include <string_view>
+#include <variant>
+#include <vector>
+
+#include "reporter/report_writer.h"
+#include "tools/tool_table.h"
+
+namespace halvane {
+
+/// What messages of the program begin with.
+inline constexpr std::string_view kProgramName = "halvane-report";
+
+/// What the user asked for.
+struct Options {
+  std::vector<const ToolRow*> tools;  ///< each once, in the order asked for
+  ReportFormat format = ReportFormat::Text;
+  std::vector<std::string> files;
+};
+
+/// The command line asks for no report: help, the version, or wrong use.
+struct Notice {
+  bool isError;      ///< wrong use; the text is for standard error
+  std::string text;  ///< with its line end
+};
+
+/// Reads the command line without the program's name. `tools` are the tools that there are; asking
+/// for one that is not built yet is wrong use.
+std::variant<Options, Notice> ParseOptions(std::vector<std::string> arguments,
+                                           std::span<const ToolRow> tools);
+
+}  // namespace halvane

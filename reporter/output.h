@@ -1,0 +1,42 @@
+#pragma once
+
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+namespace halvane {
+
+/// How lines of text end on this system.
+extern const std::string_view kPlatformLineEnd;
+
+/// Standard output takes no more: a closed pipe, a full disk. The message is the system's reason.
+class OutputFailure : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+/// Standard output, written in large pieces.
+class StandardOutput {
+ public:
+  /// A closed pipe becomes an `OutputFailure` instead of the end of the program.
+  StandardOutput();
+
+  /// What is to be written; append to it.
+  std::string& pending() { return pending_; }
+  /// Writes what is pending once it is worth a call of the system. Throws `OutputFailure`.
+  void WriteSome() {
+    if (pending_.size() >= kPieceSize) Flush();
+  }
+  /// Writes all that is pending. Throws `OutputFailure`; what was pending is dropped.
+  void Flush();
+
+ private:
+  static constexpr std::size_t kPieceSize = 256 * 1024;
+
+  std::string pending_;
+};
+
+/// Writes to standard error. There is no one left to tell when that fails.
+void WriteErrorText(std::string_view text);
+
+}  // namespace halvane

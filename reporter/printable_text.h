@@ -1,0 +1,13 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace halvane {
+
+/// `text` for a terminal or a page: what is no well-formed UTF-8 and every control character, tabs
+/// and line ends included, comes out as U+FFFD, so that nothing in a job file or its name can steer
+/// a terminal.
+std::string PrintableText(std::string_view text);
+
+}  // namespace halvane

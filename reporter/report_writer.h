@@ -1,0 +1,49 @@
+#pragma once
+
+#include <memory>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/rich_text.h"
+#include "tools/tool_table.h"
+#include "tools/working_value.h"
+
+namespace halvane {
+
+enum class ReportFormat { Text, Json, Html };
+
+/// Why there is no report: a name for programs, a sentence for people.
+struct ReportFailure {
+  std::string kind;
+  std::string message;
+};
+
+/// Puts reports into one format. Each function appends to `out`, in the order of the calls.
+class ReportWriter {
+ public:
+  ReportWriter() = default;
+  virtual ~ReportWriter() = default;
+  ReportWriter(const ReportWriter&) = delete;
+  ReportWriter& operator=(const ReportWriter&) = delete;
+
+  /// Before the first report.
+  virtual void Begin(std::string& /*out*/) {}
+  /// A tool's report on the job in `file`, and the working values that it left.
+  virtual void Report(std::string& out, std::string_view file, const ToolRow& tool,
+                      const RichText& report, const std::vector<WorkingValue>& results) = 0;
+  /// A tool's computation failed.
+  virtual void ToolFailed(std::string& out, std::string_view file, const ToolRow& tool,
+                          const ReportFailure& failure) = 0;
+  /// A file could not be read, so none of the tools has a report.
+  virtual void FileFailed(std::string& out, std::string_view file,
+                          std::span<const ToolRow* const> tools, const ReportFailure& failure) = 0;
+  /// Behind the last report.
+  virtual void End(std::string& /*out*/) {}
+};
+
+/// `several`: more than one report was asked for, so each has to say what it is on.
+std::unique_ptr<ReportWriter> MakeReportWriter(ReportFormat format, bool several);
+
+}  // namespace halvane
