@@ -30,7 +30,6 @@ QString RescueSentence() {
 
 HalvaneApplication::HalvaneApplication(int& argc, char** argv) : QApplication(argc, argv) {
   setApplicationName("halvane-tools");
-  setApplicationDisplayName(kProgramTitle);
   setApplicationVersion(HALVANE_VERSION);
   setDesktopFileName("halvane-tools");
 }

@@ -5,7 +5,6 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QRadioButton>
-#include <QSignalBlocker>
 
 #include "core/job_state.h"
 #include "shell/controls/text_box.h"
@@ -63,14 +62,11 @@ void IdentificationStrip::ShowJob() {
   workstation_->setText(QString::fromStdString(Module1.JobWorkstationId));
 }
 
+void IdentificationStrip::FocusFirst() { analyst_->setFocus(); }
+
 void IdentificationStrip::ShowHand(int index) {
-  for (std::size_t i = 0; i < hand_.size(); ++i) {
-    const QSignalBlocker blocker(hand_.at(i));
-    // An exclusive option only lets go while it is not exclusive.
-    hand_.at(i)->group()->setExclusive(false);
-    hand_.at(i)->setChecked(static_cast<int>(i) == index);
-    hand_.at(i)->group()->setExclusive(true);
-  }
+  // The group lets the other option go.
+  hand_.at(static_cast<std::size_t>(index))->setChecked(true);
 }
 
 }  // namespace halvane

@@ -26,7 +26,9 @@ class IdentificationStrip : public QWidget {
 
   /// Fills the boxes from the job.
   void ShowJob();
-  /// Shows which option is chosen; -1: none. Tells nobody.
+  /// Gives the first box the focus.
+  void FocusFirst();
+  /// Shows which option is chosen. Tells nobody.
   void ShowHand(int index);
 
  signals:

@@ -26,7 +26,7 @@ QString Text(std::string_view text) {
 
 ToolForm::ToolForm(Tool tool, const char* objectName, const IdentificationNames& names,
                    QWidget* parent)
-    : QDialog(parent), row_(RowOf(tool)), fileCommands_(*this) {
+    : QDialog(parent), row_(RowOf(tool)), names_(names), fileCommands_(*this) {
   setObjectName(objectName);
   setWindowTitle(Text(row_.title));
   setWindowFlags(Qt::Window | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
@@ -36,10 +36,14 @@ ToolForm::ToolForm(Tool tool, const char* objectName, const IdentificationNames&
   body_ = new QVBoxLayout(this);
   body_->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
   body_->setSpacing(kGap);
-  identification_ = new IdentificationStrip(names, this);
   pane_ = new RichTextBox(this);
-  connect(identification_, &IdentificationStrip::handChosen, this, &ToolForm::handChosen);
   MakeMenus();
+}
+
+IdentificationStrip* ToolForm::MakeIdentification(QWidget* stripParent) {
+  identification_ = new IdentificationStrip(names_, stripParent);
+  connect(identification_, &IdentificationStrip::handChosen, this, &ToolForm::handChosen);
+  return identification_;
 }
 
 void ToolForm::MakeMenus() {
@@ -80,6 +84,8 @@ void ToolForm::load() {
   report_ = RichText();
   pane_->ShowReport(report_);
   loadFromJob();
+  identification_->ShowJob();
+  identification_->FocusFirst();
 }
 
 void ToolForm::ShowReport() {

@@ -44,12 +44,15 @@ class ToolForm : public QDialog {
   void mnuHelpAbout_Click();
 
  protected:
-  /// `objectName` is the form's own name, "frmSI".
+  /// `objectName` is the form's own name, "frmSI"; `names` has to outlive the form.
   ToolForm(Tool tool, const char* objectName, const IdentificationNames& names, QWidget* parent);
 
   /// Computes, writes the report and shows it. Throws what the tool's computation throws.
   void ShowReport();
 
+  /// Makes the identification strip. The tool calls it where the strip stands in reading order,
+  /// since that is the order of the Tab key.
+  IdentificationStrip* MakeIdentification(QWidget* stripParent);
   IdentificationStrip& identification() { return *identification_; }
   RichTextBox& RichTextBox1() { return *pane_; }
   QMenu& mnuEdit() { return *mnuEdit_; }
@@ -69,9 +72,10 @@ class ToolForm : public QDialog {
   void MakeMenus();
 
   const ToolRow& row_;
+  const IdentificationNames& names_;
   FileCommands fileCommands_;
   RichText report_;
-  IdentificationStrip* identification_;
+  IdentificationStrip* identification_ = nullptr;
   RichTextBox* pane_;
   QMenu* mnuEdit_ = nullptr;
   QVBoxLayout* body_;

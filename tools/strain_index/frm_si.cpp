@@ -52,8 +52,7 @@ QWidget* FrmSI::MakeInputTab() {
   auto* column = new QVBoxLayout(tab);
   column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
   column->setSpacing(kGap);
-  identification().setParent(tab);
-  column->addWidget(&identification());
+  column->addWidget(MakeIdentification(tab));
   column->addWidget(MakeNumberFrames(tab));
   auto* ratings = new QHBoxLayout;
   ratings->setSpacing(kGap);
@@ -140,7 +139,6 @@ void FrmSI::loadFromJob() {
   show(kExertionCount, Module1.SiExertionCount);
   show(kEffortObservationMinutes, Module1.SiEffortObservationMinutes);
   show(kDurationPerDay, Module1.JobDurationPerDay);
-  identification().ShowJob();
   ShowControls();
 }
 
