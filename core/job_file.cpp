@@ -41,8 +41,24 @@ std::string OpenForInput() {
 
 void ReadFields(const std::string& text) {
   JobTextReader reader(text);
-  VisitJobFields(Module1, reader);
+  try {
+    VisitJobFields(Module1, reader);
+  } catch (const JobReadFailure&) {
+    throw;
+  } catch (const RuntimeFailure& failure) {
+    if (Module1.TaskNames.upperBound() <= kHighestTask) throw;
+    throw reader.FailureAtNextField(failure.kind(), {"CtdLoadHeld", kHighestTask + 1, 0});
+  }
   Module1.JobFileOpen = false;
+}
+
+/// Sizes the per-task arrays for the count that `reader` has just read.
+void SizeTaskArrays(const JobTextReader& reader) {
+  try {
+    ResizeTaskArrays();
+  } catch (const RuntimeFailure& failure) {
+    throw reader.FailureAtLastField(failure.kind(), {"TaskCount"});
+  }
 }
 
 }  // namespace
@@ -77,7 +93,7 @@ OpenOutcome OpenJobFile() {
   if (isJobFile) reader.Line(Named("TaskCount", Module1.TaskCount));
   Module1.JobFileOpen = false;
   if (!isJobFile) return OpenOutcome::NotAJobFile;
-  ResizeTaskArrays();
+  SizeTaskArrays(reader);
   PrepareRead();
   // The same text again instead of a second reading, so that no change in between can come through.
   Module1.JobFileOpen = true;

@@ -28,8 +28,8 @@ void WriteJobFile();
 void ReadJobFile();
 
 /// Opens `JobFileName` as the Open commands do: tests the marker, reads `TaskCount`, sizes the
-/// per-task arrays and reads the job. Throws as `ReadJobFile` and `ResizeTaskArrays` do; a task
-/// count that no array can have leaves the file closed.
+/// per-task arrays and reads the job. Throws as `ReadJobFile` does, and a `JobReadFailure` for a
+/// task count that no array can have, which leaves the file closed.
 OpenOutcome OpenJobFile();
 
 /// The bytes of a job file for `job`. Throws `SubscriptOutOfRange` at task 41.

@@ -82,12 +82,14 @@ JobTextReader::FieldText JobTextReader::NextField(const FieldName& name) {
   if (text_[start] != '"') {
     const std::size_t end = SeparatorFrom(text_, start);
     PassSeparator(end);
-    return {text_.substr(start, end - start), false};
+    lastText_ = text_.substr(start, end - start);
+    return {lastText_, false};
   }
   // Without a closing quote the field takes the rest of the file.
   const std::size_t close = std::min(text_.find('"', start + 1), text_.size());
   PassSeparator(SeparatorFrom(text_, std::min(close + 1, text_.size())));
-  return {text_.substr(start + 1, close - start - 1), true};
+  lastText_ = text_.substr(start + 1, close - start - 1);
+  return {lastText_, true};
 }
 
 void JobTextReader::PassSeparator(std::size_t separator) {
@@ -95,9 +97,17 @@ void JobTextReader::PassSeparator(std::size_t separator) {
   position_ = std::min(separator + (lineEndOfTwo ? 2 : 1), text_.size());
 }
 
-int JobTextReader::fieldLine() const {
+JobReadFailure JobTextReader::FailureAtLastField(FailureKind kind, const FieldName& name) const {
+  return {kind, fieldLine(), name, lastText_};
+}
+
+JobReadFailure JobTextReader::FailureAtNextField(FailureKind kind, const FieldName& name) const {
+  return {kind, LineAt(position_), name, {}};
+}
+
+int JobTextReader::LineAt(std::size_t position) const {
   int line = 1;
-  for (std::size_t i = 0; i < fieldStart_; ++i) {
+  for (std::size_t i = 0; i < position; ++i) {
     const bool returnAlone = text_[i] == '\r' && (i + 1 == text_.size() || text_[i + 1] != '\n');
     if (text_[i] == '\n' || returnAlone) ++line;
   }

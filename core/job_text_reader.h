@@ -45,6 +45,11 @@ class JobTextReader {
     (ReadField(fields.name, fields.value), ...);
   }
 
+  /// The failure of what was to be done with the field that was read last.
+  [[nodiscard]] JobReadFailure FailureAtLastField(FailureKind kind, const FieldName& name) const;
+  /// The failure of a field that has no place in the job, so that it was not read.
+  [[nodiscard]] JobReadFailure FailureAtNextField(FailureKind kind, const FieldName& name) const;
+
  private:
   struct FieldText {
     std::string_view text;
@@ -65,7 +70,8 @@ class JobTextReader {
 
   FieldText NextField(const FieldName& name);
   void PassSeparator(std::size_t separator);
-  [[nodiscard]] int fieldLine() const;
+  [[nodiscard]] int fieldLine() const { return LineAt(fieldStart_); }
+  [[nodiscard]] int LineAt(std::size_t position) const;
 
   static void Read(FieldText field, std::string& target);
   static void Read(FieldText field, Integer& target);
@@ -75,6 +81,7 @@ class JobTextReader {
   std::string_view text_;
   std::size_t position_ = 0;
   std::size_t fieldStart_ = 0;
+  std::string_view lastText_;
 };
 
 }  // namespace halvane
