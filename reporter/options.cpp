@@ -4,6 +4,9 @@
 #include <algorithm>
 #include <sstream>
 
+#include "reporter/output.h"
+#include "reporter/printable_text.h"
+
 namespace halvane {
 namespace {
 
@@ -94,6 +97,13 @@ Options Collect(std::span<const ToolRow> tools, const std::vector<std::string>& 
   return options;
 }
 
+std::string WrongUse(std::string_view complaint) {
+  const std::string name(kProgramName);
+  const std::string lineEnd(kPlatformLineEnd);
+  return name + ": " + PrintableText(complaint) + lineEnd + "Run \"" + name +
+         " --help\" for the options." + lineEnd;
+}
+
 }  // namespace
 
 std::variant<Options, Notice> ParseOptions(std::vector<std::string> arguments,
@@ -123,9 +133,8 @@ std::variant<Options, Notice> ParseOptions(std::vector<std::string> arguments,
     app.parse(std::move(arguments));
   } catch (const CLI::ParseError& end) {
     std::ostringstream out;
-    std::ostringstream error;
-    const bool isError = app.exit(end, out, error) != 0;
-    return Notice{isError, isError ? std::string(kProgramName) + ": " + error.str() : out.str()};
+    if (app.exit(end, out, out) == 0) return Notice{false, out.str()};
+    return Notice{true, WrongUse(end.what())};
   }
   return Collect(tools, keys, format, std::move(files));
 }
