@@ -150,6 +150,10 @@ FileReplacement::FileReplacement(const std::string& path) : path_(path) {
   const bool exists = stat(path.c_str(), &status) == 0;
   if (!exists && errno != ENOENT) Fail(path, errno);
   isRegular_ = !exists || S_ISREG(status.st_mode);
+  // Opening a pipe would wait for somebody to read from it.
+  if (exists && S_ISFIFO(status.st_mode)) {
+    throw RuntimeFailure(FailureKind::FileError, path + ": not a regular file");
+  }
   bool kept = false;
   if (exists && isRegular_) {
     // Tested first, so that a file that may not be written leaves no copy behind.
