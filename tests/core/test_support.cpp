@@ -45,14 +45,14 @@ std::string TemporaryFolder::Names() const {
 }
 
 RightsOfNobody::RightsOfNobody() : wasRoot_(geteuid() == 0) {
-  if (wasRoot_ && seteuid(kNobody) != 0) {
-    throw std::system_error(errno, std::generic_category(), "seteuid");
+  if (wasRoot_ && setresuid(kNobody, kNobody, 0) != 0) {
+    throw std::system_error(errno, std::generic_category(), "setresuid");
   }
 }
 
 RightsOfNobody::~RightsOfNobody() {
   // With the wrong rights no later test would mean anything.
-  if (wasRoot_ && seteuid(0) != 0) std::abort();
+  if (wasRoot_ && setresuid(0, 0, 0) != 0) std::abort();
 }
 
 std::string BytesOf(const std::string& path) {
@@ -88,6 +88,55 @@ std::string EmptyJobWith(int line, std::string_view text) {
     job += "\r\n";
   }
   return job;
+}
+
+std::string_view FilledJobText() {
+  return "\"qjt\",1,0,0,0\r\n"
+         "2\r\n"
+         "\"7.5\",1.25,301\r\n"
+         "\"Ann, A.\",\"Press line\",\"W-17\",1,\"7.5\"\r\n"
+         "\"11\",12.5,13,\r\n"
+         "100\r\n101\r\n102\r\n103\r\n104\r\n105\r\n106\r\n107\r\n108\r\n109\r\n"
+         "110\r\n111\r\n112\r\n113\r\n114\r\n115\r\n116\r\n117\r\n118\r\n119\r\n"
+         "200\r\n201\r\n202\r\n203\r\n204\r\n205\r\n206\r\n207\r\n208\r\n209\r\n"
+         "210\r\n211\r\n212\r\n213\r\n214\r\n215\r\n216\r\n217\r\n218\r\n219\r\n"
+         "220\r\n221\r\n222\r\n"
+         "2.5,\"21\",22,23.5,24,25,26\r\n"
+         "-30\r\n-31\r\n-32\r\n-33\r\n-34\r\n-35\r\n-36\r\n"
+         "-37\r\n-38\r\n-39\r\n-40\r\n-41\r\n-42\r\n-43\r\n"
+         "\"50\",51,52,53.5,54,55\r\n"
+         // Task 1.
+         "\"Cut\",0\r\n"
+         "1001,1002.5\r\n"
+         "1003.5,1004,\"1005\",1006.5,1001,1007.25,1008.5\r\n"
+         "1009,1010,1011.5,1012.5\r\n"
+         "1004,\"1005\",1006.5,1013.5,1007.25,1008.5\r\n"
+         "1009,1010,1011.5,1012.5\r\n"
+         "1014,\"1015\",1016.5,,1017,1018,1019,1020\r\n"
+         "0.125,1E-05\r\n"
+         "1.125,2E-05\r\n"
+         "2.125,3E-05\r\n"
+         "3.125,4E-05\r\n"
+         "4.125,5E-05\r\n"
+         "5.125,6E-05\r\n"
+         "6.125,7E-05\r\n"
+         "7.125,8E-05\r\n"
+         // Task 2.
+         "\"Fold\",\"1\"\r\n"
+         "\"2001\",-2002.5\r\n"
+         "-2003.5,2004.5,,2006.5,\"2001\",,2008.5\r\n"
+         "\"2009\",-2010,\"2011\",-2012.5\r\n"
+         "2004.5,,2006.5,2013.5,,2008.5\r\n"
+         "\"2009\",-2010,\"2011\",-2012.5\r\n"
+         ",,,,,,,-2020\r\n"
+         "0.0625,1E+15\r\n"
+         "1.0625,2E+15\r\n"
+         "2.0625,3E+15\r\n"
+         "3.0625,4E+15\r\n"
+         "4.0625,5E+15\r\n"
+         "5.0625,6E+15\r\n"
+         "6.0625,7E+15\r\n"
+         "7.0625,1.5E+20\r\n";
 }
 
 std::string EmptyJobText(std::string_view taskCount) { return EmptyJobWith(2, taskCount); }

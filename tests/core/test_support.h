@@ -48,6 +48,8 @@ bool Exists(const std::string& path);
 std::string EmptyJobWith(int line, std::string_view text);
 /// The 64 lines of an empty job, with `taskCount` in line 2.
 std::string EmptyJobText(std::string_view taskCount = "0");
+/// A job of two tasks with another value in every field and every kind in the tagged ones.
+std::string_view FilledJobText();
 /// The 15 lines of a task that was made and never touched.
 std::string UntouchedTaskText(int task);
 
