@@ -1,0 +1,118 @@
+#!/usr/bin/env python3
+"""Plants violations in a tree of their own and sees each check find them, and nothing else."""
+
+import pathlib
+import tempfile
+import unittest
+
+import check_sources
+
+CLEAN_TREE = {
+    "core/text.h": '#pragma once\n#include <string>\n#include "core/other.h"\n',
+    "core/number_text.cpp": "#include <charconv>\nauto r = std::from_chars(a, b, value);\n",
+    "core/platform_posix.cpp": "#include <fcntl.h>\n#include <unistd.h>\n",
+    "tools/rula/score.cpp": '#include <array>\n#include "core/text.h"\n#include "tools/table.h"\n',
+    "tools/rula/frm_rula.h": '#include <QWidget>\n#include "shell/tool_form.h"\n',
+    "shell/main.cpp": "// QMessageBox is not for us\nint main() { return program.exec(); }\n",
+    "shell/platform_qt.cpp": "#include <QMessageBox>\nvoid End() { QCoreApplication::exit(1); }\n",
+    "help/viewer.cpp": '#include "shell/platform.h"\nconst char* kText = "strtod(";\n',
+    "reporter/main.cpp": "#include <CLI/CLI.hpp>\nreturn app.exit(error);\n",
+    "docs/architecture.md": "# How\n[`core/text.h`](../core/text.h), [above](#how)\n",
+}
+
+# (label, check, path, text, what the finding says)
+PLANTED = (
+    ("Qt in core", "includes", "core/a.cpp", "#include <QString>\n", "<QString>"),
+    ("Qt in core, spaced", "includes", "core/a.cpp", "\n #  include  <QString> // why\n", "a.cpp:2:"),
+    ("Qt in a tool's logic", "includes", "tools/rula/a.h", "#include <QWidget>\n", "<QWidget>"),
+    ("Qt in the reporter", "includes", "reporter/a.cpp", "#include <QtCore>\n", "<QtCore>"),
+    ("a package in core", "includes", "core/a.h", "#include <nlohmann/json.hpp>\n", "nlohmann"),
+    ("POSIX elsewhere", "includes", "core/a.cpp", "#include <unistd.h>\n", "<unistd.h>"),
+    ("a macro's include", "includes", "core/a.cpp", "#include WHAT\n", "WHAT"),
+    ("an unrooted include", "includes", "core/a.cpp", '#include "text.h"\n', "text.h"),
+    ("an include by ..", "includes", "core/a.cpp", '#include "../shell/a.h"\n', "shell"),
+    ("core includes a tool", "includes", "core/a.cpp", '#include "tools/table.h"\n', "tools"),
+    ("core includes the shell", "includes", "core/a.cpp", '#include "shell/a.h"\n', "shell"),
+    ("core includes the reporter", "includes", "core/a.h", '#include "reporter/a.h"\n', "reporter"),
+    ("logic includes the shell", "includes", "tools/hal/a.cpp", '#include "shell/a.h"\n', "shell"),
+    ("logic includes the help", "includes", "tools/hal/a.cpp", '#include "help/a.h"\n', "help"),
+    ("logic includes a form", "includes", "tools/hal/a.cpp", '#include "tools/hal/frm_hal.h"\n', "frm_"),
+    ("logic includes the reporter", "includes", "tools/a.cpp", '#include "reporter/a.h"\n', "reporter"),
+    ("a form includes the reporter", "includes", "shell/a.cpp", '#include "reporter/a.h"\n', "reporter"),
+    ("a message box", "raw-calls", "shell/a.cpp", "QMessageBox box;\n", "QMessageBox"),
+    ("a message box's header", "raw-calls", "shell/a.h", "#include <QMessageBox>\n", "QMessageBox"),
+    ("a file dialog", "raw-calls", "tools/hal/frm_hal.cpp", "QFileDialog::getOpenFileName();\n", "QFileDialog"),
+    ("a print dialog", "raw-calls", "shell/a.cpp", "QPrintDialog d;\n", "QPrintDialog"),
+    ("a page set-up dialog", "raw-calls", "shell/a.cpp", "QPageSetupDialog d;\n", "QPageSetup"),
+    ("a printer", "raw-calls", "help/a.cpp", "QPrinter printer;\n", "QPrinter"),
+    ("the clipboard's class", "raw-calls", "shell/a.cpp", "QClipboard* c;\n", "QClipboard"),
+    ("the clipboard", "raw-calls", "shell/a.cpp", "QGuiApplication::clipboard()->clear();\n", "clipboard"),
+    ("the registry", "raw-calls", "shell/a.cpp", "QSettings s;\n", "QSettings"),
+    ("a process", "raw-calls", "shell/a.cpp", "QProcess p;\n", "QProcess"),
+    ("a browser", "raw-calls", "help/a.cpp", "QDesktopServices::openUrl(u);\n", "QDesktopServices"),
+    ("a shell command", "raw-calls", "core/a.cpp", "std::system(text);\n", "system"),
+    ("the end by Qt", "raw-calls", "shell/a.cpp", "QCoreApplication::exit(1);\n", "exit"),
+    ("the end by qApp", "raw-calls", "shell/a.cpp", "qApp->exit(1);\n", "exit"),
+    ("the end by quit", "raw-calls", "shell/a.cpp", "connect(a, b, c, &QApplication::quit);\n", "quit"),
+    ("the end by the library", "raw-calls", "core/a.cpp", "\n\nstd::exit(1);\n", "a.cpp:3:"),
+    ("the end by exit", "raw-calls", "reporter/a.cpp", "  exit(1);\n", "exit"),
+    ("the end by abort", "raw-calls", "core/a.cpp", "std::abort();\n", "abort"),
+    ("a raw call behind a literal", "raw-calls", "core/a.cpp", 'f("//"); std::exit(1);\n', "exit"),
+    ("a raw call behind digits", "raw-calls", "core/a.cpp", "f(1'000); std::exit(1); f('a');\n", "exit"),
+    ("atof", "number-calls", "core/a.cpp", "auto v = atof(t);\n", "atof"),
+    ("strtod", "number-calls", "tools/hal/a.cpp", "auto v = std::strtod(t, 0);\n", "strtod"),
+    ("stod", "number-calls", "reporter/a.cpp", "auto v = std::stod(t);\n", "stod"),
+    ("QString::number", "number-calls", "shell/a.cpp", "QString::number(v);\n", "QString::number"),
+    ("toDouble", "number-calls", "tools/hal/frm_hal.cpp", "text.toDouble();\n", "toDouble"),
+    ("from_chars elsewhere", "number-calls", "core/a.cpp", "std::from_chars(a, b, v);\n", "from_chars"),
+    ("to_string", "number-calls", "tools/hal/a.cpp", "std::to_string(v);\n", "to_string"),
+    ("a stream", "number-calls", "tools/hal/a.cpp", "std::ostringstream s;\n", "ostringstream"),
+    ("snprintf", "number-calls", "core/a.cpp", "snprintf(b, n, f, v);\n", "snprintf"),
+    ("a long source", "sizes", "core/a.cpp", "\n" * 501, "501 lines, at most 500"),
+    ("a long form header", "sizes", "tools/hal/frm_hal.h", "\n" * 121, "121 lines, at most 120"),
+    ("a dead link", "documents", "README.md", "[a](docs/none.md)\n", "docs/none.md leads nowhere"),
+    ("a dead picture", "documents", "README.md", '<img src="none.png">\n', "none.png leads nowhere"),
+    ("a dead heading", "documents", "README.md", "[a](docs/architecture.md#none)\n", "#none"),
+    ("a file named without a link", "documents", "docs/architecture.md", "`core/text.h`\n", "core/text.h"),
+)
+
+
+class CheckSourcesTest(unittest.TestCase):
+    def findings(self, check, files):
+        with tempfile.TemporaryDirectory() as folder:
+            root = pathlib.Path(folder)
+            for path, text in files.items():
+                (root / path).parent.mkdir(parents=True, exist_ok=True)
+                (root / path).write_text(text, encoding="utf-8")
+            return list(check_sources.CHECKS[check](root))
+
+    def test_nothing_is_found_in_a_clean_tree(self):
+        for check in check_sources.CHECKS:
+            with self.subTest(check):
+                self.assertEqual(self.findings(check, CLEAN_TREE), [])
+
+    def test_every_planted_violation_is_found(self):
+        for label, check, path, text, expected in PLANTED:
+            with self.subTest(label):
+                found = self.findings(check, {**CLEAN_TREE, path: text})
+                self.assertEqual(len(found), 1, found)
+                self.assertTrue(found[0].startswith(path), found)
+                self.assertIn(expected, found[0])
+
+    def test_a_file_at_its_budget_passes(self):
+        files = {"core/a.cpp": "\n" * 500, "tools/hal/frm_hal.h": "\n" * 120}
+        self.assertEqual(self.findings("sizes", {**CLEAN_TREE, **files}), [])
+
+    def test_a_missing_architecture_page_is_found(self):
+        files = {path: text for path, text in CLEAN_TREE.items() if not path.startswith("docs")}
+        self.assertEqual(
+            self.findings("documents", files), ["docs/architecture.md: is missing"]
+        )
+
+    def test_a_tree_without_sources_is_no_success(self):
+        with self.assertRaises(SystemExit):
+            self.findings("includes", {"docs/architecture.md": "# How\n"})
+
+
+if __name__ == "__main__":
+    unittest.main()

@@ -1,0 +1,4 @@
+#pragma once
+
+/// Names a type without its header: it compiles only behind one that includes <string>.
+std::string LeansOnItsIncluder();
