@@ -57,9 +57,14 @@ TextBox* IdentificationStrip::AddBox(const QString& label, const QString& name) 
 }
 
 void IdentificationStrip::ShowJob() {
-  analyst_->setText(QString::fromStdString(Module1.JobAnalyst.AsText()));
-  jobName_->setText(QString::fromStdString(Module1.JobName.AsText()));
-  workstation_->setText(QString::fromStdString(Module1.JobWorkstationId));
+  const auto show = [](TextBox& box, const std::string& text) {
+    box.setText(QString::fromStdString(text));
+    // A long text shows its beginning.
+    box.setCursorPosition(0);
+  };
+  show(*analyst_, Module1.JobAnalyst.AsText());
+  show(*jobName_, Module1.JobName.AsText());
+  show(*workstation_, Module1.JobWorkstationId);
 }
 
 void IdentificationStrip::FocusFirst() { analyst_->setFocus(); }

@@ -103,6 +103,7 @@ QWidget* FrmSI::MakeRibbonFrame(SiRibbonArray array, QWidget* parent) {
     auto* heading = new QLabel(Text(column.heading), box);
     heading->setAlignment(Qt::AlignHCenter | Qt::AlignBottom);
     heading->setWordWrap(true);
+    heading->setContentsMargins(kGap / 2, 0, kGap / 2, 0);
     // Room for two lines everywhere, so that the rows of all frames stand level.
     heading->setMinimumHeight(2 * heading->fontMetrics().lineSpacing());
     grid->addWidget(heading, 0, gridColumn);
