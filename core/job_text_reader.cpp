@@ -24,18 +24,25 @@ std::string Where(int line, const FieldName& name, std::string_view found) {
   return where;
 }
 
+/// Where the blanks and tabs from position `from` on end. Fields have none in front as a rule, so
+/// this is much faster than a search by a set of characters.
+std::size_t BlanksEnd(std::string_view text, std::size_t from) {
+  while (from < text.size() && (text[from] == ' ' || text[from] == '\t')) ++from;
+  return from;
+}
+
 /// The number in the text of a field; 0 where it holds nothing but blanks.
 double NumberIn(std::string_view text) {
-  if (text.find_first_not_of(" \t") == std::string_view::npos) return 0;
-  const auto number = WholeTextAsNumber(text);
-  if (!number) throw RuntimeFailure(FailureKind::TypeMismatch);
-  return *number;
+  if (const auto number = WholeTextAsNumber(text)) return *number;
+  if (BlanksEnd(text, 0) == text.size()) return 0;
+  throw RuntimeFailure(FailureKind::TypeMismatch);
 }
 
 /// The number in the kind that a tagged field holds it in: whole digits within 16 bits are an
 /// integer.
 TaggedField TaggedNumber(std::string_view text, double number) {
-  const bool wholeDigits = text.find_first_of(".Ee") == std::string_view::npos;
+  const bool wholeDigits = std::none_of(text.begin(), text.end(),
+                                        [](char c) { return c == '.' || c == 'E' || c == 'e'; });
   const bool fits = number >= std::numeric_limits<Integer>::min() &&
                     number <= std::numeric_limits<Integer>::max();
   if (wholeDigits && fits) return ToInteger(number);
@@ -73,8 +80,8 @@ bool JobTextReader::ReadMarkerLine() {
 }
 
 JobTextReader::FieldText JobTextReader::NextField(const FieldName& name) {
-  const std::size_t start = text_.find_first_not_of(" \t", position_);
-  if (start == std::string_view::npos) {
+  const std::size_t start = BlanksEnd(text_, position_);
+  if (start == text_.size()) {
     fieldStart_ = position_ = text_.size();
     throw JobReadFailure(FailureKind::InputPastEnd, fieldLine(), name, {});
   }

@@ -1,11 +1,97 @@
 #include "reporter/json_writer.h"
 
+#include <algorithm>
 #include <nlohmann/json.hpp>
 
 namespace halvane {
 namespace {
 
-using Json = nlohmann::ordered_json;
+// Lines are put together directly, since building a tree of values for each file takes several
+// times as long as reading the file. The library writes what needs thought: doubles, and characters
+// beyond the common ones.
+
+/// What the library makes of a value, text that is no well-formed UTF-8 replaced.
+template <typename T>
+std::string ByLibrary(const T& value) {
+  using nlohmann::json;
+  return json(value).dump(-1, ' ', false, json::error_handler_t::replace);
+}
+
+bool IsCommon(char c) { return c >= ' ' && c <= '~' && c != '"' && c != '\\'; }
+
+/// The escape of the other characters that reports are full of.
+std::string_view EscapeOf(char c) {
+  switch (c) {
+    case '\r': return "\\r";
+    case '\n': return "\\n";
+    case '\t': return "\\t";
+    case '"': return "\\\"";
+    case '\\': return "\\\\";
+    default: return {};
+  }
+}
+
+void AppendString(std::string& out, std::string_view text) {
+  out += '"';
+  while (!text.empty()) {
+    const auto* const end = std::find_if_not(text.begin(), text.end(), IsCommon);
+    out.append(text.begin(), end);
+    text.remove_prefix(static_cast<std::size_t>(end - text.begin()));
+    if (text.empty()) break;
+    const std::string_view escape = EscapeOf(text.front());
+    if (escape.empty()) {
+      const std::string rest = ByLibrary(text);
+      out.append(rest, 1, rest.size() - 2);  // without its quotes
+      break;
+    }
+    out += escape;
+    text.remove_prefix(1);
+  }
+  out += '"';
+}
+
+/// Appends the opening of a member: its name, which needs no escapes, and the colon.
+void AppendName(std::string& out, std::string_view name) {
+  out += '"';
+  out += name;
+  out += "\":";
+}
+
+void AppendBoolean(std::string& out, bool value) { out += value ? "true" : "false"; }
+
+/// Appends `[...]` or `{...}` with a comma between what `append` makes of each element.
+template <typename Range, typename Append>
+void AppendList(std::string& out, char open, char close, const Range& elements,
+                const Append& append) {
+  out += open;
+  bool isFirst = true;
+  for (const auto& element : elements) {
+    if (!isFirst) out += ',';
+    isFirst = false;
+    append(element);
+  }
+  out += close;
+}
+
+void AppendField(std::string& out, const TaggedField& field) {
+  const auto& value = field.value();
+  if (const auto* integer = std::get_if<Integer>(&value)) {
+    out += std::to_string(*integer);
+  } else if (const auto* number = std::get_if<double>(&value)) {
+    out += ByLibrary(*number);
+  } else if (const auto* text = std::get_if<std::string>(&value)) {
+    AppendString(out, *text);
+  } else {
+    out += "null";
+  }
+}
+
+void AppendResults(std::string& out, const std::vector<WorkingValue>& results) {
+  AppendList(out, '{', '}', results, [&out](const WorkingValue& result) {
+    AppendName(out, result.name);
+    AppendField(out, result.value);
+  });
+}
 
 std::string_view NameOf(Alignment alignment) {
   switch (alignment) {
@@ -16,66 +102,68 @@ std::string_view NameOf(Alignment alignment) {
   return "left";
 }
 
-Json JsonOf(const TaggedField& field) {
-  return std::visit(
-      [](const auto& value) -> Json {
-        if constexpr (std::is_same_v<std::decay_t<decltype(value)>, std::monostate>) {
-          return nullptr;
-        } else {
-          return value;
-        }
-      },
-      field.value());
+void AppendRun(std::string& out, const Run& run) {
+  out += "{\"text\":";
+  AppendString(out, run.text);
+  out += ",\"size\":";
+  out += std::to_string(run.format.size);
+  out += ",\"bold\":";
+  AppendBoolean(out, run.format.bold);
+  out += ",\"underline\":";
+  AppendBoolean(out, run.format.underline);
+  out += '}';
 }
 
-Json JsonOf(const Paragraph& paragraph) {
-  Json runs = Json::array();
-  for (const Run& run : paragraph.runs) {
-    runs.push_back({{"text", run.text},
-                    {"size", run.format.size},
-                    {"bold", run.format.bold},
-                    {"underline", run.format.underline}});
-  }
-  return {{"alignment", NameOf(paragraph.format.alignment)},
-          {"tabs", paragraph.format.tabStops},
-          {"runs", std::move(runs)}};
+void AppendParagraph(std::string& out, const Paragraph& paragraph) {
+  out += "{\"alignment\":";
+  AppendString(out, NameOf(paragraph.format.alignment));
+  out += ",\"tabs\":";
+  AppendList(out, '[', ']', paragraph.format.tabStops,
+             [&out](int stop) { out += std::to_string(stop); });
+  out += ",\"runs\":";
+  AppendList(out, '[', ']', paragraph.runs, [&out](const Run& run) { AppendRun(out, run); });
+  out += '}';
 }
 
-Json JsonOf(const RichText& report) {
-  Json paragraphs = Json::array();
-  for (const Paragraph& paragraph : report.paragraphs()) paragraphs.push_back(JsonOf(paragraph));
-  return {{"text", report.text()},
-          {"paragraphs", std::move(paragraphs)},
-          {"pictures", report.pictures()}};
+void AppendReport(std::string& out, const RichText& report) {
+  out += "{\"text\":";
+  AppendString(out, report.text());
+  out += ",\"paragraphs\":";
+  AppendList(out, '[', ']', report.paragraphs(),
+             [&out](const Paragraph& paragraph) { AppendParagraph(out, paragraph); });
+  out += ",\"pictures\":";
+  AppendList(out, '[', ']', report.pictures(),
+             [&out](const std::string& name) { AppendString(out, name); });
+  out += '}';
 }
 
-void AppendLine(std::string& out, const Json& object) {
-  out += object.dump(-1, ' ', false, Json::error_handler_t::replace);
-  out += '\n';
+void BeginLine(std::string& out, std::string_view file, const ToolRow& tool) {
+  out += "{\"file\":";
+  AppendString(out, file);
+  out += ",\"tool\":";
+  AppendString(out, tool.key);
 }
 
 }  // namespace
 
 void JsonWriter::Report(std::string& out, std::string_view file, const ToolRow& tool,
                         const RichText& report, const std::vector<WorkingValue>& results) {
-  Json values = Json::object();
-  for (const WorkingValue& result : results) {
-    values.emplace(std::string(result.name), JsonOf(result.value));
-  }
-  AppendLine(out, {{"file", file},
-                   {"tool", tool.key},
-                   {"results", std::move(values)},
-                   {"report", JsonOf(report)},
-                   {"error", nullptr}});
+  BeginLine(out, file, tool);
+  out += ",\"results\":";
+  AppendResults(out, results);
+  out += ",\"report\":";
+  AppendReport(out, report);
+  out += ",\"error\":null}\n";
 }
 
 void JsonWriter::ToolFailed(std::string& out, std::string_view file, const ToolRow& tool,
                             const ReportFailure& failure) {
-  AppendLine(out, {{"file", file},
-                   {"tool", tool.key},
-                   {"results", nullptr},
-                   {"report", nullptr},
-                   {"error", {{"kind", failure.kind}, {"message", failure.message}}}});
+  BeginLine(out, file, tool);
+  out += ",\"results\":null,\"report\":null,\"error\":{\"kind\":";
+  AppendString(out, failure.kind);
+  out += ",\"message\":";
+  AppendString(out, failure.message);
+  out += "}}\n";
 }
 
 void JsonWriter::FileFailed(std::string& out, std::string_view file,
