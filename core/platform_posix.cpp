@@ -83,6 +83,8 @@ std::string PreviousOf(const std::string& path) { return path + ".previous"; }
 bool KeepPrevious(const std::string& path) {
   const std::string previous = PreviousOf(path);
   if (access(previous.c_str(), F_OK) == 0) return false;
+  // One that is there and cannot be looked at must not be overwritten.
+  if (errno != ENOENT) Fail(previous, errno);
   const Descriptor source(Open(path, O_RDONLY));
   if (source.get() < 0) Fail(path, errno);
   struct stat status {};

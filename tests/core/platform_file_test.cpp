@@ -175,6 +175,17 @@ TEST(FileReplacement, PreviousThatCannotBeLookedAtFailsTheSave) {
   EXPECT_EQ(BytesOf(path), "old");
 }
 
+TEST(FileReplacement, PreviousThatCannotBeReachedIsNotOverwritten) {
+  const TemporaryFolder folder;
+  const std::string path = folder.File("job.qjt");
+  WriteBytes(path, "hal");
+  // A link to itself: something is there, and nobody can look at it.
+  std::filesystem::create_symlink("job.qjt.previous", path + ".previous");
+  EXPECT_EQ(FailureOf([&] { FileReplacement file(path); }), "FileError");
+  EXPECT_TRUE(std::filesystem::is_symlink(path + ".previous"));
+  EXPECT_EQ(BytesOf(path), "hal");
+}
+
 TEST(ReadOnlyFolder, SaveOfANewJobFailsAndLeavesNothingOpen) {
   const TemporaryFolder folder;
   ASSERT_EQ(chmod(folder.path().c_str(), 0555), 0);

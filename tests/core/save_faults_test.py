@@ -26,6 +26,8 @@ FAILING_CALLS = {
     "unlinkat", "write",
 }
 ERRORS = ("ENOSPC", "EIO", "EACCES", "EINTR")
+# Where one of these fails, the new job may not be on the disk, and the user has to hear of it.
+TELLING_CALLS = {"fsync", "rename", "renameat", "renameat2", "write"}
 JOB_LINES = 64
 NOBODY = 65534
 
@@ -83,6 +85,8 @@ class Scene:
         contents = {read(self.job), read(self.previous)}
         if self.whole() and not contents & self.whole():
             yield "neither the job nor the one kept is whole"
+        if read(self.previous) not in {None} | self.whole():
+            yield "what is kept is not whole"
         if code == 0:
             if read(self.job) != NEW:
                 yield "a save that succeeded wrote another job"
@@ -203,6 +207,8 @@ def run_one(program, kind, fault):
         code, errors = save(program, scene, NEW_ANALYST, "-e", f"trace={call}", "-e",
                             f"inject={call}:{what}:when={number}")
         problems = list(scene.problems(code, errors))
+        if code == 0 and call in TELLING_CALLS and what != "error=EINTR":
+            problems.append("the failure is not told")
         with open(folder + ".trace", encoding="utf-8", errors="replace") as file:
             trace = file.read()
         if "INJECTED" not in trace and "killed by SIGKILL" not in trace:
