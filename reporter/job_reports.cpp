@@ -54,8 +54,9 @@ std::vector<std::string> AppendReports(std::string& out, ReportWriter& writer,
   if (tools.size() > 1) opened = Module1;
 
   std::vector<std::string> complaints;
-  for (const ToolRow* tool : tools) {
-    if (tool != tools.front()) Module1 = *opened;
+  for (std::size_t i = 0; i < tools.size(); ++i) {
+    const ToolRow* const tool = tools[i];
+    if (i > 0) Module1 = *opened;
     RichText report;
     const auto failure = Try([&]() -> std::optional<ReportFailure> {
       tool->writeReport(report);

@@ -20,8 +20,9 @@ void GuardBrackets(std::vector<std::string>& arguments) {
   }
 }
 
-void RemoveGuard(std::string& argument) {
+std::string WithoutGuard(std::string argument) {
   if (argument.ends_with(kGuard)) argument.pop_back();
+  return argument;
 }
 
 struct FormatName {
@@ -70,13 +71,14 @@ std::string ToolHelp(std::span<const ToolRow> tools) {
 /// Why `key` names no tool to report on; empty when it does. For the parser's check of an option.
 std::string ToolComplaint(std::span<const ToolRow> tools, const std::string& key) {
   const ToolRow* const row = ToolNamed(tools, key);
-  if (row == nullptr) return "there is no tool \"" + key + "\"";
+  if (row == nullptr) return "there is no tool \"" + WithoutGuard(key) + "\"";
   if (!row->isBuilt()) return "the tool \"" + key + "\" is not built yet";
   return {};
 }
 
 std::string FormatComplaint(const std::string& name) {
-  return FormatNamed(name) == nullptr ? "there is no format \"" + name + "\"" : std::string();
+  if (FormatNamed(name) != nullptr) return {};
+  return "there is no format \"" + WithoutGuard(name) + "\"";
 }
 
 Options Collect(std::span<const ToolRow> tools, const std::vector<std::string>& keys,
@@ -93,7 +95,7 @@ Options Collect(std::span<const ToolRow> tools, const std::vector<std::string>& 
   }
   options.format = FormatNamed(format)->format;
   options.files = std::move(files);
-  for (std::string& file : options.files) RemoveGuard(file);
+  for (std::string& file : options.files) file = WithoutGuard(std::move(file));
   return options;
 }
 

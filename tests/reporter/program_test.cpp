@@ -1,0 +1,240 @@
+#include <gtest/gtest.h>
+
+#include <nlohmann/json.hpp>
+#include <sstream>
+
+#include "tests/core/test_support.h"
+#include "tests/reporter/run_program.h"
+#include "tools/tool_table.h"
+
+namespace halvane {
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+std::string Expected(const std::string& name) {
+  return BytesOf(SourcePath("tests/reporter/expected/" + name));
+}
+
+std::vector<Json> ParsedLines(const std::string& output) {
+  std::vector<Json> lines;
+  std::istringstream stream(output);
+  for (std::string line; std::getline(stream, line);) lines.push_back(Json::parse(line));
+  return lines;
+}
+
+struct OutputRow {
+  std::string expected;
+  std::vector<std::string> arguments;
+};
+
+TEST(ReportProgram, PrintsWholeReportsInEveryFormat) {
+  const std::vector<std::string> samples{"board-assembly.qjt", "packing-line.qjt",
+                                         "parcel-sorting.qjt"};
+  const OutputRow rows[] = {
+      {"packing-line.txt", {"--tool", "si", "packing-line.qjt"}},
+      {"samples.txt", {"--tool", "si"}},
+      {"samples.json", {"--tool", "si", "--format", "json"}},
+      {"samples.html", {"--tool", "si", "--format", "html"}},
+  };
+  for (const OutputRow& row : rows) {
+    std::vector<std::string> arguments = row.arguments;
+    if (row.expected.starts_with("samples")) {
+      arguments.insert(arguments.end(), samples.begin(), samples.end());
+    }
+    const ProgramRun run = RunReport(arguments);
+    EXPECT_EQ(run.output, Expected(row.expected)) << row.expected;
+    EXPECT_GT(run.output.size(), 1000U) << row.expected;
+    EXPECT_EQ(run.error, "") << row.expected;
+    EXPECT_EQ(run.status, 0) << row.expected;
+  }
+}
+
+TEST(ReportProgram, LocaleChangesNothing) {
+  const ProgramRun run =
+      RunProgram("env", {"LC_ALL=de_DE.UTF-8", "LANGUAGE=de", HALVANE_REPORT, "--tool", "si",
+                         SourcePath("docs/samples/packing-line.qjt")});
+  EXPECT_EQ(run.output, Expected("packing-line.txt"));
+  EXPECT_EQ(run.status, 0);
+}
+
+TEST(ReportProgram, BadFileInBetweenDoesNotStopTheOthers) {
+  const TemporaryFolder folder;
+  const std::string bad = folder.File("bad.qjt");
+  WriteBytes(bad, EmptyJobWith(8, "x"));
+  const ProgramRun run = RunReport(
+      {"--tool", "si", "--format", "json", "board-assembly.qjt", bad, "packing-line.qjt"});
+  EXPECT_EQ(run.status, 1);
+  EXPECT_EQ(run.error, "halvane-report: " + bad +
+                           ": Type mismatch: line 8, field RulaControlState(2): \"x\"\n");
+  const std::vector<Json> lines = ParsedLines(run.output);
+  ASSERT_EQ(lines.size(), 3U);
+  EXPECT_EQ(lines[0]["results"]["SiStrainIndexScore"], 1.5);
+  EXPECT_EQ(lines[1]["error"]["kind"], "TypeMismatch");
+  EXPECT_EQ(lines[1]["error"]["message"],
+            "Type mismatch: line 8, field RulaControlState(2): \"x\"");
+  EXPECT_TRUE(lines[1]["report"].is_null());
+  EXPECT_EQ(lines[2]["results"]["SiStrainIndexScore"], 18.0);
+}
+
+TEST(ReportProgram, BadFileHasNoReportInText) {
+  const ProgramRun run = RunReport({"--tool", "si", "packing-line.qjt", "gone.qjt"});
+  EXPECT_EQ(run.status, 1);
+  EXPECT_EQ(run.error, "halvane-report: File error: gone.qjt: No such file or directory\n");
+  EXPECT_EQ(run.output, "===== packing-line.qjt: si =====\n\n" + Expected("packing-line.txt"));
+}
+
+TEST(ReportProgram, BadFileIsASectionOfThePage) {
+  const ProgramRun run = RunReport({"--tool", "si", "--format", "html", "gone.qjt"});
+  EXPECT_EQ(run.status, 1);
+  EXPECT_NE(run.output.find("<h2>gone.qjt</h2>\n<p class=\"failure\">File error: gone.qjt: "
+                            "No such file or directory</p>\n"),
+            std::string::npos)
+      << run.output;
+  EXPECT_TRUE(run.output.ends_with("</body>\n</html>\n"));
+}
+
+TEST(ReportProgram, EachFileIsOpenedByAFreshProgram) {
+  // 29.5 per cent rates nothing, so it needs a rating that an earlier computation left.
+  const TemporaryFolder folder;
+  const std::string gap = folder.File("gap.qjt");
+  WriteBytes(gap, EmptyJobWith(49, "29.5,100,10,10,0,0,0"));
+  const ProgramRun run =
+      RunReport({"--tool", "si", "--format", "json", "packing-line.qjt", gap, "packing-line.qjt"});
+  EXPECT_EQ(run.status, 1);
+  EXPECT_EQ(run.error, "halvane-report: " + gap + ": si: Subscript out of range\n");
+  const std::vector<Json> lines = ParsedLines(run.output);
+  ASSERT_EQ(lines.size(), 3U);
+  EXPECT_EQ(lines[1]["error"],
+            (Json{{"kind", "SubscriptOutOfRange"}, {"message", "Subscript out of range"}}));
+  EXPECT_TRUE(lines[1]["results"].is_null());
+  EXPECT_EQ(lines[2], lines[0]);
+}
+
+TEST(ReportProgram, WithoutAToolEveryBuiltOneReports) {
+  const ProgramRun run = RunReport({"--format", "json", "packing-line.qjt"});
+  std::vector<std::string> expected;
+  for (const ToolRow& row : Tools()) {
+    if (row.isBuilt()) expected.emplace_back(row.key);
+  }
+  std::vector<std::string> reported;
+  for (const Json& line : ParsedLines(run.output)) {
+    reported.push_back(line["tool"]);
+    EXPECT_TRUE(line["error"].is_null()) << line;
+  }
+  EXPECT_EQ(reported, expected);
+  EXPECT_EQ(run.status, 0);
+}
+
+TEST(ReportProgram, NamesWithBlanksAndAnyBytesAreOpened) {
+  const TemporaryFolder folder;
+  const std::string bytes = BytesOf(SourcePath("docs/samples/packing-line.qjt"));
+  const std::vector<std::string> names{"line 4 review.qjt", "caf\u00E9 \u7DDA.qjt", "caf\xE9.qjt",
+                                       "-x.qjt", "[a,b]"};
+  std::vector<std::string> arguments{"--tool", "si", "--format", "json", "--"};
+  for (const std::string& name : names) {
+    WriteBytes(folder.File(name), bytes);
+    arguments.push_back(name);
+  }
+  const ProgramRun run = RunProgram(HALVANE_REPORT, arguments, folder.path());
+  EXPECT_EQ(run.status, 0) << run.error;
+  const std::vector<Json> lines = ParsedLines(run.output);
+  ASSERT_EQ(lines.size(), names.size());
+  EXPECT_EQ(lines[0]["file"], "line 4 review.qjt");
+  EXPECT_EQ(lines[1]["file"], "caf\u00E9 \u7DDA.qjt");
+  EXPECT_EQ(lines[2]["file"], "caf\uFFFD.qjt");
+  EXPECT_EQ(lines[3]["file"], "-x.qjt");
+  EXPECT_EQ(lines[4]["file"], "[a,b]");
+  for (const Json& line : lines) EXPECT_EQ(line["results"]["SiStrainIndexScore"], 18.0);
+}
+
+TEST(ReportProgram, MarkupInTheJobIsTextOnThePage) {
+  const TemporaryFolder folder;
+  WriteBytes(folder.File("a.qjt"),
+             EmptyJobWith(4, "<script>alert('x')</script>,\"a & 'b'\",\"\",0,8"));
+  const ProgramRun run =
+      RunProgram(HALVANE_REPORT, {"--tool", "si", "--format", "html", "a.qjt"}, folder.path());
+  EXPECT_EQ(run.status, 0);
+  EXPECT_NE(run.output.find("<p>Analyst: &lt;script&gt;alert(&#39;x&#39;)&lt;/script&gt;</p>"),
+            std::string::npos);
+  EXPECT_NE(run.output.find("<p>Job Name: a &amp; &#39;b&#39;</p>"), std::string::npos);
+  EXPECT_EQ(run.output.find("<script"), std::string::npos);
+}
+
+TEST(ReportProgram, HelpAndVersionGoToStandardOutput) {
+  const ProgramRun help = RunReport({"--help"});
+  EXPECT_EQ(help.status, 0);
+  EXPECT_NE(help.output.find("Usage: halvane-report [OPTIONS] FILE..."), std::string::npos);
+  EXPECT_EQ(help.error, "");
+  const ProgramRun version = RunReport({"--version"});
+  EXPECT_EQ(version.status, 0);
+  EXPECT_EQ(version.output, "halvane-report " HALVANE_VERSION "\n");
+  EXPECT_EQ(version.error, "");
+}
+
+struct WrongRow {
+  std::string label;
+  std::vector<std::string> arguments;
+  std::string complaint;
+};
+
+TEST(ReportProgram, WrongUseIsStatus2) {
+  const WrongRow rows[] = {
+      {"no file", {}, "FILE is required"},
+      {"unknown tool", {"--tool", "nope", "packing-line.qjt"}, "--tool: there is no tool \"nope\""},
+      {"unknown format",
+       {"--format", "pdf", "packing-line.qjt"},
+       "--format: there is no format \"pdf\""},
+  };
+  for (const WrongRow& row : rows) {
+    const ProgramRun run = RunReport(row.arguments);
+    EXPECT_EQ(run.status, 2) << row.label;
+    EXPECT_EQ(run.output, "") << row.label;
+    EXPECT_EQ(run.error, "halvane-report: " + row.complaint +
+                             "\nRun \"halvane-report --help\" for the options.\n")
+        << row.label;
+  }
+}
+
+TEST(ReportProgram, ToolThatIsNotBuiltIsStatus2) {
+  std::string key;
+  for (const ToolRow& row : Tools()) {
+    if (!row.isBuilt()) key = row.key;
+  }
+  if (key.empty()) GTEST_SKIP() << "all tools are built";
+  const ProgramRun run = RunReport({"--tool", key, "packing-line.qjt"});
+  EXPECT_EQ(run.status, 2);
+  EXPECT_EQ(run.output, "");
+  EXPECT_TRUE(
+      run.error.starts_with("halvane-report: --tool: the tool \"" + key + "\" is not built yet\n"))
+      << run.error;
+}
+
+TEST(ReportProgram, OutputThatTakesNoMoreIsStatus1) {
+  struct Row {
+    std::string label;
+    OutputTo output;
+    std::string reason;
+  };
+  const Row outputs[] = {{"full", OutputTo::FullDevice, "No space left on device"},
+                         {"closed", OutputTo::ClosedPipe, "Broken pipe"}};
+  const std::vector<std::vector<std::string>> commands{
+      {"--tool", "si", "packing-line.qjt"}, {"--format", "json", "gone.qjt"}, {"--version"}};
+  for (const Row& row : outputs) {
+    for (const auto& command : commands) {
+      const ProgramRun run = RunReport(command, row.output);
+      EXPECT_EQ(run.status, 1) << row.label << " " << command.front();
+      EXPECT_EQ(run.error, "halvane-report: standard output: " + row.reason + "\n")
+          << row.label << " " << command.front();
+    }
+  }
+}
+
+TEST(ReportProgram, NamesCannotSteerTheTerminal) {
+  const ProgramRun run = RunReport({"--tool", "si", "gone\x1B[31m\n.qjt"});
+  EXPECT_EQ(run.error,
+            "halvane-report: File error: gone\uFFFD[31m\uFFFD.qjt: No such file or directory\n");
+}
+
+}  // namespace
+}  // namespace halvane

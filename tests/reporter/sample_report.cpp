@@ -1,0 +1,41 @@
+#include "tests/reporter/sample_report.h"
+
+#include "core/job_state.h"
+
+namespace halvane {
+namespace {
+
+/// Writes the job's name and changes the job, as tools do.
+void WriteGoodReport(RichText& RichTextBox1) {
+  RichTextBox1.Append("Job: ", Module1.JobName.AsText());
+  Module1.JobName = "changed by the tool";
+  Module1.SiDutyRating = static_cast<Integer>(Module1.SiDutyRating + 1);
+}
+
+std::vector<WorkingValue> GoodValues() { return {{"SiDutyRating", Module1.SiDutyRating}}; }
+
+void Fail(RichText& RichTextBox1) {
+  RichTextBox1.Append("half of a report");
+  throw RuntimeFailure(FailureKind::DivisionByZero);
+}
+
+}  // namespace
+
+const std::array<ToolRow, 3> kTestTools{
+    ToolRow{Tool::StrainIndex, "good", "", "", "Good <Tool>", "", WriteGoodReport, GoodValues},
+    ToolRow{Tool::Ocra, "failing", "", "", "Failing Tool", "", Fail, GoodValues},
+    ToolRow{Tool::Ctd, "missing", "", "", "Missing Tool", "", nullptr, nullptr},
+};
+
+RichText OneLine(std::string_view text, Alignment alignment, const std::vector<int>& tabStops) {
+  RichText report;
+  report.SetAlignment(alignment);
+  report.SetTabCount(static_cast<int>(tabStops.size()));
+  for (std::size_t i = 0; i < tabStops.size(); ++i) {
+    report.SetTab(static_cast<int>(i), tabStops[i]);
+  }
+  report.Append(text);
+  return report;
+}
+
+}  // namespace halvane
