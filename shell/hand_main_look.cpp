@@ -6,6 +6,7 @@
 #include <QPushButton>
 #include <QToolButton>
 #include <QVBoxLayout>
+#include <vector>
 
 #include "shell/controls/gradient_panel.h"
 #include "shell/frm_hand_main.h"
@@ -93,6 +94,12 @@ void HandMainLook::Arrange(FrmHandMain& form) {
   // The opening panel covers the place of the buttons.
   grid->addWidget(form.Picture3_, 1, 0);
   form.Picture3_->raise();
+
+  // The Tab key goes as one reads: title strip, tools, menus.
+  std::vector<QWidget*> order{form.SSCommand3_.at(1), form.SSCommand3_.at(0)};
+  order.insert(order.end(), form.SSCommand2_.begin(), form.SSCommand2_.end());
+  order.insert(order.end(), form.SSRibbon1_.begin(), form.SSRibbon1_.end());
+  for (std::size_t i = 1; i < order.size(); ++i) QWidget::setTabOrder(order[i - 1], order[i]);
 }
 
 }  // namespace halvane
