@@ -1,0 +1,267 @@
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QImage>
+#include <QPainter>
+#include <QTest>
+#include <QTextBlock>
+#include <QVBoxLayout>
+
+#include "shell/controls/gradient_panel.h"
+#include "shell/controls/ribbon_button.h"
+#include "shell/controls/rich_text_box.h"
+#include "shell/controls/text_box.h"
+#include "tests/shell/form_support.h"
+
+namespace halvane {
+namespace {
+
+/// Two boxes, the first with the focus.
+class TextBoxes : public testing::Test {
+ protected:
+  TextBoxes() : first_(new TextBox("first", &window_)), second_(new TextBox("second", &window_)) {
+    auto* column = new QVBoxLayout(&window_);
+    column->addWidget(first_);
+    column->addWidget(second_);
+    second_->setText("Packing");
+    ShowActive(window_);
+    first_->setFocus();
+    QObject::connect(second_, &TextBox::keyReleased, second_, [this] { ++released_; });
+  }
+
+  QWidget window_;
+  TextBox* first_;
+  TextBox* second_;
+  int released_ = 0;
+};
+
+TEST_F(TextBoxes, TellOfAReleasedKeyOnly) {
+  second_->setText("other");
+  EXPECT_EQ(released_, 0);
+  QTest::keyPress(second_, Qt::Key_A);
+  EXPECT_EQ(released_, 0);
+  QTest::keyRelease(second_, Qt::Key_A);
+  EXPECT_EQ(released_, 1);
+}
+
+TEST_F(TextBoxes, KeyHeldDownIsReleasedOnce) {
+  QKeyEvent repeated(QEvent::KeyRelease, Qt::Key_A, Qt::NoModifier, "a", true);
+  QCoreApplication::sendEvent(second_, &repeated);
+  EXPECT_EQ(released_, 0);
+}
+
+TEST_F(TextBoxes, SelectAllOnFocusByTabProgramAndMouse) {
+  QTest::keyClick(first_, Qt::Key_Tab);
+  EXPECT_EQ(second_->selectedText(), "Packing");
+  first_->setFocus();
+  second_->deselect();
+  second_->setFocus(Qt::OtherFocusReason);
+  EXPECT_EQ(second_->selectedText(), "Packing");
+  first_->setFocus();
+  second_->deselect();
+  QTest::mouseClick(second_, Qt::LeftButton);
+  EXPECT_EQ(second_->selectedText(), "Packing");
+}
+
+TEST_F(TextBoxes, SelectionDrawnByTheFirstPressStays) {
+  const int middle = second_->height() / 2;
+  QTest::mousePress(second_, Qt::LeftButton, {}, QPoint(4, middle));
+  QMouseEvent move(QEvent::MouseMove, QPointF(30, middle),
+                   second_->mapToGlobal(QPointF(30, middle)), Qt::LeftButton, Qt::LeftButton,
+                   Qt::NoModifier);
+  QCoreApplication::sendEvent(second_, &move);
+  QTest::mouseRelease(second_, Qt::LeftButton, {}, QPoint(30, middle));
+  EXPECT_FALSE(second_->selectedText().isEmpty());
+  EXPECT_NE(second_->selectedText(), "Packing");
+}
+
+TEST(RibbonButton, WrapsACaptionThatIsLong) {
+  const RibbonButton shortOne("a", "3");
+  const RibbonButton longOne("b", "Substantial effort; changes facial expression");
+  EXPECT_GE(longOne.sizeHint().height(), 2 * longOne.fontMetrics().lineSpacing());
+  EXPECT_LT(longOne.sizeHint().width(), longOne.fontMetrics().horizontalAdvance(longOne.text()));
+  EXPECT_LT(shortOne.sizeHint().height(), 2 * shortOne.fontMetrics().lineSpacing());
+  EXPECT_EQ(longOne.minimumSizeHint(), longOne.sizeHint());
+}
+
+/// The colour that fills a ribbon, near its corner.
+QColor FillOf(RibbonButton& ribbon) { return ribbon.grab().toImage().pixelColor(3, 3); }
+
+TEST(RibbonButton, IsFilledWithTheHighlightColourWhileDown) {
+  QPalette palette;
+  palette.setColor(QPalette::Highlight, QColor(10, 20, 200));
+  palette.setColor(QPalette::Button, QColor(220, 221, 222));
+  RibbonButton ribbon("a", "");
+  ribbon.setPalette(palette);
+  ribbon.resize(60, 40);
+  EXPECT_EQ(FillOf(ribbon), QColor(220, 221, 222));
+  ribbon.setChecked(true);
+  EXPECT_EQ(FillOf(ribbon), QColor(10, 20, 200));
+}
+
+TEST(RibbonButton, ShowsItsFocus) {
+  RibbonButton ribbon("a", "");
+  ribbon.resize(60, 40);
+  ShowActive(ribbon);
+  ribbon.clearFocus();
+  const QImage without = ribbon.grab().toImage();
+  ribbon.setFocus();
+  EXPECT_NE(ribbon.grab().toImage(), without);
+}
+
+TEST(GradientPanel, GoesFromBlueAtTheTopToBlackHalfWayDown) {
+  GradientPanel panel("Picture1", nullptr);
+  panel.resize(10, 200);
+  const QImage picture = panel.grab().toImage();
+  EXPECT_GT(picture.pixelColor(5, 0).blue(), 250);
+  EXPECT_NEAR(picture.pixelColor(5, 50).blue(), 127, 4);
+  EXPECT_EQ(picture.pixelColor(5, 100).blue(), 0);
+  EXPECT_EQ(picture.pixelColor(5, 199), QColor(Qt::black));
+}
+
+/// A pane that shows what `write` appends.
+class Pane : public testing::Test {
+ protected:
+  template <typename Write>
+  void Show(const Write& write) {
+    RichText report;
+    write(report);
+    box.ShowReport(report);
+  }
+
+  [[nodiscard]] QTextBlock Line(int number) const {
+    return box.document()->findBlockByNumber(number);
+  }
+
+  RichTextBox box;
+};
+
+TEST_F(Pane, TextHasTheReportsLines) {
+  Show([](RichText& report) { report.Append("first\r\n\r\nthird\ttab\r\n"); });
+  EXPECT_EQ(box.toPlainText(), "first\n\nthird\ttab\n");
+}
+
+TEST_F(Pane, TabStopsStandAtTheirTwips) {
+  Show([](RichText& report) {
+    report.SetTabCount(2);
+    report.SetTab(0, 1440);
+    report.SetTab(1, 4000);
+    report.Append("a\tb\tc");
+  });
+  const auto stops = Line(0).blockFormat().tabPositions();
+  ASSERT_EQ(stops.size(), 2);
+  // 1440 twips are an inch.
+  EXPECT_DOUBLE_EQ(stops[0].position, box.logicalDpiX());
+  EXPECT_DOUBLE_EQ(stops[1].position, 4000.0 * box.logicalDpiX() / 1440);
+  EXPECT_EQ(stops[1].type, QTextOption::LeftTab);
+  // And the text stands there.
+  box.resize(800, 200);
+  box.show();
+  QTextCursor cursor(box.document());
+  const int start = box.cursorRect(cursor).x();
+  cursor.setPosition(2);
+  EXPECT_NEAR(box.cursorRect(cursor).x() - start, box.logicalDpiX(), 1);
+}
+
+TEST_F(Pane, ParagraphsHaveTheirAlignment) {
+  Show([](RichText& report) {
+    report.SetAlignment(Alignment::Center);
+    report.Append("centred\r\n");
+    report.SetAlignment(Alignment::Right);
+    report.Append("right\r\n");
+    report.SetAlignment(Alignment::Left);
+    report.Append("left");
+  });
+  EXPECT_EQ(Line(0).blockFormat().alignment(), Qt::AlignHCenter);
+  EXPECT_EQ(Line(1).blockFormat().alignment(), Qt::AlignRight);
+  EXPECT_EQ(Line(2).blockFormat().alignment(), Qt::AlignLeft);
+}
+
+TEST_F(Pane, RunsHaveTheirFonts) {
+  Show([](RichText& report) {
+    report.SetFont({.size = 12, .bold = true, .underline = true});
+    report.Append("title");
+    report.SetFont({.size = 10, .bold = false, .underline = false});
+    report.Append("plain");
+  });
+  auto fragment = Line(0).begin();
+  const QTextCharFormat title = fragment.fragment().charFormat();
+  const QTextCharFormat plain = (++fragment).fragment().charFormat();
+  EXPECT_EQ(title.fontPointSize(), 12);
+  EXPECT_EQ(title.fontWeight(), QFont::Bold);
+  EXPECT_TRUE(title.fontUnderline());
+  EXPECT_EQ(plain.fontPointSize(), 10);
+  EXPECT_EQ(plain.fontWeight(), QFont::Normal);
+  EXPECT_FALSE(plain.fontUnderline());
+}
+
+TEST_F(Pane, PictureHasItsOwnSize) {
+  Show([](RichText& report) { report.AppendPicture("strain_index/risk_chart"); });
+  const QTextImageFormat picture = Line(0).begin().fragment().charFormat().toImageFormat();
+  EXPECT_EQ(picture.width(), 494);
+  EXPECT_EQ(picture.height(), 292);
+  const auto image =
+      box.document()->resource(QTextDocument::ImageResource, QUrl(picture.name())).value<QImage>();
+  ASSERT_FALSE(image.isNull());
+  // Finer than the screen, and something is drawn on it.
+  EXPECT_GE(image.width(), 2 * 494);
+  const QImage blank(image.size(), image.format());
+  QImage white = blank.copy();
+  white.fill(Qt::white);
+  EXPECT_NE(image, white);
+}
+
+TEST_F(Pane, IsWhitePaperUnderADarkPalette) {
+  const QPalette before = QApplication::palette();
+  QApplication::setPalette(QPalette(QColor(45, 45, 48), QColor(45, 45, 48)));
+  RichTextBox dark;
+  dark.resize(200, 100);
+  dark.show();
+  const QImage picture = dark.viewport()->grab().toImage();
+  const QColor text = dark.palette().color(QPalette::Text);
+  QApplication::setPalette(before);
+  EXPECT_EQ(picture.pixelColor(picture.rect().center()), QColor(Qt::white));
+  EXPECT_EQ(text, QColor(Qt::black));
+}
+
+TEST_F(Pane, TakesNoTyping) {
+  Show([](RichText& report) { report.Append("report"); });
+  box.show();
+  QTest::keyClicks(&box, "typed");
+  EXPECT_EQ(box.toPlainText(), "report");
+}
+
+struct SelectionRow {
+  const char* label;
+  int start;
+  int length;
+  const char* selected;
+};
+
+TEST_F(Pane, SelectsWithinItsText) {
+  Show([](RichText& report) { report.Append("one\r\ntwo"); });
+  const std::vector<SelectionRow> rows{
+      {"nothing", 0, 0, ""},
+      {"from the start", 0, 2, "on"},
+      {"across a line end", 2, 3, "e\nt"},
+      {"beyond the end", 4, 100, "two"},
+      {"from beyond the end", 50, 3, ""},
+  };
+  for (const SelectionRow& row : rows) {
+    box.Select(row.start, row.length);
+    EXPECT_EQ(box.SelectedText(), row.selected) << row.label;
+  }
+  box.SelectAll();
+  EXPECT_EQ(box.SelectedText(), "one\ntwo");
+}
+
+TEST_F(Pane, ShownReportHasTheCaretAtItsStart) {
+  Show([](RichText& report) { report.Append("one\r\ntwo"); });
+  box.SelectAll();
+  Show([](RichText& report) { report.Append("three"); });
+  EXPECT_EQ(box.textCursor().position(), 0);
+  EXPECT_FALSE(box.textCursor().hasSelection());
+}
+
+}  // namespace
+}  // namespace halvane

@@ -1,0 +1,309 @@
+// What every window has to keep: the Tab key follows the eye, the keyboard reaches everything, and
+// nothing is cut off.
+#include <QApplication>
+#include <QButtonGroup>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QTest>
+#include <QTextEdit>
+#include <QToolButton>
+#include <algorithm>
+
+#include "shell/controls/ribbon_button.h"
+#include "shell/frm_about.h"
+#include "shell/frm_hand_main.h"
+#include "shell/tool_form.h"
+#include "shell/tool_forms.h"
+#include "tests/shell/form_support.h"
+#include "tools/strain_index/frm_si.h"
+
+namespace halvane {
+namespace {
+
+class EveryWindow : public ShellTest {
+ protected:
+  /// Every window of the program, ready for input.
+  std::vector<std::unique_ptr<QWidget>> Windows() {
+    std::vector<std::unique_ptr<QWidget>> windows;
+    windows.push_back(IdleMainWindow());
+    windows.push_back(std::make_unique<FrmAbout>(nullptr));
+    for (auto& form : ToolForms()) windows.push_back(std::move(form));
+    return windows;
+  }
+
+  static std::vector<std::unique_ptr<ToolForm>> ToolForms() {
+    std::vector<std::unique_ptr<ToolForm>> forms;
+    for (const ToolRow& row : Tools()) {
+      if (!row.isBuilt()) continue;
+      forms.push_back(MakeToolForm(row.tool, nullptr));
+      forms.back()->load();
+    }
+    return forms;
+  }
+};
+
+QRect PlaceOf(const QWidget& widget) {
+  return {widget.mapTo(widget.window(), QPoint(0, 0)), widget.size()};
+}
+
+/// True when `second` is read before `first`: it stands wholly above, or left of it in one row.
+bool IsReadBefore(const QRect& second, const QRect& first) {
+  const int overlap =
+      std::min(first.bottom(), second.bottom()) - std::max(first.top(), second.top());
+  const bool oneRow = overlap > std::min(first.height(), second.height()) / 2;
+  return oneRow ? second.left() < first.left() : second.top() < first.top();
+}
+
+/// The frame that a control stands in, else the control itself.
+const QWidget& FrameOf(const QWidget& control) {
+  for (const QWidget* parent = control.parentWidget(); parent != nullptr;
+       parent = parent->parentWidget()) {
+    if (qobject_cast<const QGroupBox*>(parent) != nullptr) return *parent;
+  }
+  return control;
+}
+
+/// The stops of the Tab key in order, once round.
+std::vector<QWidget*> TabStops(QWidget& window) {
+  std::vector<QWidget*> stops;
+  QTest::keyClick(&window, Qt::Key_Tab);
+  for (QWidget* focus = window.focusWidget();
+       focus != nullptr && std::find(stops.begin(), stops.end(), focus) == stops.end();
+       focus = window.focusWidget()) {
+    stops.push_back(focus);
+    QTest::keyClick(focus, Qt::Key_Tab);
+  }
+  // The round may have begun anywhere; it is told from the stop that is read first.
+  const auto first = std::min_element(stops.begin(), stops.end(), [](auto* a, auto* b) {
+    return IsReadBefore(PlaceOf(*a), PlaceOf(*b));
+  });
+  std::rotate(stops.begin(), first, stops.end());
+  return stops;
+}
+
+std::string NamesOf(const std::vector<QWidget*>& widgets) {
+  std::string names;
+  for (const QWidget* widget : widgets) names += widget->objectName().toStdString() + " ";
+  return names;
+}
+
+void ExpectReadingOrder(const std::vector<QWidget*>& stops) {
+  SCOPED_TRACE("stops: " + NamesOf(stops));
+  std::vector<const QWidget*> frames;
+  for (std::size_t i = 0; i < stops.size(); ++i) {
+    const QWidget& frame = FrameOf(*stops[i]);
+    const bool sameFrame = !frames.empty() && frames.back() == &frame;
+    if (!sameFrame) {
+      EXPECT_EQ(std::find(frames.begin(), frames.end(), &frame), frames.end())
+          << stops[i]->objectName().toStdString() << " comes back to a frame already left";
+      frames.push_back(&frame);
+    }
+    if (i == 0) continue;
+    const QWidget& before = sameFrame ? *stops[i - 1] : FrameOf(*stops[i - 1]);
+    const QWidget& after = sameFrame ? *stops[i] : frame;
+    EXPECT_FALSE(IsReadBefore(PlaceOf(after), PlaceOf(before)))
+        << stops[i]->objectName().toStdString() << " stands before "
+        << stops[i - 1]->objectName().toStdString();
+  }
+}
+
+/// The controls that the user can reach with Tab or, within an exclusive group, with arrow keys.
+QStringList Reached(const std::vector<QWidget*>& stops) {
+  QStringList names;
+  for (QWidget* stop : stops) {
+    auto* button = qobject_cast<QAbstractButton*>(stop);
+    if (button != nullptr && button->group() != nullptr && button->group()->exclusive()) {
+      for (const auto* member : button->group()->buttons()) names.append(member->objectName());
+    } else {
+      names.append(stop->objectName());
+    }
+  }
+  names.sort();
+  return names;
+}
+
+/// The controls of a window that take input now.
+QStringList InputsOf(const QWidget& window) {
+  QStringList names;
+  for (const auto* widget : window.findChildren<QWidget*>()) {
+    const bool isInput = qobject_cast<const QLineEdit*>(widget) != nullptr ||
+                         qobject_cast<const QAbstractButton*>(widget) != nullptr ||
+                         qobject_cast<const QTextEdit*>(widget) != nullptr ||
+                         qobject_cast<const QTabBar*>(widget) != nullptr;
+    const bool isPart = widget->objectName().startsWith("qt_") ||
+                        qobject_cast<const QTabBar*>(widget->parentWidget()) != nullptr ||
+                        qobject_cast<const QMenuBar*>(widget->parentWidget()) != nullptr;
+    const bool isOwn = qobject_cast<const QTabBar*>(widget) != nullptr;
+    if (isInput && (isOwn || !isPart) && widget->isVisible() && widget->isEnabled()) {
+      names.append(widget->objectName());
+    }
+  }
+  names.sort();
+  return names;
+}
+
+TEST(ReadingOrder, RowsFromTheTopEachFromTheLeft) {
+  const QRect left(0, 0, 50, 20);
+  EXPECT_FALSE(IsReadBefore(QRect(60, 2, 50, 20), left));  // right of it, a little lower
+  EXPECT_FALSE(IsReadBefore(QRect(60, -2, 50, 20), left));
+  EXPECT_FALSE(IsReadBefore(QRect(0, 30, 50, 20), left));
+  EXPECT_TRUE(IsReadBefore(left, QRect(60, -2, 50, 20)));
+  EXPECT_TRUE(IsReadBefore(left, QRect(0, 30, 50, 20)));
+  EXPECT_TRUE(IsReadBefore(QRect(60, -30, 50, 20), left));
+}
+
+TEST_F(EveryWindow, TabKeyFollowsReadingOrder) {
+  for (const auto& window : Windows()) {
+    SCOPED_TRACE(window->objectName().toStdString());
+    ShowActive(*window);
+    const auto stops = TabStops(*window);
+    EXPECT_FALSE(stops.empty());
+    ExpectReadingOrder(stops);
+    window->hide();
+  }
+}
+
+TEST_F(EveryWindow, KeyboardAloneReachesEveryControl) {
+  for (const auto& window : Windows()) {
+    SCOPED_TRACE(window->objectName().toStdString());
+    ShowActive(*window);
+    auto* tabs = window->findChild<QTabWidget*>("SSTab1");
+    for (int tab = 0; tab < (tabs == nullptr ? 1 : tabs->count()); ++tab) {
+      if (tabs != nullptr) tabs->setCurrentIndex(tab);
+      EXPECT_EQ(Reached(TabStops(*window)), InputsOf(*window)) << "tab " << tab;
+    }
+    window->hide();
+  }
+}
+
+TEST_F(EveryWindow, KeyboardAloneOpensEveryMenu) {
+  for (const auto& form : ToolForms()) {
+    ShowActive(*form);
+    Find<QTabWidget>(*form, "SSTab1").setCurrentIndex(1);
+    for (const auto& [key, menu] :
+         {std::pair{Qt::Key_F, "mnuFile"}, {Qt::Key_E, "mnuEdit"}, {Qt::Key_H, "mnuHelp"}}) {
+      ModalSteps steps;
+      bool opened = false;
+      steps.Then<QMenu>(menu, [&](QMenu& popup) {
+        opened = true;
+        QTest::keyClick(&popup, Qt::Key_Escape);
+      });
+      QTest::keyClick(form.get(), key, Qt::AltModifier);
+      EXPECT_TRUE(QTest::qWaitFor([&] { return opened; })) << menu;
+    }
+    form->hide();
+  }
+}
+
+TEST_F(EveryWindow, KeyboardAloneOpensTheMenusOfTheMainWindow) {
+  const auto window = IdleMainWindow();
+  for (const auto& [ribbon, menu] :
+       {std::pair{"SSRibbon1(0)", "mnuPopUp1"}, {"SSRibbon1(1)", "mnuPopup2"}}) {
+    ModalSteps steps;
+    steps.Then<QMenu>(menu, [](QMenu& popup) { QTest::keyClick(&popup, Qt::Key_Escape); });
+    auto& button = Find<QToolButton>(*window, ribbon);
+    button.setFocus();
+    QTest::keyClick(&button, Qt::Key_Space);
+    EXPECT_TRUE(button.isChecked()) << ribbon;
+  }
+}
+
+TEST_F(EveryWindow, EscapeAndReturnDoNotCloseATool) {
+  for (const auto& form : ToolForms()) {
+    ShowActive(*form);
+    for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Return, Qt::Key_Enter}) {
+      QTest::keyClick(form->focusWidget() == nullptr ? form.get() : form->focusWidget(), key);
+      EXPECT_TRUE(form->isVisible()) << key;
+    }
+    form->hide();
+  }
+}
+
+TEST_F(EveryWindow, EveryInputHasABuddyOrAName) {
+  for (const auto& window : Windows()) {
+    SCOPED_TRACE(window->objectName().toStdString());
+    window->show();
+    QList<QWidget*> buddies;
+    for (const auto* label : window->findChildren<QLabel*>()) {
+      if (!label->text().isEmpty()) buddies.append(label->buddy());
+    }
+    for (const QString& name : InputsOf(*window)) {
+      const auto& input = Find<QWidget>(*window, name);
+      const auto* button = qobject_cast<const QAbstractButton*>(&input);
+      const bool isNamed = !input.accessibleName().isEmpty() || buddies.contains(&input) ||
+                           (button != nullptr && !button->text().isEmpty()) ||
+                           qobject_cast<const QTabBar*>(&input) != nullptr;
+      EXPECT_TRUE(isNamed) << name.toStdString();
+    }
+    window->hide();
+  }
+}
+
+/// The room that a control needs for its text.
+QSize NeededBy(const QWidget& widget) {
+  if (const auto* label = qobject_cast<const QLabel*>(&widget);
+      label != nullptr && label->wordWrap()) {
+    return {label->minimumSizeHint().width(), label->heightForWidth(label->width())};
+  }
+  if (qobject_cast<const QLineEdit*>(&widget) != nullptr) return widget.minimumSizeHint();
+  return widget.sizeHint();
+}
+
+void ExpectNothingClipped(QWidget& window) {
+  for (const auto* widget : window.findChildren<QWidget*>()) {
+    const bool hasText = qobject_cast<const QLabel*>(widget) != nullptr ||
+                         qobject_cast<const QLineEdit*>(widget) != nullptr ||
+                         (qobject_cast<const QAbstractButton*>(widget) != nullptr &&
+                          !widget->objectName().isEmpty());
+    if (!hasText || !widget->isVisible() || widget->objectName().startsWith("qt_")) continue;
+    const auto* label = qobject_cast<const QLabel*>(widget);
+    const std::string name =
+        (label != nullptr ? label->text() : widget->objectName()).toStdString();
+    const QSize needed = NeededBy(*widget);
+    EXPECT_GE(widget->width(), needed.width()) << name;
+    EXPECT_GE(widget->height(), needed.height()) << name;
+    for (const QWidget* parent = widget->parentWidget(); parent != nullptr && !widget->isWindow();
+         parent = parent->isWindow() ? nullptr : parent->parentWidget()) {
+      const QRect place(widget->mapTo(parent, QPoint(0, 0)), widget->size());
+      EXPECT_TRUE(parent->rect().contains(place)) << name << " stands out of its parent";
+    }
+  }
+}
+
+TEST_F(EveryWindow, NothingIsClippedInATool) {
+  for (const auto& form : ToolForms()) {
+    ShowActive(*form);
+    const std::vector<QSize> sizes{form->minimumSize(), form->size(), QSize(1280, 720)};
+    for (const QSize size : sizes) {
+      SCOPED_TRACE(form->objectName().toStdString() + " " + std::to_string(size.width()));
+      form->resize(size);
+      QCoreApplication::processEvents();
+      EXPECT_EQ(form->size(), size);
+      ExpectNothingClipped(*form);
+    }
+    EXPECT_LE(form->minimumSize().width(), 960);
+    EXPECT_LE(form->minimumSize().height(), 620);
+    form->hide();
+  }
+}
+
+TEST_F(EveryWindow, NothingIsClippedInTheMainWindowAndTheAboutBox) {
+  const auto window = IdleMainWindow();
+  ExpectNothingClipped(*window);
+  FrmHandMain opening;
+  ShowActive(opening);
+  ExpectNothingClipped(opening);
+  FrmAbout about(nullptr);
+  ShowActive(about);
+  ExpectNothingClipped(about);
+}
+
+}  // namespace
+}  // namespace halvane

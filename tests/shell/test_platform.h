@@ -1,0 +1,92 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <deque>
+#include <functional>
+#include <memory>
+#include <vector>
+
+#include "core/runtime_failure.h"
+#include "shell/platform.h"
+
+class QTextDocument;
+
+namespace halvane {
+
+/// A message that the program showed.
+struct ShownMessage {
+  QString title;
+  QString text;
+  std::vector<Answer> buttons;
+
+  bool operator==(const ShownMessage&) const = default;
+};
+
+/// The platform of a test: answers from queues and keeps a record. It is the program's platform as
+/// long as it lives. Asked for what is not queued, it fails the test at once and answers something
+/// harmless; at its end it fails the test for every answer that was not used.
+class TestPlatform : public Platform {
+ public:
+  TestPlatform();
+  ~TestPlatform() override;
+
+  // What the user will do, in order. An empty file name stands for a cancelled dialog.
+  void WillAnswer(Answer answer) { answers_.push_back(answer); }
+  void WillOpen(const QString& path) { filesToOpen_.push_back(path); }
+  void WillSave(const QString& path) { filesToSave_.push_back(path); }
+  void WillChoosePrinter(bool accepted) { printerChoices_.push_back(accepted); }
+  /// Runs `step` while the next message stands.
+  void WhileNextMessageStands(std::function<void()> step) { duringMessage_ = std::move(step); }
+  /// Runs `step` when something is printed; it may throw.
+  void WhenPrinted(std::function<void()> step) { whenPrinted_ = std::move(step); }
+  /// Runs `step` in the printer setup dialog; it may throw.
+  void WhenPrinterIsSetUp(std::function<void()> step) { whenSetUp_ = std::move(step); }
+  void SetDocumentsFolder(const QString& folder) { documentsFolder_ = folder; }
+
+  // What happened, in order.
+  [[nodiscard]] const std::vector<ShownMessage>& messages() const { return messages_; }
+  /// The patterns that each file dialog offered.
+  [[nodiscard]] const QStringList& filters() const { return filters_; }
+  /// The plain text of each printed document.
+  [[nodiscard]] const QStringList& printed() const { return printed_; }
+  /// "clear" or "text: ..." for each operation.
+  [[nodiscard]] const QStringList& clipboard() const { return clipboard_; }
+  /// Exit status of each end of the program.
+  [[nodiscard]] const std::vector<int>& ends() const { return ends_; }
+  [[nodiscard]] int printerSetups() const { return printerSetups_; }
+
+  Answer ShowMessage(QWidget* parent, const QString& title, const QString& text,
+                     const std::vector<Answer>& buttons) override;
+  QString ChooseFileToOpen(QWidget* parent, const QString& filter) override;
+  QString ChooseFileToSave(QWidget* parent, const QString& filter) override;
+  bool ChoosePrinter(QWidget* parent) override;
+  void SetUpPrinter(QWidget* parent) override;
+  void Print(const QTextDocument& document) override;
+  void ClearClipboard() override;
+  void SetClipboardText(const QString& text) override;
+  QString DocumentsFolder() override;
+  void EndProgram(int exitStatus) override;
+
+ private:
+  std::deque<Answer> answers_;
+  std::deque<QString> filesToOpen_;
+  std::deque<QString> filesToSave_;
+  std::deque<bool> printerChoices_;
+  std::function<void()> duringMessage_;
+  std::function<void()> whenPrinted_;
+  std::function<void()> whenSetUp_;
+  QString documentsFolder_;
+
+  std::vector<ShownMessage> messages_;
+  QStringList filters_;
+  QStringList printed_;
+  QStringList clipboard_;
+  std::vector<int> ends_;
+  int printerSetups_ = 0;
+};
+
+/// How GoogleTest shows a message that differs.
+void PrintTo(const ShownMessage& message, std::ostream* stream);
+
+}  // namespace halvane
