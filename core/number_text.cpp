@@ -154,6 +154,12 @@ std::string PlainText(double value) {
   return {begin, end};
 }
 
+std::string PlainText(int value) {
+  std::array<char, 16> buffer{};
+  const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value).ptr;
+  return {buffer.data(), end};
+}
+
 std::string Format(double value, Pattern pattern) {
   const int decimals = static_cast<int>(pattern);
   Decimal decimal = ToDecimal(value);

@@ -28,6 +28,8 @@ std::optional<double> WholeTextAsNumber(std::string_view text);
 /// `value` in up to 15 significant digits, in exponent form below 1E-04 and from 1E+15 on, with a
 /// zero before the point and without a negative zero. Reads back to the same 15 digits.
 std::string PlainText(double value);
+/// The same of a whole number.
+std::string PlainText(int value);
 
 /// `value` in fixed point, rounded half away from zero on its 15-digit decimal text (so 0.25 gives
 /// "0.3" and 1.005 gives "1.01"). No minus sign before a result of zero.

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 
+#include "core/number_text.h"
 #include "reporter/pictures.h"
 #include "reporter/printable_text.h"
 
@@ -68,7 +69,7 @@ void AppendEscaped(std::string& out, std::string_view text) {
 void AppendStyled(std::string& out, std::string_view text, const CharacterFormat& format) {
   if (text.empty()) return;
   const bool hasSize = format.size != CharacterFormat{}.size;
-  if (hasSize) out += "<span style=\"font-size: " + std::to_string(format.size) + "pt\">";
+  if (hasSize) out += "<span style=\"font-size: " + PlainText(format.size) + "pt\">";
   if (format.bold) out += "<b>";
   if (format.underline) out += "<u>";
   AppendEscaped(out, text);
@@ -119,7 +120,7 @@ class Columns {
     end_ = std::max(end_, stop);
     ++column_;
     // The tab itself has no width; it is there for those who copy the columns into a table.
-    finished_ += "<span class=\"column\" style=\"min-width: " + std::to_string(width) + "pt\">" +
+    finished_ += "<span class=\"column\" style=\"min-width: " + PlainText(width) + "pt\">" +
                  piece_ + "&#9;</span>";
     piece_.clear();
   }

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <nlohmann/json.hpp>
 
+#include "core/number_text.h"
+
 namespace halvane {
 namespace {
 
@@ -76,7 +78,7 @@ void AppendList(std::string& out, char open, char close, const Range& elements,
 void AppendField(std::string& out, const TaggedField& field) {
   const auto& value = field.value();
   if (const auto* integer = std::get_if<Integer>(&value)) {
-    out += std::to_string(*integer);
+    out += PlainText(*integer);
   } else if (const auto* number = std::get_if<double>(&value)) {
     out += ByLibrary(*number);
   } else if (const auto* text = std::get_if<std::string>(&value)) {
@@ -106,7 +108,7 @@ void AppendRun(std::string& out, const Run& run) {
   out += "{\"text\":";
   AppendString(out, run.text);
   out += ",\"size\":";
-  out += std::to_string(run.format.size);
+  out += PlainText(run.format.size);
   out += ",\"bold\":";
   AppendBoolean(out, run.format.bold);
   out += ",\"underline\":";
@@ -119,7 +121,7 @@ void AppendParagraph(std::string& out, const Paragraph& paragraph) {
   AppendString(out, NameOf(paragraph.format.alignment));
   out += ",\"tabs\":";
   AppendList(out, '[', ']', paragraph.format.tabStops,
-             [&out](int stop) { out += std::to_string(stop); });
+             [&out](int stop) { out += PlainText(stop); });
   out += ",\"runs\":";
   AppendList(out, '[', ']', paragraph.runs, [&out](const Run& run) { AppendRun(out, run); });
   out += '}';

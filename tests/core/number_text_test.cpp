@@ -204,5 +204,12 @@ TEST(NumberText, SeparatorIsThePointInEveryLocale) {
   std::setlocale(LC_ALL, before.c_str());
 }
 
+TEST(NumberText, WholeNumberReadsAsItsDouble) {
+  for (const int value : {0, 7, -1, 40, 32767, -32768, 2147483647, -2147483647 - 1}) {
+    EXPECT_EQ(PlainText(value), PlainText(static_cast<double>(value)));
+  }
+  EXPECT_EQ(PlainText(-32768), "-32768");
+}
+
 }  // namespace
 }  // namespace halvane

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <vector>
+
 #include "reporter/pictures.h"
 #include "tests/reporter/sample_report.h"
 
@@ -57,9 +59,10 @@ TEST(ReportHtml, TabsEndColumnsAsWideAsTheWayToTheNextStop) {
             "<p><span class=\"column\" style=\"min-width: 200pt\">a&#9;</span>"
             "<span class=\"column\" style=\"min-width: 125pt\">b&#9;</span>"
             "<span class=\"column\" style=\"min-width: 36pt\">c&#9;</span>d</p>\n");
-  EXPECT_EQ(BodyOf(OneLine("a\tb\tc", Alignment::Left, {2000, 1000})),
+  EXPECT_EQ(BodyOf(OneLine("a\tb\tc\td", Alignment::Left, {2000, 1000, 3000})),
             "<p><span class=\"column\" style=\"min-width: 100pt\">a&#9;</span>"
-            "<span class=\"column\" style=\"min-width: 0pt\">b&#9;</span>c</p>\n");
+            "<span class=\"column\" style=\"min-width: 0pt\">b&#9;</span>"
+            "<span class=\"column\" style=\"min-width: 50pt\">c&#9;</span>d</p>\n");
 }
 
 TEST(ReportHtml, PictureStandsInThePage) {
@@ -79,7 +82,7 @@ TEST(ReportHtml, FailuresStandInThePage) {
   std::string html;
   HtmlWriter writer;
   writer.ToolFailed(html, "a.qjt", kFailingTool, {"Overflow", "Overflow: \"<9>\""});
-  const ToolRow* const tools[] = {&kGoodTool, &kFailingTool};
+  const std::vector<const ToolRow*> tools{&kGoodTool, &kFailingTool};
   writer.FileFailed(html, "b.qjt", tools, {"FileError", "gone"});
   EXPECT_EQ(html,
             "<section>\n<h2>a.qjt: Failing Tool</h2>\n"

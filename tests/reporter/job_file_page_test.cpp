@@ -2,6 +2,7 @@
 
 #include <regex>
 #include <sstream>
+#include <vector>
 
 #include "core/job_fields.h"
 #include "core/job_state.h"

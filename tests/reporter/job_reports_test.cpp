@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
+#include <vector>
+
 #include "core/job_state.h"
 #include "tests/core/test_support.h"
 #include "tests/reporter/sample_report.h"
@@ -42,7 +44,7 @@ class JobReports : public testing::Test {
   /// Appends the reports of the working tool, the failing one and the working one again to `log_`,
   /// and gives the complaints.
   std::vector<std::string> Append(const std::string& name) {
-    const ToolRow* const tools[] = {&kGoodTool, &kFailingTool, &kGoodTool};
+    const std::vector<const ToolRow*> tools{&kGoodTool, &kFailingTool, &kGoodTool};
     return AppendReports(log_, writer_, folder_.File(name), tools);
   }
 
@@ -98,7 +100,7 @@ struct UnreadableRow {
 TEST_F(JobReports, ComplaintTellsFileLineAndField) {
   std::string task41 = EmptyJobText("41");
   for (int task = 1; task <= 41; ++task) task41 += UntouchedTaskText(task);
-  const UnreadableRow rows[] = {
+  const std::vector<UnreadableRow> rows = {
       {"empty", "", "Input past end of file: line 1, field marker"},
       {"other marker", "\"QJT\",1,0,0,0\r\n0\r\n",
        "Not a job file: its first field is not \"qjt\""},

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <nlohmann/json.hpp>
+#include <vector>
 
 #include "core/job_file.h"
 #include "core/job_state.h"
@@ -53,7 +54,7 @@ struct ValueRow {
 };
 
 TEST(ReportJson, ResultsKeepTheirKinds) {
-  const ValueRow rows[] = {
+  const std::vector<ValueRow> rows = {
       {"nothing", {}, "null"},
       {"integer", Integer{-32768}, "-32768"},
       {"whole double", 5.0, "5.0"},
@@ -77,7 +78,7 @@ struct TextRow {
 };
 
 TEST(ReportJson, EveryTextReadsBack) {
-  const TextRow rows[] = {
+  const std::vector<TextRow> rows = {
       {"empty", ""},
       {"plain", "Line 4 review"},
       {"quote and backslash", R"(say "C:\jobs\")"},
@@ -113,7 +114,7 @@ TEST(ReportJson, FailureOfAToolHasNeitherResultsNorReport) {
 }
 
 TEST(ReportJson, FileThatCannotBeReadHasALineForEachTool) {
-  const ToolRow* const tools[] = {&kFailingTool, &kGoodTool};
+  const std::vector<const ToolRow*> tools{&kFailingTool, &kGoodTool};
   std::string lines;
   JsonWriter().FileFailed(lines, "a.qjt", tools, {"FileError", "gone"});
   EXPECT_EQ(lines, R"({"file":"a.qjt","tool":"failing","results":null,"report":null,)"

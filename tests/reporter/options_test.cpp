@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <vector>
+
 #include "tests/reporter/sample_report.h"
 
 namespace halvane {
@@ -61,7 +63,7 @@ struct WrongRow {
 };
 
 TEST(ReportOptions, WrongUseIsToldInOneLineAndAHint) {
-  const WrongRow rows[] = {
+  const std::vector<WrongRow> rows = {
       {"no file", {}, "FILE is required"},
       {"unknown tool", {"--tool", "nope", "a"}, "--tool: there is no tool \"nope\""},
       {"unbuilt tool", {"--tool", "missing", "a"}, "--tool: the tool \"missing\" is not built yet"},

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <vector>
+
 namespace halvane {
 namespace {
 
@@ -12,7 +14,7 @@ struct Row {
 };
 
 TEST(PrintableText, ReplacesWhatCouldSteerATerminal) {
-  const Row rows[] = {
+  const std::vector<Row> rows = {
       {"empty", "", ""},
       {"plain", "Line 4 review ~", "Line 4 review ~"},
       {"accents and beyond", "caf\u00E9 \u2014 \u7DDA \U0001F4E6",

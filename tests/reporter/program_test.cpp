@@ -2,6 +2,7 @@
 
 #include <nlohmann/json.hpp>
 #include <sstream>
+#include <vector>
 
 #include "tests/core/test_support.h"
 #include "tests/reporter/run_program.h"
@@ -31,7 +32,7 @@ struct OutputRow {
 TEST(ReportProgram, PrintsWholeReportsInEveryFormat) {
   const std::vector<std::string> samples{"board-assembly.qjt", "packing-line.qjt",
                                          "parcel-sorting.qjt"};
-  const OutputRow rows[] = {
+  const std::vector<OutputRow> rows = {
       {"packing-line.txt", {"--tool", "si", "packing-line.qjt"}},
       {"samples.txt", {"--tool", "si"}},
       {"samples.json", {"--tool", "si", "--format", "json"}},
@@ -179,7 +180,7 @@ struct WrongRow {
 };
 
 TEST(ReportProgram, WrongUseIsStatus2) {
-  const WrongRow rows[] = {
+  const std::vector<WrongRow> rows = {
       {"no file", {}, "FILE is required"},
       {"unknown tool", {"--tool", "nope", "packing-line.qjt"}, "--tool: there is no tool \"nope\""},
       {"unknown format",
@@ -216,8 +217,8 @@ TEST(ReportProgram, OutputThatTakesNoMoreIsStatus1) {
     OutputTo output;
     std::string reason;
   };
-  const Row outputs[] = {{"full", OutputTo::FullDevice, "No space left on device"},
-                         {"closed", OutputTo::ClosedPipe, "Broken pipe"}};
+  const std::vector<Row> outputs = {{"full", OutputTo::FullDevice, "No space left on device"},
+                                    {"closed", OutputTo::ClosedPipe, "Broken pipe"}};
   const std::vector<std::vector<std::string>> commands{
       {"--tool", "si", "packing-line.qjt"}, {"--format", "json", "gone.qjt"}, {"--version"}};
   for (const Row& row : outputs) {

@@ -42,6 +42,7 @@ int OpenOutput(OutputTo output, const std::string& path) {
 
 std::vector<char*> ArgumentPointers(std::vector<std::string>& arguments) {
   std::vector<char*> pointers;
+  pointers.reserve(arguments.size() + 1);
   for (std::string& argument : arguments) pointers.push_back(argument.data());
   pointers.push_back(nullptr);
   return pointers;

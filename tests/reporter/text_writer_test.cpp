@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <vector>
+
 #include "tests/reporter/sample_report.h"
 
 namespace halvane {
@@ -23,7 +25,7 @@ struct TabRow {
 };
 
 TEST(ReportText, TabsGoToTheirStops) {
-  const TabRow rows[] = {
+  const std::vector<TabRow> rows = {
       {"120 twips are a column", {1200}, "a\tb", std::string("a") + Blanks(9) + "b"},
       {"nearest column below", {500}, "\tb", Blanks(4) + "b"},
       {"nearest column above", {541}, "\tb", Blanks(5) + "b"},
