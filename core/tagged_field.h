@@ -19,14 +19,13 @@ class TaggedField {
 
   TaggedField() = default;
   // Implicit, since assigning a number or a text to a field is what the class is for.
-  TaggedField(Integer value) : value_(value) {}  // NOLINT(google-explicit-constructor)
-  TaggedField(double value) : value_(value) {}   // NOLINT(google-explicit-constructor)
-  TaggedField(std::string value)
-      : value_(std::move(value)) {}  // NOLINT(google-explicit-constructor)
-  TaggedField(std::string_view value)
-      : value_(std::string(value)) {}  // NOLINT(google-explicit-constructor)
-  TaggedField(const char* value)
-      : value_(std::string(value)) {}  // NOLINT(google-explicit-constructor)
+  // NOLINTBEGIN(google-explicit-constructor)
+  TaggedField(Integer value) : value_(value) {}
+  TaggedField(double value) : value_(value) {}
+  TaggedField(std::string value) : value_(std::move(value)) {}
+  TaggedField(std::string_view value) : value_(std::string(value)) {}
+  TaggedField(const char* value) : value_(std::string(value)) {}
+  // NOLINTEND(google-explicit-constructor)
   /// An `int` would have to become one of the two kinds of number; the caller has to say which.
   TaggedField(int value) = delete;
 
