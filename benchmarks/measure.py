@@ -1,113 +1,168 @@
 #!/usr/bin/env python3
-"""Runs the benchmarks of a build folder and prints one table: measure.py FOLDER"""
+"""Runs the benchmarks of one build folder and prints one table of ratios.
+
+measure.py BUILD_FOLDER
+"""
 
 import json
 import os
+import pathlib
 import statistics
 import subprocess
 import sys
 import tempfile
 import time
 
-FILES = 10_000
-TASKS = 5
-FILE_ROUNDS = 7
-START_ROUNDS = 25
-
-
-def job_text(number):
-    """A job of five tasks as the program writes it, different in each file."""
-    lines = ['"qjt",1,0,0,0', str(TASKS), "8,0.75,0"]
-    lines += [f'"Line {number % 9} review","Packing, end of line","L{number}",0,8', "0,0,0,0"]
-    lines += ["0"] * 43 + [f"{number % 14 + 1},15,{number % 300},15,{number % 15},{number % 20},{number % 10}"]
-    lines += ["3"] * 14 + ["0,0,0,0,0,0"]
-    for task in range(1, TASKS + 1):
-        lines += [f'"Task {task}",1', "24,120", "1,0.05,0.6,0,24,8.5,15", "0,0,0,0", "0.05,0.6,0,2,8.5,15", "0,0,0,0"]
-        lines += [",,,,,,,0"] + ["1.1,0.36"] * 8
-    return "\r\n".join(lines) + "\r\n"
+JOBS = 10_000
+WARM_UP = 2
+RUNS = 15
 
 
 def wall_time(command, **options):
+    """(seconds, standard output) of a whole process."""
     start = time.perf_counter()
-    result = subprocess.run(command, check=True, **options)
-    return time.perf_counter() - start, result
+    done = subprocess.run(command, check=True, **options)
+    return time.perf_counter() - start, done.stdout
 
 
-def in_process(build):
-    """Time of each benchmark in nanoseconds."""
-    output = subprocess.run(
-        [f"{build}/benchmarks/core_bench", "--benchmark_format=json", "--benchmark_min_time=0.3"],
-        check=True, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL,
-    ).stdout
-    return {row["name"]: row["real_time"] for row in json.loads(output)["benchmarks"]}
+def alternating(first, second):
+    """The results of both calls, turn by turn, so that what else the machine does hits both."""
+    results = [(first(), second()) for _ in range(WARM_UP + RUNS)][WARM_UP:]
+    return [list(column) for column in zip(*results)]
 
 
-def over_files(build, folder):
-    """Median seconds of the reporter and of cat over the same files, in turns."""
-    names = []
-    for number in range(FILES):
-        names.append(os.path.join(folder, f"{number}.qjt"))
-        with open(names[-1], "w", newline="", encoding="ascii") as file:
-            file.write(job_text(number))
-    commands = {
-        "report": [os.path.abspath(f"{build}/reporter/halvane-report"), "--tool", "si", "--format", "json"],
-        "cat": ["cat"],
+def quantity(seconds):
+    for unit, factor in (("s", 1), ("ms", 1e3), ("µs", 1e6)):
+        if seconds * factor >= 1:
+            return f"{seconds * factor:.2f} {unit}"
+    return f"{seconds * 1e9:.0f} ns"
+
+
+class Table:
+    def __init__(self):
+        self.rows = [("what", "takes", "against", "takes", "ratio", "goal")]
+
+    def add(self, what, value, against="", base=None, goal=None, text=quantity):
+        ratio = f"{value / base:.2f}" if base else ""
+        limit = f"at most {goal}" if goal else ""
+        if goal:
+            limit += ", met" if value / base <= goal else ", MISSED"
+        self.rows.append((what, text(value), against, text(base) if base else "", ratio, limit))
+
+    def print(self):
+        widths = [max(map(len, column)) for column in zip(*self.rows)]
+        for row in self.rows:
+            cells = [
+                cell.rjust(width) if number in (1, 3, 4) else cell.ljust(width)
+                for number, (cell, width) in enumerate(zip(row, widths))
+            ]
+            print("  ".join(cells).rstrip())
+
+
+def measure_in_process(build, table):
+    command = [
+        build / "benchmarks/in_process",
+        "--benchmark_format=json",
+        "--benchmark_repetitions=7",
+        "--benchmark_enable_random_interleaving=true",
+        "--benchmark_report_aggregates_only=true",
+    ]
+    _, output = wall_time(command, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL)
+    median = {
+        row["run_name"]: row["real_time"] / 1e9
+        for row in json.loads(output)["benchmarks"]
+        if row["aggregate_name"] == "median"
     }
-    times = {name: [] for name in commands}
-    out = os.path.join(folder, "out")
-    for _ in range(FILE_ROUNDS):
-        for name, command in commands.items():
-            with open(out, "wb") as file:
-                times[name].append(wall_time(command + names, stdout=file)[0])
-            if name == "report":
-                with open(out, "rb") as file:
-                    done = sum(1 for _ in file)
-                assert done == FILES, done
-    return {name: statistics.median(values) for name, values in times.items()}
+    copy = median["CopyThroughStream"]
+    same_bytes = "copying the same bytes through a stream"
+    table.add("reading a job of 40 tasks", median["ReadJob"], same_bytes, copy)
+    table.add("writing a job of 40 tasks, in memory", median["WriteJobText"], same_bytes, copy)
+    table.add("saving a job of 40 tasks, safe on the disk", median["SaveJob"], same_bytes, copy)
+    table.add("Strain Index with report", median["StrainIndexWithReport"])
 
 
-def until_painted(build):
-    """Median seconds and peak kB of both windows, in turns."""
-    environment = dict(os.environ, QT_QPA_PLATFORM="offscreen")
-    found = {"main": ([], []), "empty": ([], [])}
-    for _ in range(START_ROUNDS):
-        for name, (times, memory) in found.items():
-            seconds, result = wall_time(
-                [f"{build}/benchmarks/{name}_window_start"],
-                env=environment, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL,
+def measure_reporter(build, table):
+    with tempfile.TemporaryDirectory() as folder:
+        subprocess.run([build / "benchmarks/make_jobs", folder, str(JOBS)], check=True)
+        names = sorted(os.listdir(folder))
+        assert len(names) == JOBS
+        report = [build / "reporter/halvane-report", "--tool", "si", "--format", "json", *names]
+
+        # A run that fails would be a fast one: each file has to give a report.
+        lines = wall_time(report, cwd=folder, stdout=subprocess.PIPE)[1].splitlines()
+        assert len(lines) == JOBS and all(json.loads(line)["error"] is None for line in lines)
+
+        def run(command):
+            return wall_time(command, cwd=folder, stdout=subprocess.DEVNULL)[0]
+
+        ours, cat = alternating(lambda: run(report), lambda: run(["cat", *names]))
+    table.add(
+        f"halvane-report, JSON of {JOBS:,} job files",
+        statistics.median(ours),
+        "cat of the same files",
+        statistics.median(cat),
+        goal=5,
+    )
+
+
+class Screen:
+    """A screen of its own, so that nothing but the two programs is measured."""
+
+    def __enter__(self):
+        reading, writing = os.pipe()
+        self.server = subprocess.Popen(
+            ["Xvfb", "-displayfd", str(writing), "-screen", "0", "1280x800x24", "-nolisten", "tcp"],
+            pass_fds=(writing,),
+            stderr=subprocess.DEVNULL,
+        )
+        os.close(writing)
+        with os.fdopen(reading) as pipe:
+            display = pipe.readline().strip()
+        if not display:
+            sys.exit("measure.py: Xvfb did not start")
+        self.environment = {**os.environ, "DISPLAY": f":{display}", "QT_QPA_PLATFORM": "xcb"}
+        return self
+
+    def __exit__(self, *_):
+        self.server.terminate()
+        self.server.wait()
+
+
+def measure_windows(build, table):
+    with Screen() as screen, tempfile.TemporaryDirectory() as folder:
+        environment = {**screen.environment, "XDG_RUNTIME_DIR": folder, "HOME": folder}
+
+        def run(name):
+            seconds, output = wall_time(
+                [build / "benchmarks" / name], env=environment, stdout=subprocess.PIPE
             )
-            times.append(seconds)
-            memory.append(int(result.stdout))
-    return {name: (statistics.median(t), statistics.median(m)) for name, (t, m) in found.items()}
+            return seconds, int(output)
+
+        ours, empty = alternating(lambda: run("main_window"), lambda: run("empty_window"))
+    (our_time, our_peak), (empty_time, empty_peak) = (
+        [statistics.median(column) for column in zip(*results)] for results in (ours, empty)
+    )
+    table.add("start until the main window is painted", our_time, "an empty window", empty_time, goal=1.5)
+    table.add(
+        "peak of memory until then",
+        our_peak,
+        "an empty window",
+        empty_peak,
+        goal=1.5,
+        text=lambda kibibytes: f"{kibibytes / 1024:.1f} MiB",
+    )
 
 
-def row(what, measured, against, ratio, goal=""):
-    print(f"{what:<48}{measured:>14}{against:>26}{ratio:>8}{goal:>8}")
+def main(arguments):
+    if len(arguments) != 1:
+        sys.exit("usage: measure.py BUILD_FOLDER")
+    build = pathlib.Path(arguments[0]).resolve()
+    table = Table()
+    measure_in_process(build, table)
+    measure_reporter(build, table)
+    measure_windows(build, table)
+    table.print()
 
 
-def main():
-    build = sys.argv[1]
-    row("", "measured", "against", "ratio", "goal")
-    ns = in_process(build)
-    for what, name, base in (
-        ("read a job of 40 tasks", "ReadJob", "ReadStream"),
-        ("write a job of 40 tasks", "WriteJobText", "WriteStream"),
-        ("save it, old file kept, synced to disk", "SaveJob", "WriteStream"),
-    ):
-        row(what, f"{ns[name] / 1000:.0f} us", f"stream {ns[base] / 1000:.0f} us", f"{ns[name] / ns[base]:.1f}")
-    row("Strain Index with report", f"{ns['StrainIndexWithReport'] / 1000:.1f} us", "", "")
-    # Memory-backed where there is one, so that no disk is measured.
-    place = "/dev/shm" if os.access("/dev/shm", os.W_OK) else None
-    with tempfile.TemporaryDirectory(dir=place) as folder:
-        seconds = over_files(build, folder)
-    ratio = seconds["report"] / seconds["cat"]
-    row(f"halvane-report, {FILES} files, json", f"{seconds['report'] * 1000:.0f} ms",
-        f"cat {seconds['cat'] * 1000:.0f} ms", f"{ratio:.1f}", "5.0")
-    painted = until_painted(build)
-    for what, place, unit, scale in (("start until painted", 0, "ms", 1000), ("peak memory", 1, "MB", 1 / 1024)):
-        ours, base = painted["main"][place], painted["empty"][place]
-        row(f"main window, {what}", f"{ours * scale:.0f} {unit}", f"empty window {base * scale:.0f} {unit}",
-            f"{ours / base:.2f}", "1.5")
-
-
-main()
+if __name__ == "__main__":
+    main(sys.argv[1:])

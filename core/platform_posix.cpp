@@ -82,7 +82,12 @@ std::string PreviousOf(const std::string& path) { return path + ".previous"; }
 /// copy is made under another name and gets its own only when it is whole on the disk.
 bool KeepPrevious(const std::string& path) {
   const std::string previous = PreviousOf(path);
-  if (access(previous.c_str(), F_OK) == 0) return false;
+  struct stat kept {};
+  if (stat(previous.c_str(), &kept) == 0) {
+    if (S_ISREG(kept.st_mode)) return false;
+    // A folder or the like of that name holds no job and is in the way of the copy.
+    Fail(previous, EEXIST);
+  }
   // One that is there and cannot be looked at must not be overwritten.
   if (errno != ENOENT) Fail(previous, errno);
   const Descriptor source(Open(path, O_RDONLY));

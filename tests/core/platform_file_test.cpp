@@ -186,6 +186,15 @@ TEST(FileReplacement, PreviousThatCannotBeReachedIsNotOverwritten) {
   EXPECT_EQ(BytesOf(path), "hal");
 }
 
+TEST(FileReplacement, FolderInThePlaceOfThePreviousFailsTheSave) {
+  const TemporaryFolder folder;
+  const std::string path = folder.File("job.qjt");
+  WriteBytes(path, "old");
+  std::filesystem::create_directory(path + ".previous");
+  EXPECT_EQ(FailureOf([&] { FileReplacement file(path); }), "FileError");
+  EXPECT_EQ(BytesOf(path), "old");
+}
+
 TEST(ReadOnlyFolder, SaveOfANewJobFailsAndLeavesNothingOpen) {
   const TemporaryFolder folder;
   ASSERT_EQ(chmod(folder.path().c_str(), 0555), 0);

@@ -1,0 +1,78 @@
+#include "benchmarks/benchmark_jobs.h"
+
+#include <cstddef>
+#include <filesystem>
+#include <random>
+
+#include "core/job_state.h"
+
+namespace halvane {
+namespace {
+
+class Folder {
+ public:
+  Folder() {
+    const std::string name = "halvane-benchmark-" + std::to_string(std::random_device()());
+    path_ = std::filesystem::temp_directory_path() / name;
+    std::filesystem::create_directories(path_);
+  }
+  ~Folder() {
+    std::error_code ignored;
+    std::filesystem::remove_all(path_, ignored);
+  }
+  Folder(const Folder&) = delete;
+  Folder& operator=(const Folder&) = delete;
+
+  [[nodiscard]] std::string path() const { return path_.string(); }
+
+ private:
+  std::filesystem::path path_;
+};
+
+void FillTask(int task, int number) {
+  Module1.TaskNames.at(task) = "Task " + std::to_string(task) + ", turn and place";
+  Module1.OcraActionFrequency.at(task) = 20.5 + task;
+  Module1.OcraTaskDuration.at(task) = 60.25 + number % 50;
+  Module1.OcraForceRating.at(task) = 2.5;
+  Module1.CtdWorkTime.at(task) = 0.35;
+  Module1.CtdRestTime.at(task) = 0.15;
+  Module1.CtdHandSpan.at(task) = 6.5;
+  Module1.CtdForceMvc.at(task) = 12.5;
+  Module1.CtdRadUlnDeviation.at(task) = 10;
+  Module1.CtdRepetitions.at(task) = 3;
+  for (int slot = 0; slot < kPostureSlots; ++slot) {
+    Module1.CtdLoadHeld.at(task, slot) = 1.25 * slot;
+    Module1.CtdPostureDuration.at(task, slot) = 0.05 * slot;
+  }
+}
+
+}  // namespace
+
+void FillJob(int tasks, int number) {
+  Module1 = JobState{};
+  Module1.JobAnalyst = "A. Analyst";
+  Module1.JobName = "Packing line " + std::to_string(number);
+  Module1.JobWorkstationId = "P-" + std::to_string(number % 100);
+  Module1.JobCycleTime = 0.5;
+  Module1.SiExertionMinutes = 1.0 + number % 10;
+  Module1.SiDutyObservationMinutes = 20.5;
+  Module1.SiExertionCount = 100.0 + number % 200;
+  Module1.SiEffortObservationMinutes = 20;
+  Module1.SiIntensityPick = Integer{5};
+  Module1.SiPosturePick = Integer{11};
+  Module1.SiSpeedPick = 6;
+  ResizeTaskArrays();
+  for (int task = 1; task <= tasks; ++task) {
+    Module1.TaskCount = static_cast<Integer>(task);
+    NewTaskRecord();
+    FillTask(task, number);
+  }
+}
+
+const std::string& BenchmarkFolder() {
+  static const Folder folder;
+  static const std::string path = folder.path();
+  return path;
+}
+
+}  // namespace halvane

@@ -1,0 +1,36 @@
+#include "benchmarks/first_paint.h"
+
+#include <QEvent>
+#include <QTimer>
+#include <QWidget>
+#include <cstdio>
+#include <cstdlib>
+#include <fstream>
+#include <string>
+
+namespace halvane {
+namespace {
+
+[[noreturn]] void PrintPeakAndEnd() {
+  std::ifstream status("/proc/self/status");
+  std::string word;
+  while (status >> word && word != "VmHWM:") {
+  }
+  std::string peak;
+  status >> peak;
+  std::puts(peak.c_str());
+  std::fflush(stdout);
+  std::_Exit(peak.empty() ? 1 : 0);
+}
+
+}  // namespace
+
+FirstPaint::FirstPaint(QWidget& window) { window.installEventFilter(this); }
+
+bool FirstPaint::eventFilter(QObject* watched, QEvent* event) {
+  // The window's children are painted and shown in the same turn of the event loop.
+  if (event->type() == QEvent::Paint) QTimer::singleShot(0, &PrintPeakAndEnd);
+  return QObject::eventFilter(watched, event);
+}
+
+}  // namespace halvane
