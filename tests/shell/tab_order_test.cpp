@@ -184,11 +184,12 @@ TEST_F(EveryWindow, KeyboardAloneReachesEveryControl) {
 }
 
 TEST_F(EveryWindow, KeyboardAloneOpensEveryMenu) {
-  for (const auto& form : ToolForms()) {
-    ShowActive(*form);
-    Find<QTabWidget>(*form, "SSTab1").setCurrentIndex(1);
-    for (const auto& [key, menu] :
-         {std::pair{Qt::Key_F, "mnuFile"}, {Qt::Key_E, "mnuEdit"}, {Qt::Key_H, "mnuHelp"}}) {
+  for (const auto& [key, menu] :
+       {std::pair{Qt::Key_F, "mnuFile"}, {Qt::Key_E, "mnuEdit"}, {Qt::Key_H, "mnuHelp"}}) {
+    // New forms for each menu: one that was closed leaves its bar waiting for another key.
+    for (const auto& form : ToolForms()) {
+      ShowActive(*form);
+      Find<QTabWidget>(*form, "SSTab1").setCurrentIndex(1);
       ModalSteps steps;
       bool opened = false;
       steps.Then<QMenu>(menu, [&](QMenu& popup) {
@@ -198,7 +199,6 @@ TEST_F(EveryWindow, KeyboardAloneOpensEveryMenu) {
       QTest::keyClick(form.get(), key, Qt::AltModifier);
       EXPECT_TRUE(QTest::qWaitFor([&] { return opened; })) << menu;
     }
-    form->hide();
   }
 }
 
