@@ -1,8 +1,9 @@
 #include "benchmarks/benchmark_jobs.h"
 
-#include <cstddef>
 #include <filesystem>
 #include <random>
+#include <string>
+#include <system_error>
 
 #include "core/job_state.h"
 
@@ -54,9 +55,10 @@ void FillJob(int tasks, int number) {
   Module1.JobName = "Packing line " + std::to_string(number);
   Module1.JobWorkstationId = "P-" + std::to_string(number % 100);
   Module1.JobCycleTime = 0.5;
+  // Whole per cents and whole counts a minute: between two bands there is no rating.
   Module1.SiExertionMinutes = 1.0 + number % 10;
-  Module1.SiDutyObservationMinutes = 20.5;
-  Module1.SiExertionCount = 100.0 + number % 200;
+  Module1.SiDutyObservationMinutes = Integer{20};
+  Module1.SiExertionCount = 20.0 * (1 + number % 25);
   Module1.SiEffortObservationMinutes = 20;
   Module1.SiIntensityPick = Integer{5};
   Module1.SiPosturePick = Integer{11};

@@ -1,11 +1,11 @@
-#include <cstdio>
-#include <exception>
+#include <algorithm>
+#include <cstddef>
+#include <stdexcept>
 #include <string>
 
 #include "benchmarks/benchmark_jobs.h"
 #include "core/job_file.h"
 #include "core/job_state.h"
-#include "core/job_text_writer.h"
 #include "core/number_text.h"
 #include "core/platform_file.h"
 
