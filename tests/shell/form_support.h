@@ -87,9 +87,11 @@ QWidget& VisibleToolForm();
 
 /// A test of the shell: a fresh program, a folder for its files, and the platform's double.
 class ShellTest : public testing::Test {
+ public:
+  ~ShellTest() override;
+
  protected:
   ShellTest();
-  ~ShellTest() override;
 
   /// Path of a file in the test's folder.
   [[nodiscard]] QString File(const char* name) const;
