@@ -38,8 +38,10 @@ class Desktop:
 
     def __enter__(self):
         reading, writing = os.pipe()
+        # Without -noreset the server starts over whenever its last client leaves, which can be a question asked
+        # before the window manager is there, and throws out who comes in just then.
         self.start(
-            ["Xvfb", "-displayfd", str(writing), "-screen", "0", "1280x800x24", "-nolisten", "tcp"],
+            ["Xvfb", "-displayfd", str(writing), "-screen", "0", "1280x800x24", "-nolisten", "tcp", "-noreset"],
             pass_fds=(writing,),
         )
         os.close(writing)
