@@ -176,6 +176,15 @@ void HtmlWriter::Report(std::string& out, std::string_view file, const ToolRow& 
   EndSection(out);
 }
 
+void HtmlWriter::NoReport(std::string& out, std::string_view file, const ToolRow& tool,
+                          const ReportFailure& reason) {
+  BeginSection(out, HeadingOf(file, tool));
+  out += "<p>";
+  AppendEscaped(out, reason.message);
+  out += "</p>\n";
+  EndSection(out);
+}
+
 void HtmlWriter::ToolFailed(std::string& out, std::string_view file, const ToolRow& tool,
                             const ReportFailure& failure) {
   BeginSection(out, HeadingOf(file, tool));

@@ -11,6 +11,8 @@ class HtmlWriter : public ReportWriter {
   void Begin(std::string& out) override;
   void Report(std::string& out, std::string_view file, const ToolRow& tool, const RichText& report,
               const std::vector<WorkingValue>& results) override;
+  void NoReport(std::string& out, std::string_view file, const ToolRow& tool,
+                const ReportFailure& reason) override;
   void ToolFailed(std::string& out, std::string_view file, const ToolRow& tool,
                   const ReportFailure& failure) override;
   void FileFailed(std::string& out, std::string_view file, std::span<const ToolRow* const> tools,

@@ -26,14 +26,17 @@ std::optional<ReportFailure> Try(const Action& action) {
   }
 }
 
-std::optional<ReportFailure> OpenAfresh(const std::string& file) {
-  return Try([&file]() -> std::optional<ReportFailure> {
+std::optional<ReportFailure> OpenAfresh(const std::string& file, LengthUnit units) {
+  return Try([&file, units]() -> std::optional<ReportFailure> {
     Module1 = JobState{};
+    Module1.Units = static_cast<Integer>(units);
     Module1.JobFileName = file;
     if (OpenJobFile() == OpenOutcome::Opened) return std::nullopt;
     return ReportFailure{"NotAJobFile", "Not a job file: its first field is not \"qjt\""};
   });
 }
+
+const ReportFailure kNoReport{"NoReport", "The job has no task, so the tool has no report on it."};
 
 /// The failures of the file system name the file themselves.
 std::string Complaint(const std::string& file, const ReportFailure& failure) {
@@ -44,9 +47,9 @@ std::string Complaint(const std::string& file, const ReportFailure& failure) {
 }  // namespace
 
 std::vector<std::string> AppendReports(std::string& out, ReportWriter& writer,
-                                       const std::string& file,
+                                       const std::string& file, LengthUnit units,
                                        std::span<const ToolRow* const> tools) {
-  if (const auto failure = OpenAfresh(file)) {
+  if (const auto failure = OpenAfresh(file, units)) {
     writer.FileFailed(out, file, tools, *failure);
     return {Complaint(file, *failure)};
   }
@@ -58,11 +61,14 @@ std::vector<std::string> AppendReports(std::string& out, ReportWriter& writer,
     const ToolRow* const tool = tools[i];
     if (i > 0) Module1 = *opened;
     RichText report;
+    bool hasReport = false;
     const auto failure = Try([&]() -> std::optional<ReportFailure> {
-      tool->writeReport(report);
+      hasReport = tool->writeReport(report);
       return std::nullopt;
     });
-    if (failure) {
+    if (!failure && !hasReport) {
+      writer.NoReport(out, file, *tool, kNoReport);
+    } else if (failure) {
       writer.ToolFailed(out, file, *tool, *failure);
       complaints.push_back(
           Complaint(file, {failure->kind, std::string(tool->key) + ": " + failure->message}));

@@ -88,10 +88,19 @@ void AppendField(std::string& out, const TaggedField& field) {
   }
 }
 
+void AppendValue(std::string& out, const WorkingValue& result) {
+  if (const auto* field = std::get_if<TaggedField>(&result.value)) {
+    AppendField(out, *field);
+  } else {
+    AppendList(out, '[', ']', std::get<std::vector<TaggedField>>(result.value),
+               [&out](const TaggedField& element) { AppendField(out, element); });
+  }
+}
+
 void AppendResults(std::string& out, const std::vector<WorkingValue>& results) {
   AppendList(out, '{', '}', results, [&out](const WorkingValue& result) {
     AppendName(out, result.name);
-    AppendField(out, result.value);
+    AppendValue(out, result);
   });
 }
 
@@ -156,6 +165,11 @@ void JsonWriter::Report(std::string& out, std::string_view file, const ToolRow& 
   out += ",\"report\":";
   AppendReport(out, report);
   out += ",\"error\":null}\n";
+}
+
+void JsonWriter::NoReport(std::string& out, std::string_view file, const ToolRow& tool,
+                          const ReportFailure& reason) {
+  ToolFailed(out, file, tool, reason);
 }
 
 void JsonWriter::ToolFailed(std::string& out, std::string_view file, const ToolRow& tool,

@@ -10,6 +10,8 @@ class JsonWriter : public ReportWriter {
  public:
   void Report(std::string& out, std::string_view file, const ToolRow& tool, const RichText& report,
               const std::vector<WorkingValue>& results) override;
+  void NoReport(std::string& out, std::string_view file, const ToolRow& tool,
+                const ReportFailure& reason) override;
   void ToolFailed(std::string& out, std::string_view file, const ToolRow& tool,
                   const ReportFailure& failure) override;
   void FileFailed(std::string& out, std::string_view file, std::span<const ToolRow* const> tools,

@@ -25,21 +25,28 @@ std::string WithoutGuard(std::string argument) {
   return argument;
 }
 
-struct FormatName {
+/// A word of the command line and what it stands for.
+template <typename Value>
+struct Word {
   std::string_view name;
-  ReportFormat format;
+  Value value;
 };
 
-constexpr std::array kFormats{
-    FormatName{"text", ReportFormat::Text},
-    FormatName{"json", ReportFormat::Json},
-    FormatName{"html", ReportFormat::Html},
-};
+constexpr std::array<Word<ReportFormat>, 3> kFormats{{
+    {"text", ReportFormat::Text},
+    {"json", ReportFormat::Json},
+    {"html", ReportFormat::Html},
+}};
+constexpr std::array<Word<LengthUnit>, 2> kUnits{{
+    {"metric", LengthUnit::Metric},
+    {"english", LengthUnit::English},
+}};
 
-const FormatName* FormatNamed(std::string_view name) {
-  const auto* const found = std::find_if(kFormats.begin(), kFormats.end(),
-                                         [name](auto& row) { return row.name == name; });
-  return found == kFormats.end() ? nullptr : found;
+template <typename Value, std::size_t N>
+const Word<Value>* WordNamed(const std::array<Word<Value>, N>& words, std::string_view name) {
+  const auto* const found =
+      std::find_if(words.begin(), words.end(), [name](auto& word) { return word.name == name; });
+  return found == words.end() ? nullptr : found;
 }
 
 const ToolRow* ToolNamed(std::span<const ToolRow> tools, std::string_view key) {
@@ -77,12 +84,17 @@ std::string ToolComplaint(std::span<const ToolRow> tools, const std::string& key
 }
 
 std::string FormatComplaint(const std::string& name) {
-  if (FormatNamed(name) != nullptr) return {};
+  if (WordNamed(kFormats, name) != nullptr) return {};
   return "there is no format \"" + WithoutGuard(name) + "\"";
 }
 
+std::string UnitsComplaint(const std::string& name) {
+  if (WordNamed(kUnits, name) != nullptr) return {};
+  return "there are no units \"" + WithoutGuard(name) + "\"";
+}
+
 Options Collect(std::span<const ToolRow> tools, const std::vector<std::string>& keys,
-                const std::string& format, std::vector<std::string> files) {
+                std::vector<std::string> files) {
   Options options;
   for (const std::string& key : keys) {
     const ToolRow* const row = ToolNamed(tools, key);
@@ -93,7 +105,6 @@ Options Collect(std::span<const ToolRow> tools, const std::vector<std::string>& 
       if (row.isBuilt()) options.tools.push_back(&row);
     }
   }
-  options.format = FormatNamed(format)->format;
   options.files = std::move(files);
   for (std::string& file : options.files) file = WithoutGuard(std::move(file));
   return options;
@@ -112,6 +123,7 @@ std::variant<Options, Notice> ParseOptions(std::vector<std::string> arguments,
                                            std::span<const ToolRow> tools) {
   std::vector<std::string> keys;
   std::string format = "text";
+  std::string units = "metric";
   std::vector<std::string> files;
 
   CLI::App app("Prints the reports of the tools on job files.", std::string(kProgramName));
@@ -124,6 +136,10 @@ std::variant<Options, Notice> ParseOptions(std::vector<std::string> arguments,
   app.add_option("--format", format, "text (default), json (one object a line) or html (one page)")
       ->type_name("NAME")
       ->check(FormatComplaint);
+  app.add_option("--units", units,
+                 "metric (default) or english: what the hand spans of the jobs are taken in")
+      ->type_name("NAME")
+      ->check(UnitsComplaint);
   app.add_option("FILE", files, "Job file (.qjt)")->type_name("")->required();
   app.footer(
       "Exit status: 0 all reports are done, 1 a file could not be read, a computation failed or "
@@ -138,7 +154,10 @@ std::variant<Options, Notice> ParseOptions(std::vector<std::string> arguments,
     if (app.exit(end, out, out) == 0) return Notice{false, out.str()};
     return Notice{true, WrongUse(end.what())};
   }
-  return Collect(tools, keys, format, std::move(files));
+  Options options = Collect(tools, keys, std::move(files));
+  options.format = WordNamed(kFormats, format)->value;
+  options.units = WordNamed(kUnits, units)->value;
+  return options;
 }
 
 }  // namespace halvane

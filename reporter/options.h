@@ -6,6 +6,7 @@
 #include <variant>
 #include <vector>
 
+#include "core/units.h"
 #include "reporter/report_writer.h"
 #include "tools/tool_table.h"
 
@@ -18,6 +19,7 @@ inline constexpr std::string_view kProgramName = "halvane-report";
 struct Options {
   std::vector<const ToolRow*> tools;  ///< each once, in the order asked for
   ReportFormat format = ReportFormat::Text;
+  LengthUnit units = LengthUnit::Metric;  ///< what the hand spans of the jobs are taken in
   std::vector<std::string> files;
 };
 

@@ -33,6 +33,9 @@ class ReportWriter {
   /// A tool's report on the job in `file`, and the working values that it left.
   virtual void Report(std::string& out, std::string_view file, const ToolRow& tool,
                       const RichText& report, const std::vector<WorkingValue>& results) = 0;
+  /// The tool has no report on this job, which is no failure; the job was read.
+  virtual void NoReport(std::string& out, std::string_view file, const ToolRow& tool,
+                        const ReportFailure& reason) = 0;
   /// A tool's computation failed.
   virtual void ToolFailed(std::string& out, std::string_view file, const ToolRow& tool,
                           const ReportFailure& failure) = 0;

@@ -33,7 +33,8 @@ int WriteReports(StandardOutput& output, const Options& options) {
   int status = kAllDone;
   writer->Begin(output.pending());
   for (const std::string& file : options.files) {
-    const auto complaints = AppendReports(output.pending(), *writer, file, options.tools);
+    const auto complaints =
+        AppendReports(output.pending(), *writer, file, options.units, options.tools);
     output.WriteSome();
     if (complaints.empty()) continue;
     status = kSomeFailed;

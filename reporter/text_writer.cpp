@@ -21,50 +21,80 @@ std::size_t ColumnOf(int twips) {
   return static_cast<std::size_t>(std::max(0, twips + kTwipsPerColumn / 2) / kTwipsPerColumn);
 }
 
-/// One line under way. Characters here are wider than on the printed page, so a text can pass a
-/// stop that it does not reach there; the next tab still goes to the stop of its number, which
-/// keeps the columns behind it in their places.
-class Line {
- public:
-  explicit Line(const std::vector<int>& tabStops) : tabStops_(tabStops) {}
+/// The texts of a paragraph between its tabs.
+using Cells = std::vector<std::string>;
 
-  void Append(std::string_view text) {
+Cells CellsOf(const Paragraph& paragraph) {
+  Cells cells(1);
+  for (const Run& run : paragraph.runs) {
+    if (!run.picture.empty()) {
+      cells.back() += "[picture: " + run.picture + "]";
+      continue;
+    }
+    std::string_view text = run.text;
     while (true) {
       const std::size_t length = text.find(kTab);
-      AppendPiece(PrintableText(text.substr(0, length)));
-      if (length == std::string_view::npos) return;
-      Tab();
+      cells.back() += PrintableText(text.substr(0, length));
+      if (length == std::string_view::npos) break;
+      cells.emplace_back();
       text.remove_prefix(length + 1);
     }
   }
+  return cells;
+}
 
-  void AppendPiece(const std::string& piece) {
-    text_ += piece;
-    column_ += CharacterCount(piece);
+/// The column that the tab behind cell `number` goes to; `end` is where that cell ends.
+std::size_t StopBehind(const ParagraphFormat& format, std::size_t number, std::size_t end) {
+  if (number < format.tabStops.size()) return ColumnOf(format.tabStops[number]);
+  return (end / kDefaultTabColumns + 1) * kDefaultTabColumns;
+}
+
+/// Lines with tabs that follow each other, as a table. Characters here are wider than on the
+/// printed page, so a text can pass a stop that it does not reach there. A column then begins
+/// behind the widest text before it, in every line, so that columns stay columns.
+class Table {
+ public:
+  void Add(const Paragraph& paragraph) { rows_.push_back({&paragraph, CellsOf(paragraph)}); }
+
+  /// Appends the lines and begins anew.
+  void AppendTo(std::string& out) {
+    const std::vector<std::size_t> starts = Starts();
+    for (const Row& row : rows_) {
+      std::size_t column = 0;
+      for (std::size_t i = 0; i < row.cells.size(); ++i) {
+        out.append(starts[i] - column, ' ');
+        out += row.cells[i];
+        column = starts[i] + CharacterCount(row.cells[i]);
+      }
+      out += kPlatformLineEnd;
+    }
+    rows_.clear();
   }
-
-  [[nodiscard]] const std::string& text() const { return text_; }
-  [[nodiscard]] std::size_t width() const { return column_; }
 
  private:
-  void Tab() {
-    const std::size_t stop =
-        nextStop_ < tabStops_.size() ? ColumnOf(tabStops_[nextStop_]) : NextDefaultStop();
-    ++nextStop_;
-    // Texts of two columns never touch.
-    const std::size_t blanks = stop > column_ ? stop - column_ : 1;
-    text_.append(blanks, ' ');
-    column_ += blanks;
+  struct Row {
+    const Paragraph* paragraph;
+    Cells cells;
+  };
+
+  /// Where each column begins.
+  [[nodiscard]] std::vector<std::size_t> Starts() const {
+    std::vector<std::size_t> starts(1, 0);
+    while (true) {
+      const std::size_t before = starts.size() - 1;
+      std::size_t start = 0;
+      for (const Row& row : rows_) {
+        // A text without a tab behind it is in nobody's way.
+        if (row.cells.size() <= before + 1) continue;
+        const std::size_t end = starts[before] + CharacterCount(row.cells[before]);
+        start = std::max({start, end + 1, StopBehind(row.paragraph->format, before, end)});
+      }
+      if (start == 0) return starts;
+      starts.push_back(start);
+    }
   }
 
-  [[nodiscard]] std::size_t NextDefaultStop() const {
-    return (column_ / kDefaultTabColumns + 1) * kDefaultTabColumns;
-  }
-
-  const std::vector<int>& tabStops_;
-  std::string text_;
-  std::size_t column_ = 0;
-  std::size_t nextStop_ = 0;
+  std::vector<Row> rows_;
 };
 
 std::size_t Indent(Alignment alignment, std::size_t width) {
@@ -77,32 +107,49 @@ std::size_t Indent(Alignment alignment, std::size_t width) {
   return 0;
 }
 
-void AppendParagraph(std::string& out, const Paragraph& paragraph) {
-  Line line(paragraph.format.tabStops);
-  for (const Run& run : paragraph.runs) {
-    if (run.picture.empty()) {
-      line.Append(run.text);
-    } else {
-      line.AppendPiece("[picture: " + run.picture + "]");
-    }
-  }
-  if (line.width() > 0) out.append(Indent(paragraph.format.alignment, line.width()), ' ');
-  out += line.text();
+void AppendLine(std::string& out, const Paragraph& paragraph) {
+  const std::string text = CellsOf(paragraph).front();
+  if (!text.empty()) out.append(Indent(paragraph.format.alignment, CharacterCount(text)), ' ');
+  out += text;
   out += kPlatformLineEnd;
+}
+
+bool HasTab(const Paragraph& paragraph) {
+  return std::any_of(paragraph.runs.begin(), paragraph.runs.end(),
+                     [](const Run& run) { return run.text.find(kTab) != std::string::npos; });
 }
 
 }  // namespace
 
+void TextWriter::AppendHeading(std::string& out, std::string_view file, const ToolRow& tool) {
+  if (!withHeadings_) return;
+  if (!isFirst_) out += kPlatformLineEnd;
+  isFirst_ = false;
+  out += "===== " + PrintableText(file) + ": " + std::string(tool.key) + " =====";
+  out += kPlatformLineEnd;
+  out += kPlatformLineEnd;
+}
+
 void TextWriter::Report(std::string& out, std::string_view file, const ToolRow& tool,
                         const RichText& report, const std::vector<WorkingValue>& /*results*/) {
-  if (withHeadings_) {
-    if (!isFirst_) out += kPlatformLineEnd;
-    isFirst_ = false;
-    out += "===== " + PrintableText(file) + ": " + std::string(tool.key) + " =====";
-    out += kPlatformLineEnd;
-    out += kPlatformLineEnd;
+  AppendHeading(out, file, tool);
+  Table table;
+  for (const Paragraph& paragraph : report.paragraphs()) {
+    if (HasTab(paragraph)) {
+      table.Add(paragraph);
+      continue;
+    }
+    table.AppendTo(out);
+    AppendLine(out, paragraph);
   }
-  for (const Paragraph& paragraph : report.paragraphs()) AppendParagraph(out, paragraph);
+  table.AppendTo(out);
+}
+
+void TextWriter::NoReport(std::string& out, std::string_view file, const ToolRow& tool,
+                          const ReportFailure& reason) {
+  AppendHeading(out, file, tool);
+  out += reason.message;
+  out += kPlatformLineEnd;
 }
 
 }  // namespace halvane

@@ -13,6 +13,8 @@ class TextWriter : public ReportWriter {
 
   void Report(std::string& out, std::string_view file, const ToolRow& tool, const RichText& report,
               const std::vector<WorkingValue>& results) override;
+  void NoReport(std::string& out, std::string_view file, const ToolRow& tool,
+                const ReportFailure& reason) override;
   void ToolFailed(std::string& /*out*/, std::string_view /*file*/, const ToolRow& /*tool*/,
                   const ReportFailure& /*failure*/) override {}
   void FileFailed(std::string& /*out*/, std::string_view /*file*/,
@@ -20,6 +22,8 @@ class TextWriter : public ReportWriter {
                   const ReportFailure& /*failure*/) override {}
 
  private:
+  void AppendHeading(std::string& out, std::string_view file, const ToolRow& tool);
+
   bool withHeadings_;
   bool isFirst_ = true;
 };

@@ -8,10 +8,11 @@
 namespace halvane {
 namespace {
 
-void WriteStrainIndexReport(RichText& RichTextBox1) {
+bool WriteStrainIndexReport(RichText& RichTextBox1) {
   SiControls controls;
   controls.Load();
   SI_Calculate(RichTextBox1);
+  return true;
 }
 
 constexpr std::array kTools{

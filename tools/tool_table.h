@@ -22,8 +22,9 @@ struct ToolRow {
   std::string_view helpTopic;      ///< page of the help file
 
   /// Does what opening the tool and its report tab does, form load included, on the present job,
-  /// without a screen. Null while the tool is not built.
-  void (*writeReport)(RichText& RichTextBox1);
+  /// without a screen. False, with nothing written, for a job that the tool has no report on. Null
+  /// while the tool is not built.
+  bool (*writeReport)(RichText& RichTextBox1);
   /// The working values that it leaves. Null while the tool is not built.
   std::vector<WorkingValue> (*workingValues)();
 

@@ -90,6 +90,14 @@ TEST(ReportHtml, FailuresStandInThePage) {
             "<section>\n<h2>b.qjt</h2>\n<p class=\"failure\">gone</p>\n</section>\n");
 }
 
+TEST(ReportHtml, JobWithoutAReportSaysSoAndIsNoFailure) {
+  std::string html;
+  HtmlWriter().NoReport(html, "a.qjt", kGoodTool, {"NoReport", "no <task>"});
+  EXPECT_EQ(html,
+            "<section>\n<h2>a.qjt: Good &lt;Tool&gt;</h2>\n"
+            "<p>no &lt;task&gt;</p>\n</section>\n");
+}
+
 TEST(ReportHtml, PageNeedsNothingElse) {
   std::string html;
   HtmlWriter writer;

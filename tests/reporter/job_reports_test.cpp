@@ -19,9 +19,14 @@ class LogWriter : public ReportWriter {
               const std::vector<WorkingValue>& results) override {
     out += Name(file) + " " + std::string(tool.key) + ": " + report.text();
     for (const WorkingValue& result : results) {
-      out += ", " + std::string(result.name) + " " + result.value.AsText();
+      out += ", " + std::string(result.name) + " " + std::get<TaggedField>(result.value).AsText();
     }
     out += "\n";
+  }
+  void NoReport(std::string& out, std::string_view file, const ToolRow& tool,
+                const ReportFailure& reason) override {
+    out += Name(file) + " " + std::string(tool.key) + ": " + reason.kind + ", " + reason.message +
+           "\n";
   }
   void ToolFailed(std::string& out, std::string_view file, const ToolRow& tool,
                   const ReportFailure& failure) override {
@@ -45,7 +50,7 @@ class JobReports : public testing::Test {
   /// and gives the complaints.
   std::vector<std::string> Append(const std::string& name) {
     const std::vector<const ToolRow*> tools{&kGoodTool, &kFailingTool, &kGoodTool};
-    return AppendReports(log_, writer_, folder_.File(name), tools);
+    return AppendReports(log_, writer_, folder_.File(name), LengthUnit::Metric, tools);
   }
 
   std::string Write(const std::string& name, std::string_view bytes) {
@@ -71,6 +76,29 @@ TEST_F(JobReports, NothingOfAnotherFileOrToolComesThrough) {
             "b.qjt good: Job: second, SiDutyRating 1\n"
             "b.qjt failing failed: DivisionByZero\n"
             "b.qjt good: Job: second, SiDutyRating 1\n");
+}
+
+TEST_F(JobReports, ToolWithoutAReportOnTheJobIsNoFailure) {
+  const std::string path = Write("a.qjt", EmptyJobText());
+  const std::vector<const ToolRow*> tools{&kSilentTool, &kGoodTool};
+  EXPECT_EQ(AppendReports(log_, writer_, path, LengthUnit::Metric, tools),
+            std::vector<std::string>{});
+  EXPECT_EQ(log_,
+            "a.qjt silent: NoReport, The job has no task, so the tool has no report on it.\n"
+            "a.qjt good: Job: , SiDutyRating 1\n");
+}
+
+TEST_F(JobReports, UnitsAreThoseAskedForInEveryReport) {
+  const std::string path = Write("a.qjt", EmptyJobText());
+  const std::vector<const ToolRow*> tools{&kUnitsTool, &kUnitsTool};
+  Module1.Units = 1;
+  AppendReports(log_, writer_, path, LengthUnit::Metric, tools);
+  AppendReports(log_, writer_, path, LengthUnit::English, tools);
+  EXPECT_EQ(log_,
+            "a.qjt units: 0\n"
+            "a.qjt units: 0\n"
+            "a.qjt units: 1\n"
+            "a.qjt units: 1\n");
 }
 
 TEST_F(JobReports, FailedComputationIsComplainedOfWithFileAndTool) {

@@ -72,6 +72,13 @@ TEST(ReportJson, ResultsKeepTheirKinds) {
   }
 }
 
+TEST(ReportJson, ResultWithElementsIsAnArray) {
+  const std::vector<TaggedField> elements{Integer{1}, {}, 2.5, "x"};
+  EXPECT_NE(LineOf(OneLine(""), {{"Values", elements}, {"None", std::vector<TaggedField>{}}})
+                .find(R"("results":{"Values":[1,null,2.5,"x"],"None":[]},)"),
+            std::string::npos);
+}
+
 struct TextRow {
   std::string_view label;
   std::string text;
@@ -110,6 +117,14 @@ TEST(ReportJson, FailureOfAToolHasNeitherResultsNorReport) {
   JsonWriter().ToolFailed(line, "a.qjt", kFailingTool, {"Overflow", "Overflow: \"9\""});
   EXPECT_EQ(line, R"({"file":"a.qjt","tool":"failing","results":null,"report":null,)"
                   R"("error":{"kind":"Overflow","message":"Overflow: \"9\""}})"
+                  "\n");
+}
+
+TEST(ReportJson, JobWithoutAReportSaysSoInItsError) {
+  std::string line;
+  JsonWriter().NoReport(line, "a.qjt", kGoodTool, {"NoReport", "no task"});
+  EXPECT_EQ(line, R"({"file":"a.qjt","tool":"good","results":null,"report":null,)"
+                  R"("error":{"kind":"NoReport","message":"no task"}})"
                   "\n");
 }
 

@@ -45,6 +45,12 @@ TEST(ReportOptions, FormatsHaveNames) {
   EXPECT_EQ(Parsed({"a", "--format=html"}).format, ReportFormat::Html);
 }
 
+TEST(ReportOptions, UnitsHaveNamesAndAreMetricByDefault) {
+  EXPECT_EQ(Parsed({"a"}).units, LengthUnit::Metric);
+  EXPECT_EQ(Parsed({"--units", "metric", "a"}).units, LengthUnit::Metric);
+  EXPECT_EQ(Parsed({"a", "--units=english"}).units, LengthUnit::English);
+}
+
 TEST(ReportOptions, FileNamesAreTakenAsTheyAre) {
   const std::vector<std::string> names{"a b.qjt", "[a,b]", "[]",      "{}",         "%%",
                                        "a,b",     "\"q\"", "caf\xE9", "\u7DDA.qjt", "-",
@@ -68,6 +74,7 @@ TEST(ReportOptions, WrongUseIsToldInOneLineAndAHint) {
       {"unknown tool", {"--tool", "nope", "a"}, "--tool: there is no tool \"nope\""},
       {"unbuilt tool", {"--tool", "missing", "a"}, "--tool: the tool \"missing\" is not built yet"},
       {"unknown format", {"--format", "pdf", "a"}, "--format: there is no format \"pdf\""},
+      {"unknown units", {"--units", "feet", "a"}, "--units: there are no units \"feet\""},
       {"tool in brackets", {"--tool", "[good]", "a"}, "--tool: there is no tool \"[good]\""},
       {"steering the terminal",
        {"--tool", "\x1B[31m", "a"},
@@ -93,6 +100,7 @@ TEST(ReportOptions, HelpTellsWhichToolsThereAre) {
   for (const std::string_view part :
        {"Usage: halvane-report [OPTIONS] FILE...",
         "One of: good, failing. Without it: all of them.", "Not built yet: missing.",
+        "metric (default) or english: what the hand spans of the jobs are taken in",
         "text (default), json (one object a line) or html (one page)",
         "Exit status: 0 all reports are done"}) {
     EXPECT_NE(notice.text.find(part), std::string::npos) << part << " in\n" << notice.text;

@@ -6,18 +6,28 @@ namespace halvane {
 namespace {
 
 /// Writes the job's name and changes the job, as tools do.
-void WriteGoodReport(RichText& RichTextBox1) {
+bool WriteGoodReport(RichText& RichTextBox1) {
   RichTextBox1.Append("Job: ", Module1.JobName.AsText());
   Module1.JobName = "changed by the tool";
   Module1.SiDutyRating = static_cast<Integer>(Module1.SiDutyRating + 1);
+  return true;
 }
 
 std::vector<WorkingValue> GoodValues() { return {{"SiDutyRating", Module1.SiDutyRating}}; }
 
-void Fail(RichText& RichTextBox1) {
+bool Fail(RichText& RichTextBox1) {
   RichTextBox1.Append("half of a report");
   throw RuntimeFailure(FailureKind::DivisionByZero);
 }
+
+bool WriteUnits(RichText& RichTextBox1) {
+  RichTextBox1.Append(PlainText(Module1.Units));
+  return true;
+}
+
+std::vector<WorkingValue> NoValues() { return {}; }
+
+bool WriteNothing(RichText& /*RichTextBox1*/) { return false; }
 
 }  // namespace
 
@@ -26,6 +36,9 @@ const std::array<ToolRow, 3> kTestTools{
     ToolRow{Tool::Ocra, "failing", "", "", "Failing Tool", "", Fail, GoodValues},
     ToolRow{Tool::Ctd, "missing", "", "", "Missing Tool", "", nullptr, nullptr},
 };
+
+const ToolRow kSilentTool{Tool::Ctd, "silent", "", "", "Silent Tool", "", WriteNothing, NoValues};
+const ToolRow kUnitsTool{Tool::Ctd, "units", "", "", "Units Tool", "", WriteUnits, NoValues};
 
 RichText OneLine(std::string_view text, Alignment alignment, const std::vector<int>& tabStops) {
   RichText report;

@@ -16,6 +16,11 @@ inline const ToolRow& kGoodTool = kTestTools[0];
 inline const ToolRow& kFailingTool = kTestTools[1];
 inline const ToolRow& kMissingTool = kTestTools[2];
 
+/// A tool that has no report on any job.
+extern const ToolRow kSilentTool;
+/// A tool whose report is the number of the units in use.
+extern const ToolRow kUnitsTool;
+
 /// A report of one line.
 RichText OneLine(std::string_view text, Alignment alignment = Alignment::Left,
                  const std::vector<int>& tabStops = {});

@@ -62,6 +62,33 @@ TEST(ReportText, TabsGoToTheirStops) {
   }
 }
 
+TEST(ReportText, LinesWithTabsThatFollowEachOtherAreATable) {
+  RichText report;
+  const auto append = [&report](std::string_view text, const std::vector<int>& stops) {
+    report.SetTabCount(static_cast<int>(stops.size()));
+    for (std::size_t i = 0; i < stops.size(); ++i) report.SetTab(static_cast<int>(i), stops[i]);
+    report.Append(text);
+  };
+  append("Name\tLong heading\tEnd\r\n", {600, 600});
+  append("a\tb\tc\r\n", {600, 1200});
+  append("a long name\tb\tand a text that nothing follows\r\n", {600, 1200});
+  append("\t\tx\r\n", {600, 1200});
+  append("between\r\n", {600, 1200});
+  append("a\tb", {600, 1200});
+  EXPECT_EQ(TextOf(report),
+            "Name        Long heading End\n"
+            "a           b            c\n"
+            "a long name b            and a text that nothing follows\n"
+            "                         x\n"
+            "between\n"
+            "a    b\n");
+}
+
+TEST(ReportText, TextBehindTheLastTabMovesNoColumn) {
+  EXPECT_EQ(TextOf(OneLine("\ta text that is long\r\n\t\tb", Alignment::Left, {240, 600})),
+            "  a text that is long\n     b\n");
+}
+
 TEST(ReportText, ParagraphsStandOnAPageOf72Columns) {
   EXPECT_EQ(TextOf(OneLine("title", Alignment::Center)), Blanks(33) + "title\n");
   EXPECT_EQ(TextOf(OneLine("end", Alignment::Right)), Blanks(69) + "end\n");
@@ -98,9 +125,11 @@ TEST(ReportText, SeveralReportsHaveHeadings) {
   TextWriter writer(true);
   writer.Report(text, "a b.qjt", kGoodTool, OneLine("first"), {});
   writer.ToolFailed(text, "b.qjt", kFailingTool, {"Overflow", "Overflow"});
+  writer.NoReport(text, "b.qjt", kGoodTool, {"NoReport", "no task"});
   writer.Report(text, "c\xFF\n.qjt", kGoodTool, OneLine("second"), {});
   EXPECT_EQ(text,
             "===== a b.qjt: good =====\n\nfirst\n"
+            "\n===== b.qjt: good =====\n\nno task\n"
             "\n===== c\uFFFD\uFFFD.qjt: good =====\n\nsecond\n");
 }
 
