@@ -99,8 +99,31 @@ struct JobState {
   /// The job file stands open after a failure: every later open fails with `FileAlreadyOpen`.
   bool JobFileOpen = false;
 
+  // OCRA. The three multipliers that a lookup may miss keep the value of the last computation.
+  FixedArray<TaggedField, 6> OcraGripScores;  ///< lists 0 to 5; element 5 is widened in place
+  TaggedField OcraElbowRotation;              ///< sums of list scores
+  TaggedField OcraElbowFlexion;
+  TaggedField OcraWristDeviation;
+  TaggedField OcraWristFlexion;
+  FixedArray<Integer, 4> OcraPostureSums;  ///< 1 elbow, 2 wrist, 3 grip; slot 0 stays 0
+  TaggedField OcraRegionMultiplier;        ///< of the region looked at last
+  TaggedField OcraPostureMultiplier;       ///< the smallest of the three regions
+  TaggedField OcraGripExtraMultiplier;
+  double OcraRecoveryMultiplier = 0;
   TaskArray<TaggedField> OcraForceMultiplier;  ///< by task; resized with the task list
-  TaskArray<double> CtdTaskPostureScore;       ///< by task; resized with the task list
+  TaggedField OcraActionsObserved;             ///< actions a shift
+  TaggedField OcraActionsRecommended;          ///< actions a shift
+  double OcraRiskIndex = 0;
+
+  // CTD Risk Index.
+  double CtdCyclesPerShift = 0;
+  double CtdPostureFactor = 0;       ///< highest mean posture score of a task
+  Integer CtdPostureFactorTask = 0;  ///< the task that gave it
+  double CtdForceFrequencyFactor = 0;
+  TaggedField CtdGrandScore;                      ///< predicted incidence per 200,000 worked hours
+  TaskArray<double> CtdTaskPostureScore;          ///< by task; resized with the task list
+  FixedArray<TaggedField, 8> CtdPostureCapacity;  ///< per cent, of the last task computed
+  FixedArray<TaggedField, 8> CtdPostureScore;     ///< of the last task computed
 
   Integer SiIntensityRating = 0;  ///< 1 to 5; 0 until the form has loaded
   Integer SiPostureRating = 0;    ///< 1 to 5; 0 until the form has loaded

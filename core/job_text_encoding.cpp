@@ -114,6 +114,15 @@ std::size_t CharacterCount(std::string_view text) {
   }));
 }
 
+std::string FirstCharacters(std::string_view text, std::size_t count) {
+  std::size_t end = 0;
+  for (std::size_t i = 0; i < count && end < text.size(); ++i) {
+    ++end;
+    while (end < text.size() && (static_cast<unsigned char>(text[end]) & 0xC0U) == 0x80U) ++end;
+  }
+  return std::string(text.substr(0, end));
+}
+
 std::string DecodeJobText(std::string bytes) {
   if (IsAllAscii(bytes) || IsUtf8(bytes)) return bytes;
   std::string text;

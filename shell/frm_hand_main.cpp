@@ -28,10 +28,6 @@ constexpr int kOpeningMilliseconds = 3500;
 constexpr auto kExitQuestion = "Exit Program?";
 constexpr auto kSaveQuestion = "Save data before exiting this program?";
 
-QString Text(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
 }  // namespace
 
 FrmHandMain::FrmHandMain() : fileCommands_(*this), Timer1_(new QTimer(this)) {
@@ -96,9 +92,9 @@ void FrmHandMain::MakeButtons() {
   for (const ToolRow& row : Tools()) {
     if (row.buttonCaption.empty()) continue;
     const int index = static_cast<int>(SSCommand2_.size());
-    auto* button = new QPushButton(Text(row.buttonCaption), this);
+    auto* button = new QPushButton(ScreenText(row.buttonCaption), this);
     button->setObjectName(ElementName("SSCommand2", index));
-    button->setToolTip(Text(row.buttonTip));
+    button->setToolTip(ScreenText(row.buttonTip));
     button->setEnabled(row.isBuilt());
     connect(button, &QPushButton::clicked, this, [this, index] { SSCommand2_Click(index); });
     SSCommand2_.push_back(button);

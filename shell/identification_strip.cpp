@@ -1,10 +1,7 @@
 #include "shell/identification_strip.h"
 
-#include <QButtonGroup>
-#include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QRadioButton>
 
 #include "core/job_state.h"
 #include "shell/controls/text_box.h"
@@ -21,25 +18,11 @@ IdentificationStrip::IdentificationStrip(const IdentificationNames& names, QWidg
   jobName_ = AddBox("Job Name", names.jobName);
   workstation_ = AddBox("Workstation ID", names.workstation);
 
-  auto* frame = new QGroupBox("Hand", this);
-  auto* options = new QHBoxLayout(frame);
-  options->setContentsMargins(kMargin, kGap / 2, kMargin, kGap / 2);
-  auto* group = new QButtonGroup(this);
-  const std::array captions{"Right Side", "Left Side"};
-  for (int i = 0; i < 2; ++i) {
-    auto*& option = hand_.at(static_cast<std::size_t>(i));
-    option = new QRadioButton(captions.at(static_cast<std::size_t>(i)), frame);
-    option->setObjectName(ElementName(names.handOptions, i));
-    options->addWidget(option);
-    group->addButton(option, i);
-  }
-  row->addWidget(frame);
-  connect(group, &QButtonGroup::idClicked, this, &IdentificationStrip::handChosen);
-
   const auto stores = [this](TextBox* box, auto store) {
-    connect(box, &TextBox::keyReleased, this, [box, store] {
+    connect(box, &TextBox::keyReleased, this, [this, box, store] {
       Module1.JobDirty = kTrue;
       store(box->text().toStdString());
+      emit typed();
     });
   };
   stores(analyst_, [](std::string text) { Module1.JobAnalyst = std::move(text); });
@@ -68,10 +51,5 @@ void IdentificationStrip::ShowJob() {
 }
 
 void IdentificationStrip::FocusFirst() { analyst_->setFocus(); }
-
-void IdentificationStrip::ShowHand(int index) {
-  // The group lets the other option go.
-  hand_.at(static_cast<std::size_t>(index))->setChecked(true);
-}
 
 }  // namespace halvane

@@ -1,9 +1,6 @@
 #pragma once
 
 #include <QWidget>
-#include <array>
-
-class QRadioButton;
 
 namespace halvane {
 
@@ -28,12 +25,10 @@ class IdentificationStrip : public QWidget {
   void ShowJob();
   /// Gives the first box the focus.
   void FocusFirst();
-  /// Shows which option is chosen. Tells nobody.
-  void ShowHand(int index);
 
  signals:
-  /// The user chose a hand: 0 right side, 1 left side.
-  void handChosen(int index);
+  /// A key was released in a box and its text is stored.
+  void typed();
 
  private:
   TextBox* AddBox(const QString& label, const QString& name);
@@ -41,7 +36,6 @@ class IdentificationStrip : public QWidget {
   TextBox* analyst_;
   TextBox* jobName_;
   TextBox* workstation_;
-  std::array<QRadioButton*, 2> hand_{};
 };
 
 }  // namespace halvane

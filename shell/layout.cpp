@@ -1,12 +1,36 @@
 #include "shell/layout.h"
 
+#include <QCheckBox>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
+#include <QMouseEvent>
 
 #include "shell/controls/text_box.h"
 
 namespace halvane {
+namespace {
+
+/// A caption beside its tick box; a click on it is a click on the box.
+class WrappedCaption : public QLabel {
+ public:
+  WrappedCaption(QCheckBox& box, const QString& caption, QWidget* parent)
+      : QLabel(caption, parent), box_(box) {
+    setWordWrap(true);
+  }
+
+ protected:
+  void mouseReleaseEvent(QMouseEvent* event) override {
+    QLabel::mouseReleaseEvent(event);
+    const bool inside = rect().contains(event->position().toPoint());
+    if (event->button() == Qt::LeftButton && inside) box_.click();
+  }
+
+ private:
+  QCheckBox& box_;
+};
+
+}  // namespace
 
 Frame MakeFrame(const QString& caption, QWidget* parent) {
   auto* box = new QGroupBox(caption, parent);
@@ -18,17 +42,49 @@ Frame MakeFrame(const QString& caption, QWidget* parent) {
 }
 
 TextBox* AddNumberRow(QGridLayout& grid, const QString& label, const QString& boxName) {
-  const int row = grid.rowCount();
+  return AddNumberAt(grid, grid.rowCount(), 0, label, boxName);
+}
+
+TextBox* AddNumberAt(QGridLayout& grid, int row, int column, const QString& label,
+                     const QString& boxName) {
   auto* box = new TextBox(boxName, grid.parentWidget());
   box->setMinimumWidth(box->fontMetrics().horizontalAdvance('0') * (kNumberDigits + 2));
   box->setMaximumWidth(box->minimumWidth() * 2);
   auto* caption = new QLabel(label, grid.parentWidget());
   caption->setBuddy(box);
-  grid.addWidget(caption, row, 0);
-  grid.addWidget(box, row, 1);
-  grid.setColumnStretch(0, 1);
+  grid.addWidget(caption, row, column);
+  grid.addWidget(box, row, column + 1);
+  grid.setColumnStretch(column, 1);
   grid.setAlignment(Qt::AlignTop);
   return box;
+}
+
+TextBox* AddNumberWithUnit(QGridLayout& grid, const QString& boxName, const QString& name,
+                           const QString& unit) {
+  auto* box = new TextBox(boxName, grid.parentWidget());
+  box->setAccessibleName(name);
+  box->setFixedWidth(box->fontMetrics().horizontalAdvance('0') * (kNumberDigits + 2));
+  const int row = grid.rowCount();
+  grid.addWidget(box, row, 0);
+  grid.addWidget(new QLabel(unit, grid.parentWidget()), row, 1);
+  grid.setColumnStretch(1, 1);
+  return box;
+}
+
+QCheckBox* AddWrappedCheck(QGridLayout& grid, const QString& boxName, const QString& caption) {
+  auto* box = new QCheckBox(grid.parentWidget());
+  box->setObjectName(boxName);
+  box->setAccessibleName(caption);
+  auto* text = new WrappedCaption(*box, caption, grid.parentWidget());
+  const int row = grid.rowCount();
+  grid.addWidget(box, row, 0, Qt::AlignTop);
+  grid.addWidget(text, row, 1);
+  grid.setColumnStretch(1, 1);
+  return box;
+}
+
+QString ScreenText(std::string_view text) {
+  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
 QString ElementName(const QString& array, int index) {

@@ -1,8 +1,10 @@
 #pragma once
 
 #include <QString>
+#include <string_view>
 
 class QGroupBox;
+class QCheckBox;
 class QGridLayout;
 class QWidget;
 
@@ -26,6 +28,19 @@ Frame MakeFrame(const QString& caption, QWidget* parent);
 /// Adds a row to `grid`: a label, and behind it a box for a number, which becomes the label's
 /// buddy.
 TextBox* AddNumberRow(QGridLayout& grid, const QString& label, const QString& boxName);
+/// The same at a row and column of the grid; the box stands in the next column.
+TextBox* AddNumberAt(QGridLayout& grid, int row, int column, const QString& label,
+                     const QString& boxName);
+
+/// Adds a box for a number with its unit behind it; `name` is its accessible name.
+TextBox* AddNumberWithUnit(QGridLayout& grid, const QString& boxName, const QString& name,
+                           const QString& unit);
+
+/// Adds a tick box whose long caption wraps beside it.
+QCheckBox* AddWrappedCheck(QGridLayout& grid, const QString& boxName, const QString& caption);
+
+/// The program's own texts for the screen.
+QString ScreenText(std::string_view text);
 
 /// The name of an element of a control array: "Text1(2)".
 QString ElementName(const QString& array, int index);

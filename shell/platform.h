@@ -44,6 +44,13 @@ class Platform {
   virtual void ClearClipboard() = 0;
   virtual void SetClipboardText(const QString& text) = 0;
 
+  /// The folder that the program stands in.
+  virtual QString ProgramFolder() = 0;
+  /// The user's folder for the program's data.
+  virtual QString DataFolder() = 0;
+  /// Copies a file, replacing one that is there; makes the target's folder. False when it failed.
+  virtual bool CopyFile(const QString& source, const QString& target) = 0;
+
   /// The folder for the user's documents.
   virtual QString DocumentsFolder() = 0;
 

@@ -2,6 +2,8 @@
 
 #include <QClipboard>
 #include <QCoreApplication>
+#include <QDir>
+#include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QGuiApplication>
@@ -9,6 +11,7 @@
 #include <QPageSetupDialog>
 #include <QPrintDialog>
 #include <QPrinter>
+#include <QSaveFile>
 #include <QStandardPaths>
 #include <QTextDocument>
 #include <array>
@@ -106,6 +109,23 @@ void QtPlatform::ClearClipboard() { QGuiApplication::clipboard()->clear(); }
 
 void QtPlatform::SetClipboardText(const QString& text) {
   QGuiApplication::clipboard()->setText(text);
+}
+
+QString QtPlatform::ProgramFolder() { return QCoreApplication::applicationDirPath(); }
+
+QString QtPlatform::DataFolder() {
+  return QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+}
+
+bool QtPlatform::CopyFile(const QString& source, const QString& target) {
+  QDir().mkpath(QFileInfo(target).path());
+  QFile from(source);
+  // Replaces what is there only when the copy is whole.
+  QSaveFile to(target);
+  if (!from.open(QFile::ReadOnly) || !to.open(QFile::WriteOnly)) return false;
+  const QByteArray bytes = from.readAll();
+  if (from.error() != QFile::NoError || to.write(bytes) != bytes.size()) return false;
+  return to.commit();
 }
 
 QString QtPlatform::DocumentsFolder() {

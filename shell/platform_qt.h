@@ -23,6 +23,9 @@ class QtPlatform : public Platform {
   void Print(const QTextDocument& document) override;
   void ClearClipboard() override;
   void SetClipboardText(const QString& text) override;
+  QString ProgramFolder() override;
+  QString DataFolder() override;
+  bool CopyFile(const QString& source, const QString& target) override;
   QString DocumentsFolder() override;
   void EndProgram(int exitStatus) override;
 

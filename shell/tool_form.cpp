@@ -7,6 +7,7 @@
 
 #include "shell/controls/rich_text_box.h"
 #include "shell/frm_about.h"
+#include "shell/hand_frame.h"
 #include "shell/layout.h"
 #include "shell/menu_item.h"
 #include "shell/platform.h"
@@ -18,17 +19,13 @@ namespace {
 constexpr QSize kDefaultSize{1120, 700};
 constexpr QSize kLeastSize{960, 620};
 
-QString Text(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
 }  // namespace
 
 ToolForm::ToolForm(Tool tool, const char* objectName, const IdentificationNames& names,
                    QWidget* parent)
     : QDialog(parent), row_(RowOf(tool)), names_(names), fileCommands_(*this) {
   setObjectName(objectName);
-  setWindowTitle(Text(row_.title));
+  setWindowTitle(ScreenText(row_.title));
   setWindowFlags(Qt::Window | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                  Qt::WindowMinMaxButtonsHint | Qt::WindowCloseButtonHint);
   setMinimumSize(kLeastSize);
@@ -40,10 +37,32 @@ ToolForm::ToolForm(Tool tool, const char* objectName, const IdentificationNames&
   MakeMenus();
 }
 
+ToolForm::~ToolForm() {
+  // A name that is being edited ends with the focus, which goes after the tool's own part of the
+  // form is gone.
+  for (const QObject* child : findChildren<QObject*>()) child->disconnect(this);
+}
+
 IdentificationStrip* ToolForm::MakeIdentification(QWidget* stripParent) {
   identification_ = new IdentificationStrip(names_, stripParent);
-  connect(identification_, &IdentificationStrip::handChosen, this, &ToolForm::handChosen);
+  connect(identification_, &IdentificationStrip::typed, this, &ToolForm::identificationTyped);
   return identification_;
+}
+
+HandFrame* ToolForm::MakeHand(QWidget* frameParent) {
+  hand_ = new HandFrame(names_.handOptions, frameParent);
+  connect(hand_, &HandFrame::handChosen, this, &ToolForm::handChosen);
+  return hand_;
+}
+
+QWidget* ToolForm::MakeIdentificationWithHand(QWidget* rowParent) {
+  auto* widget = new QWidget(rowParent);
+  auto* row = new QHBoxLayout(widget);
+  row->setContentsMargins(0, 0, 0, 0);
+  row->setSpacing(kGap);
+  row->addWidget(MakeIdentification(widget), 1);
+  row->addWidget(MakeHand(widget));
+  return widget;
 }
 
 void ToolForm::MakeMenus() {
@@ -109,7 +128,8 @@ void ToolForm::mnuPrint_Click() {
   Silently([this] {
     fileCommands_.SetCancelIsFailure();
     if (!ThePlatform().ChoosePrinter(this)) return;
-    ShowReport();
+    printReport(report_);
+    pane_->ShowReport(report_);
     pane_->SelectAll();
     ThePlatform().Print(*pane_->document());
     pane_->Select(0, 0);
@@ -136,6 +156,12 @@ void ToolForm::mnuEditCopy_Click() {
 }
 
 void ToolForm::mnuHelpAbout_Click() { FrmAbout(this).exec(); }
+
+void ToolForm::showEvent(QShowEvent* event) {
+  // With large fonts the controls may need more than the least size.
+  setMinimumSize(kLeastSize.expandedTo(layout()->totalMinimumSize()));
+  QDialog::showEvent(event);
+}
 
 void ToolForm::keyPressEvent(QKeyEvent* event) {
   // A dialog closes on Escape and presses a button on Return; a tool does neither.

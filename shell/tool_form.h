@@ -13,6 +13,7 @@ class QVBoxLayout;
 
 namespace halvane {
 
+class HandFrame;
 class RichTextBox;
 
 /// What all six tools share: window, menus, file and report commands, identification strip, report
@@ -23,6 +24,8 @@ class ToolForm : public QDialog {
  public:
   /// Result of `exec`: the job was replaced, and the form has to be loaded and shown again.
   static constexpr int Reload = 2;
+
+  ~ToolForm() override;
 
   /// Brings the form to its design state and fills it from the job. Throws what the tool's load
   /// throws.
@@ -50,23 +53,31 @@ class ToolForm : public QDialog {
   /// Computes, writes the report and shows it. Throws what the tool's computation throws.
   void ShowReport();
 
-  /// Makes the identification strip. The tool calls it where the strip stands in reading order,
-  /// since that is the order of the Tab key.
+  // Makes the identification strip and the Hand frame. The tool calls them where these stand in
+  // reading order, since that is the order of the Tab key.
   IdentificationStrip* MakeIdentification(QWidget* stripParent);
-  IdentificationStrip& identification() { return *identification_; }
+  HandFrame* MakeHand(QWidget* frameParent);
+  /// Both in one row, as most tools have them.
+  QWidget* MakeIdentificationWithHand(QWidget* rowParent);
+  HandFrame& hand() { return *hand_; }
   RichTextBox& RichTextBox1() { return *pane_; }
   QMenu& mnuEdit() { return *mnuEdit_; }
   /// The space below the menu bar; the tool puts its controls there.
   QVBoxLayout& body() { return *body_; }
 
   void keyPressEvent(QKeyEvent* event) override;
+  void showEvent(QShowEvent* event) override;
 
   /// Fills the tool's controls from the job, running the handlers that a load runs.
   virtual void loadFromJob() = 0;
   /// Computes and writes the report.
   virtual void writeReport(RichText& RichTextBox1) = 0;
+  /// Rewrites the report for printing; computes anew unless a tool says otherwise.
+  virtual void printReport(RichText& RichTextBox1) { writeReport(RichTextBox1); }
   /// The user chose a hand.
   virtual void handChosen(int index) = 0;
+  /// A key was released in a box of the identification strip, which has stored its text.
+  virtual void identificationTyped() {}
 
  private:
   void MakeMenus();
@@ -76,6 +87,7 @@ class ToolForm : public QDialog {
   FileCommands fileCommands_;
   RichText report_;
   IdentificationStrip* identification_ = nullptr;
+  HandFrame* hand_ = nullptr;
   RichTextBox* pane_;
   QMenu* mnuEdit_ = nullptr;
   QVBoxLayout* body_;

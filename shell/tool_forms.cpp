@@ -1,15 +1,17 @@
 #include "shell/tool_forms.h"
 
 #include "shell/tool_form.h"
+#include "tools/ctd/frm_ctd.h"
+#include "tools/ocra/frm_ocra.h"
 #include "tools/strain_index/frm_si.h"
 
 namespace halvane {
 
 std::unique_ptr<ToolForm> MakeToolForm(Tool tool, QWidget* parent) {
   switch (tool) {
+    case Tool::Ocra: return std::make_unique<FrmOCRA>(parent);
+    case Tool::Ctd: return std::make_unique<FrmCTD>(parent);
     case Tool::StrainIndex: return std::make_unique<FrmSI>(parent);
-    case Tool::Ocra:
-    case Tool::Ctd:
     case Tool::Reba:
     case Tool::Rula:
     case Tool::Hal: return nullptr;

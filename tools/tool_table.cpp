@@ -2,11 +2,37 @@
 
 #include <array>
 
+#include "core/job_state.h"
+#include "tools/ctd/ctd_controls.h"
+#include "tools/ctd/ctd_report.h"
+#include "tools/ctd/ctd_score.h"
+#include "tools/ocra/ocra_controls.h"
+#include "tools/ocra/ocra_report.h"
+#include "tools/ocra/ocra_score.h"
 #include "tools/strain_index/si_controls.h"
 #include "tools/strain_index/si_score.h"
 
 namespace halvane {
 namespace {
+
+bool WriteOcraReport(RichText& RichTextBox1) {
+  OcraControls controls;
+  controls.Load();
+  OcraScoreLists();
+  OcraCalculate();
+  OcraReport(RichTextBox1);
+  return true;
+}
+
+bool WriteCtdReport(RichText& RichTextBox1) {
+  CtdControls controls;
+  controls.Load();
+  // The form's report tab does nothing in a job that never had a task.
+  if (Module1.TaskCount.AsDouble() == 0) return false;
+  CTDcalculate();
+  CTDprint(RichTextBox1);
+  return true;
+}
 
 bool WriteStrainIndexReport(RichText& RichTextBox1) {
   SiControls controls;
@@ -18,9 +44,11 @@ bool WriteStrainIndexReport(RichText& RichTextBox1) {
 constexpr std::array kTools{
     ToolRow{Tool::Ocra, "ocra", "OCRA", "Occupational Repetitive Actions Index",
             "Occupational Repetitive Actions Index",
-            "Occupational Repetitive Actions Index (OCRA)2.htm", nullptr, nullptr},
+            "Occupational Repetitive Actions Index (OCRA)2.htm", WriteOcraReport,
+            OcraWorkingValues},
     ToolRow{Tool::Ctd, "ctd", "CTD Risk Index", "Cumulative Trauma Disorders Risk Assessment Model",
-            "Cumulative Trauma Disorders Risk Assessment Model", "CTD2.htm", nullptr, nullptr},
+            "Cumulative Trauma Disorders Risk Assessment Model", "CTD2.htm", WriteCtdReport,
+            CtdWorkingValues},
     ToolRow{Tool::StrainIndex, "si", "SI", "Strain Index", "Strain Index", "Strain Index2.htm",
             WriteStrainIndexReport, SiWorkingValues},
     ToolRow{Tool::Reba, "reba", "REBA", "Rapid Entire Body Assessment",

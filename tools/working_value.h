@@ -20,12 +20,14 @@ struct WorkingValue {
 template <typename T, std::size_t N>
 std::vector<TaggedField> Elements(const FixedArray<T, N>& array) {
   std::vector<TaggedField> elements;
+  elements.reserve(N);
   for (int i = 0; i < array.size(); ++i) elements.emplace_back(array.at(i));
   return elements;
 }
 template <typename T>
 std::vector<TaggedField> Elements(const TaskArray<T>& array) {
   std::vector<TaggedField> elements;
+  elements.reserve(static_cast<std::size_t>(array.upperBound()) + 1);
   for (int i = 0; i <= array.upperBound(); ++i) elements.emplace_back(array.at(i));
   return elements;
 }

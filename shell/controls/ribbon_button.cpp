@@ -7,7 +7,8 @@
 namespace halvane {
 namespace {
 
-constexpr int kPadding = 5;
+constexpr int kPadding = 4;
+constexpr int kPictureSize = 56;
 /// A caption wider than this many average characters wraps.
 constexpr int kWidestLine = 17;
 
@@ -22,13 +23,30 @@ RibbonButton::RibbonButton(const QString& name, const QString& caption, QWidget*
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
 
+void RibbonButton::SetPicture(const QString& assetName) {
+  setIcon(QIcon(":/assets/" + assetName + ".svg"));
+  setIconSize({kPictureSize, kPictureSize});
+}
+
+int RibbonButton::CaptionWidth() const {
+  if (!icon().isNull()) {
+    // As narrow as picture and words allow, so that a row of pictures fits a small window.
+    int width = kPictureSize;
+    for (const QString& word : text().split(' ')) {
+      width = std::max(width, fontMetrics().horizontalAdvance(word) + 1);
+    }
+    return width;
+  }
+  return std::min(fontMetrics().horizontalAdvance(text()) + 1,
+                  kWidestLine * fontMetrics().averageCharWidth());
+}
+
 QSize RibbonButton::sizeHint() const {
-  const QFontMetrics metrics = fontMetrics();
-  const int widest = kWidestLine * metrics.averageCharWidth();
-  const int width = std::min(metrics.horizontalAdvance(text()) + 1, widest);
+  const int width = CaptionWidth();
   const QRect box =
-      metrics.boundingRect(0, 0, width, 10000, Qt::TextWordWrap | Qt::AlignCenter, text());
-  return {std::max(width, box.width()) + 2 * kPadding, box.height() + 2 * kPadding};
+      fontMetrics().boundingRect(0, 0, width, 10000, Qt::TextWordWrap | Qt::AlignCenter, text());
+  const int picture = icon().isNull() ? 0 : kPictureSize + kPadding;
+  return {std::max(width, box.width()) + 2 * kPadding, picture + box.height() + 2 * kPadding};
 }
 
 void RibbonButton::paintEvent(QPaintEvent* /*event*/) {
@@ -42,8 +60,16 @@ void RibbonButton::paintEvent(QPaintEvent* /*event*/) {
   // Neighbours share one line.
   painter.drawRect(rect().adjusted(0, 0, -1, -1));
   painter.setPen(palette().color(group, down ? QPalette::HighlightedText : QPalette::ButtonText));
-  painter.drawText(rect().adjusted(kPadding, kPadding, -kPadding, -kPadding),
-                   Qt::TextWordWrap | Qt::AlignCenter, text());
+  QRect inside = rect().adjusted(kPadding, kPadding, -kPadding, -kPadding);
+  if (!icon().isNull()) {
+    const QRect place((width() - kPictureSize) / 2, inside.top(), kPictureSize, kPictureSize);
+    // The accent of a picture would be lost on the highlight.
+    if (down)
+      painter.fillRect(place.adjusted(-2, -2, 2, 2), palette().color(group, QPalette::Base));
+    icon().paint(&painter, place, Qt::AlignCenter, isEnabled() ? QIcon::Normal : QIcon::Disabled);
+    inside.setTop(place.bottom() + kPadding);
+  }
+  painter.drawText(inside, Qt::TextWordWrap | Qt::AlignCenter, text());
   if (hasFocus()) {
     QPen pen(painter.pen().color(), 1, Qt::DashLine);
     painter.setPen(pen);

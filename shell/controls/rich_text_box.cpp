@@ -1,22 +1,19 @@
 #include "shell/controls/rich_text_box.h"
 
-#include <QImage>
-#include <QPainter>
+#include <QAbstractTextDocumentLayout>
 #include <QPalette>
-#include <QSvgRenderer>
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocumentFragment>
-#include <QUrl>
 #include <algorithm>
+
+#include "shell/controls/report_pictures.h"
 
 namespace halvane {
 namespace {
 
 constexpr double kTwipsPerInch = 1440;
 constexpr int kPaperMargin = 24;
-/// How much finer than the screen a picture is kept, so that it is sharp when magnified or printed.
-constexpr int kPictureScale = 4;
 
 QTextCharFormat CharFormat(const CharacterFormat& format) {
   QTextCharFormat result;
@@ -39,22 +36,6 @@ QTextBlockFormat BlockFormat(const ParagraphFormat& format, int dotsPerInch) {
   return result;
 }
 
-void InsertPicture(QTextCursor& cursor, const std::string& assetName) {
-  const QString path = ":/assets/" + QString::fromStdString(assetName) + ".svg";
-  QSvgRenderer renderer(path);
-  QImage image(renderer.defaultSize() * kPictureScale, QImage::Format_RGB32);
-  image.fill(Qt::white);
-  QPainter painter(&image);
-  renderer.render(&painter);
-  painter.end();
-  cursor.document()->addResource(QTextDocument::ImageResource, QUrl(path), image);
-  QTextImageFormat format;
-  format.setName(path);
-  format.setWidth(renderer.defaultSize().width());
-  format.setHeight(renderer.defaultSize().height());
-  cursor.insertImage(format);
-}
-
 }  // namespace
 
 RichTextBox::RichTextBox(QWidget* parent) : QTextEdit(parent) {
@@ -67,12 +48,21 @@ RichTextBox::RichTextBox(QWidget* parent) : QTextEdit(parent) {
   paper.setColor(QPalette::Base, Qt::white);
   paper.setColor(QPalette::Text, Qt::black);
   setPalette(paper);
+  // The tab stops of the reports fit texts of this width; wider fonts push columns over them.
+  QFont paperFont = font();
+  paperFont.setFamilies({"Arial", "Liberation Sans", "Nimbus Sans", font().family()});
+  document()->setDefaultFont(paperFont);
   document()->setDocumentMargin(kPaperMargin);
+  setUndoRedoEnabled(false);
+  document()->documentLayout()->registerHandler(ReportPictures::kObjectType,
+                                                new ReportPictures(document()));
 }
 
 void RichTextBox::ShowReport(const RichText& report) {
   document()->clear();
   QTextCursor cursor(document());
+  // One layout of the whole instead of one for each piece.
+  cursor.beginEditBlock();
   bool first = true;
   for (const Paragraph& paragraph : report.paragraphs()) {
     const QTextBlockFormat format = BlockFormat(paragraph.format, logicalDpiX());
@@ -86,10 +76,11 @@ void RichTextBox::ShowReport(const RichText& report) {
       if (run.picture.empty()) {
         cursor.insertText(QString::fromStdString(run.text), CharFormat(run.format));
       } else {
-        InsertPicture(cursor, run.picture);
+        ReportPictures::Insert(cursor, QString::fromStdString(run.picture));
       }
     }
   }
+  cursor.endEditBlock();
   Select(0, 0);
   ensureCursorVisible();
 }

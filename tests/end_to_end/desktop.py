@@ -5,7 +5,7 @@ import shutil
 import subprocess
 import time
 
-TOOLS = ("Xvfb", "openbox", "xdotool")
+TOOLS = ("Xvfb", "openbox", "xdotool", "xclip")
 PATIENCE = 20  # seconds until something that has to happen counts as missing
 
 
@@ -38,10 +38,8 @@ class Desktop:
 
     def __enter__(self):
         reading, writing = os.pipe()
-        # Without -noreset the server starts over whenever its last client leaves, which can be a question asked
-        # before the window manager is there, and throws out who comes in just then.
         self.start(
-            ["Xvfb", "-displayfd", str(writing), "-screen", "0", "1280x800x24", "-nolisten", "tcp", "-noreset"],
+            ["Xvfb", "-displayfd", str(writing), "-screen", "0", "1280x800x24", "-nolisten", "tcp"],
             pass_fds=(writing,),
         )
         os.close(writing)

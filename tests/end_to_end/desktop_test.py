@@ -1,10 +1,11 @@
 #!/usr/bin/env python3
-"""Drives the built program in real windows: desktop_test.py PROGRAM DATAFOLDER (describe | failure).
+"""Drives the built program in real windows: desktop_test.py PROGRAM DATAFOLDER (describe | tasks | failure).
 
 Exit status 77 says that a tool is missing and the test was skipped.
 """
 
 import os
+import subprocess
 import sys
 import tempfile
 
@@ -13,10 +14,15 @@ from desktop import Desktop, missing_tools, wait_until
 SKIPPED = 77
 
 # Places in the windows, in pixels from their upper left corner.
+OCRA_BUTTON = (153, 90)
+CTD_BUTTON = (153, 142)
 SI_BUTTON = (153, 194)
 CLOSE_BUTTON = (285, 20)
 INTENSITY_30_TO_49_PERCENT = (87, 470)
 REPORT_TAB = (190, 42)
+OCRA_ADD_TASK = (86, 657)
+OCRA_REPORT_TAB = (372, 72)
+CTD_REPORT_TAB = (572, 42)
 
 
 def content_of(path):
@@ -24,27 +30,35 @@ def content_of(path):
         return file.read()
 
 
-def open_main_window(desktop, program):
+def open_tool(desktop, program, button, title):
+    """Starts the program and opens a tool; gives process, main window and tool."""
     process = desktop.start([program])
     main = desktop.window("Halvane Tools V1.0")
-    # The buttons come when the opening panel goes: the SI button then answers a click.
+    # The buttons come when the opening panel goes: the button then answers a click.
     opened = False
 
     def tool_opens():
         nonlocal opened
         if not opened:
-            desktop.click(main, *SI_BUTTON)
-        opened = desktop.output("xdotool", "search", "--onlyvisible", "--name", "^Strain Index$") != ""
+            desktop.click(main, *button)
+        opened = desktop.output("xdotool", "search", "--onlyvisible", "--name", f"^{title}$") != ""
         return opened
 
-    return process, main, tool_opens
+    wait_until(tool_opens, f"the tool '{title}'")
+    return process, main, desktop.window(title)
+
+
+def copied_report(desktop, tool, tab):
+    """The report of an open tool, taken from the desktop's clipboard after Select All and Copy Output."""
+    desktop.click(tool, *tab)
+    desktop.keys("alt+e", "Return")
+    desktop.keys("alt+e", "Down", "Return")
+    return wait_until(lambda: desktop.output("xclip", "-selection", "clipboard", "-o"), "the copied report")
 
 
 def describe_a_job(desktop, program, data):
     """Main window, Strain Index, typing, ribbons, report, save, exit: the file has exactly what was done."""
-    process, main, tool_opens = open_main_window(desktop, program)
-    wait_until(tool_opens, "the Strain Index tool")
-    tool = desktop.window("Strain Index")
+    process, main, tool = open_tool(desktop, program, SI_BUTTON, "Strain Index")
     desktop.type("Line 4")
     for text in ("Packing", "W7"):
         desktop.keys("Tab")
@@ -77,15 +91,38 @@ def describe_a_job(desktop, program, data):
     assert not os.path.exists(path + ".previous")
 
 
+def share_a_task(desktop, program, _data):
+    """A task made in OCRA stands in its report and in the CTD tool; both reports reach the clipboard."""
+    process, main, tool = open_tool(desktop, program, OCRA_BUTTON, "Occupational Repetitive Actions Index")
+    desktop.click(tool, *OCRA_ADD_TASK)
+    desktop.keys("Tab", "Tab", "Tab", "Tab")  # past the list's buttons, into the duration
+    desktop.type("480")
+    desktop.keys("Tab")
+    desktop.type("30")
+    report = copied_report(desktop, tool, OCRA_REPORT_TAB)
+    for line in ("Task 1\t480.00\t30.0\t0.0", "Total No. Of Actions Observed: 14400.0", "OCRA Risk Index: 1.00"):
+        assert line in report, report
+
+    desktop.keys("alt+f")
+    desktop.keys("Up", "Return")
+    desktop.window("Halvane Tools V1.0")
+    subprocess.run(["xclip", "-selection", "clipboard", "/dev/null"], env=desktop.environment, check=True)
+    desktop.click(main, *CTD_BUTTON)
+    tool = desktop.window("Cumulative Trauma Disorders Risk Assessment Model")
+    report = copied_report(desktop, tool, CTD_REPORT_TAB)
+    for line in ("Task 1\t0.00\t0.0\t0.0\t0.0", "Task 1\tPower Grip\tMid-Position (Neutral)\tNeutral\tNeutral"):
+        assert line in report, report
+    process.terminate()
+    process.wait()
+
+
 def end_on_a_failure(desktop, program, data):
     """A job that a tool cannot show ends the program with a message and a copy of the job beside it."""
     bad = content_of(os.path.join(data, "hand_out_of_range.qjt"))
     path = os.path.join(desktop.folder, "bad.qjt")
     with open(path, "wb") as file:
         file.write(bad)
-    process, main, tool_opens = open_main_window(desktop, program)
-    wait_until(tool_opens, "the Strain Index tool")
-    desktop.window("Strain Index")
+    process, _main, _tool = open_tool(desktop, program, SI_BUTTON, "Strain Index")
     desktop.keys("alt+f")
     desktop.keys("Down", "Return")
     # Showing the ribbons marked the job as changed; it is not to be saved.
@@ -104,7 +141,7 @@ def end_on_a_failure(desktop, program, data):
     assert content_of(path) == bad
 
 
-CASES = {"describe": describe_a_job, "failure": end_on_a_failure}
+CASES = {"describe": describe_a_job, "tasks": share_a_task, "failure": end_on_a_failure}
 
 
 def main():

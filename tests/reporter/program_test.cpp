@@ -37,6 +37,11 @@ TEST(ReportProgram, PrintsWholeReportsInEveryFormat) {
       {"samples.txt", {"--tool", "si"}},
       {"samples.json", {"--tool", "si", "--format", "json"}},
       {"samples.html", {"--tool", "si", "--format", "html"}},
+      {"tasks.txt", {"--tool", "ocra", "--tool", "ctd", "packing-line.qjt"}},
+      {"tasks.json",
+       {"--tool", "ocra", "--tool", "ctd", "--units", "english", "--format", "json",
+        "packing-line.qjt"}},
+      {"tasks.html", {"--tool", "ocra", "--tool", "ctd", "--format", "html", "packing-line.qjt"}},
   };
   for (const OutputRow& row : rows) {
     std::vector<std::string> arguments = row.arguments;
@@ -48,6 +53,35 @@ TEST(ReportProgram, PrintsWholeReportsInEveryFormat) {
     EXPECT_GT(run.output.size(), 1000U) << row.expected;
     EXPECT_EQ(run.error, "") << row.expected;
     EXPECT_EQ(run.status, 0) << row.expected;
+  }
+}
+
+TEST(ReportProgram, JobWithoutATaskHasNoCtdReportAndIsNoFailure) {
+  const TemporaryFolder folder;
+  const std::string empty = folder.File("empty.qjt");
+  WriteBytes(empty, EmptyJobText());
+  const ProgramRun json = RunReport({"--tool", "ctd", "--tool", "ocra", "--format", "json", empty});
+  EXPECT_EQ(json.status, 0);
+  EXPECT_EQ(json.error, "");
+  const std::vector<Json> lines = ParsedLines(json.output);
+  ASSERT_EQ(lines.size(), 2U);
+  EXPECT_EQ(lines[0]["error"]["kind"], "NoReport");
+  EXPECT_TRUE(lines[0]["results"].is_null());
+  EXPECT_TRUE(lines[0]["report"].is_null());
+  EXPECT_TRUE(lines[1]["error"].is_null());
+  const ProgramRun text = RunReport({"--tool", "ctd", empty});
+  EXPECT_EQ(text.status, 0);
+  EXPECT_EQ(text.output, "The job has no task, so the tool has no report on it.\n");
+}
+
+TEST(ReportProgram, UnitsChangeWhatTheHandSpanMeans) {
+  const std::vector<std::pair<std::string, double>> rows{{"metric", 7.007437825263731},
+                                                         {"english", 4.708760899804947}};
+  for (const auto& [units, grandScore] : rows) {
+    const ProgramRun run =
+        RunReport({"--tool", "ctd", "--format", "json", "--units", units, "packing-line.qjt"});
+    const double reported = ParsedLines(run.output).at(0)["results"]["CtdGrandScore"];
+    EXPECT_NEAR(reported, grandScore, 1e-12) << units;
   }
 }
 

@@ -1,8 +1,10 @@
-// Draws the forms into PNG files, for looking at them and for the documents:
-// form_pictures FOLDER [JOBFILE], with QT_SCALE_FACTOR=2 for twice the size and HALVANE_DARK=1 for
-// the dark palette.
+// Draws the forms into PNG files and prints the reports into PDF files, for looking at them and for
+// the documents:
+// form_pictures FOLDER [JOBFILE], with QT_SCALE_FACTOR=2 for twice the size, HALVANE_DARK=1 for the
+// dark palette and HALVANE_LEAST=1 for the least size of each tool.
 #include <QDir>
 #include <QPalette>
+#include <QPdfWriter>
 #include <QTabWidget>
 #include <QTest>
 #include <cstdlib>
@@ -10,9 +12,12 @@
 
 #include "core/job_file.h"
 #include "core/job_state.h"
+#include "shell/controls/ribbon_button.h"
+#include "shell/controls/rich_text_box.h"
 #include "shell/frm_about.h"
 #include "shell/frm_hand_main.h"
 #include "shell/halvane_application.h"
+#include "shell/layout.h"
 #include "shell/tool_form.h"
 #include "shell/tool_forms.h"
 
@@ -37,15 +42,31 @@ QPalette DarkPalette() {
   return dark;
 }
 
+void PrintReport(const QWidget& form, const QString& folder) {
+  QPdfWriter pdf(folder + "/" + form.objectName() + ".pdf");
+  form.findChild<halvane::RichTextBox*>()->document()->print(&pdf);
+}
+
 void DrawTool(halvane::Tool tool, const QString& folder) {
   const auto form = halvane::MakeToolForm(tool, nullptr);
   form->load();
+  if (qEnvironmentVariableIsSet("HALVANE_LEAST")) form->resize(form->minimumSize());
   form->show();
   auto* tabs = form->findChild<QTabWidget*>("SSTab1");
   for (int tab = 0; tab < tabs->count(); ++tab) {
     tabs->setCurrentIndex(tab);
-    Draw(*form, QString("%1/%2-%3.png").arg(folder, form->objectName()).arg(tab));
+    const QString name = QString("%1/%2-%3").arg(folder, form->objectName()).arg(tab);
+    Draw(*form, name + ".png");
+    // The body parts of a posture tab, where it has them.
+    for (int part = 0; auto* ribbon = form->findChild<halvane::RibbonButton*>(
+                           halvane::ElementName("SSRibbon3", part));
+         ++part) {
+      if (tab != 1 || !ribbon->isVisible()) break;
+      ribbon->click();
+      Draw(*form, QString("%1-%2.png").arg(name).arg(part));
+    }
   }
+  PrintReport(*form, folder);
 }
 
 }  // namespace

@@ -120,9 +120,9 @@ struct ButtonRow {
 TEST_F(MainWindow, ButtonsHaveTheirCaptionsAndTips) {
   const auto window = IdleMainWindow();
   const std::vector<ButtonRow> rows{
-      {"SSCommand2(0)", "OCRA", "Occupational Repetitive Actions Index", false},
+      {"SSCommand2(0)", "OCRA", "Occupational Repetitive Actions Index", true},
       {"SSCommand2(1)", "CTD Risk Index", "Cumulative Trauma Disorders Risk Assessment Model",
-       false},
+       true},
       {"SSCommand2(2)", "SI", "Strain Index", true},
       {"SSCommand2(3)", "REBA", "Rapid Entire Body Assessment", false},
       {"SSCommand2(4)", "RULA", "Rapid Upper Limb Assessment", false},

@@ -1,9 +1,12 @@
 #include "shell/platform_qt.h"
 
+#include <unistd.h>
+
 #include <QApplication>
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPageSetupDialog>
@@ -12,6 +15,7 @@
 #include <QPushButton>
 #include <QStandardPaths>
 #include <QTest>
+#include <filesystem>
 
 #include "tests/shell/form_support.h"
 
@@ -193,6 +197,91 @@ TEST_F(RealPlatform, DocumentsFolderIsTheUsers) {
   EXPECT_EQ(platform.DocumentsFolder(),
             QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
   EXPECT_NE(platform.DocumentsFolder(), "");
+}
+
+TEST_F(RealPlatform, ProgramFolderIsWhereItsFileStands) {
+  EXPECT_EQ(platform.ProgramFolder(), QFileInfo(QApplication::applicationFilePath()).path());
+}
+
+TEST_F(RealPlatform, DataFolderIsTheUsersOwnForTheProgram) {
+  const QString path = platform.DataFolder();
+  EXPECT_TRUE(path.startsWith(qEnvironmentVariable("XDG_DATA_HOME") + "/")) << path.toStdString();
+  EXPECT_TRUE(path.endsWith("/halvane-tools")) << path.toStdString();
+}
+
+TEST_F(RealPlatform, CopyHasEveryByteOfTheFile) {
+  const std::string bytes = std::string("first\r\nlast\n\0\xFF\x1A", 15) + std::string(100000, 'x');
+  WriteBytes(folder.File("me.pda"), bytes);
+  EXPECT_TRUE(platform.CopyFile(File("me.pda"), File("copy.pda")));
+  EXPECT_EQ(BytesOf(folder.File("copy.pda")), bytes);
+  EXPECT_EQ(BytesOf(folder.File("me.pda")), bytes);
+  EXPECT_EQ(folder.Names(), "copy.pda me.pda");
+}
+
+TEST_F(RealPlatform, CopyReplacesALongerFile) {
+  WriteBytes(folder.File("me.pda"), "new");
+  WriteBytes(folder.File("copy.pda"), "the old one");
+  EXPECT_TRUE(platform.CopyFile(File("me.pda"), File("copy.pda")));
+  EXPECT_EQ(BytesOf(folder.File("copy.pda")), "new");
+}
+
+TEST_F(RealPlatform, CopyMakesTheFolderOfItsTarget) {
+  WriteBytes(folder.File("me.pda"), "new");
+  EXPECT_TRUE(platform.CopyFile(File("me.pda"), File("user/data/me.pda")));
+  EXPECT_EQ(BytesOf(folder.File("user/data/me.pda")), "new");
+}
+
+TEST_F(RealPlatform, CopyOfAMissingFileFailsAndLeavesTheOldOne) {
+  WriteBytes(folder.File("copy.pda"), "the old one");
+  EXPECT_FALSE(platform.CopyFile(File("me.pda"), File("copy.pda")));
+  EXPECT_EQ(BytesOf(folder.File("copy.pda")), "the old one");
+  EXPECT_EQ(folder.Names(), "copy.pda");
+}
+
+TEST_F(RealPlatform, CopyOfAFolderFails) {
+  QDir().mkpath(File("me.pda"));
+  WriteBytes(folder.File("copy.pda"), "the old one");
+  EXPECT_FALSE(platform.CopyFile(File("me.pda"), File("copy.pda")));
+  EXPECT_EQ(BytesOf(folder.File("copy.pda")), "the old one");
+}
+
+TEST_F(RealPlatform, CopyOntoAFolderFails) {
+  WriteBytes(folder.File("me.pda"), "new");
+  QDir().mkpath(File("copy.pda"));
+  EXPECT_FALSE(platform.CopyFile(File("me.pda"), File("copy.pda")));
+  EXPECT_EQ(folder.Names(), "copy.pda me.pda");
+}
+
+TEST_F(RealPlatform, CopyIntoAFolderThatMayNotBeWrittenFails) {
+  using std::filesystem::perms;
+  std::filesystem::permissions(folder.path(), perms::all);
+  WriteBytes(folder.File("me.pda"), "new");
+  QDir().mkpath(File("locked"));
+  WriteBytes(folder.File("locked/copy.pda"), "the old one");
+  const auto readable =
+      perms::owner_read | perms::owner_exec | perms::others_read | perms::others_exec;
+  std::filesystem::permissions(folder.File("locked"), readable);
+  {
+    const RightsOfNobody rights;
+    EXPECT_FALSE(platform.CopyFile(File("me.pda"), File("locked/copy.pda")));
+  }
+  std::filesystem::permissions(folder.File("locked"), perms::owner_all);
+  EXPECT_EQ(BytesOf(folder.File("locked/copy.pda")), "the old one");
+}
+
+TEST_F(RealPlatform, CopyThatMayNotTakeThePlaceOfTheOldFileFails) {
+  if (geteuid() != 0) GTEST_SKIP() << "needs a file of another user";
+  using std::filesystem::perms;
+  std::filesystem::permissions(folder.path(), perms::all | perms::sticky_bit);
+  WriteBytes(folder.File("me.pda"), "new");
+  WriteBytes(folder.File("copy.pda"), "the old one");
+  std::filesystem::permissions(folder.File("copy.pda"), perms::all);
+  {
+    const RightsOfNobody rights;
+    EXPECT_FALSE(platform.CopyFile(File("me.pda"), File("copy.pda")));
+  }
+  EXPECT_EQ(BytesOf(folder.File("copy.pda")), "the old one");
+  EXPECT_EQ(folder.Names(), "copy.pda me.pda");
 }
 
 TEST_F(RealPlatform, EndOfTheProgramLeavesEveryEventLoop) {

@@ -37,6 +37,7 @@ TestPlatform::~TestPlatform() {
   EXPECT_TRUE(answers_.empty()) << answers_.size() << " queued answers were not asked for";
   EXPECT_TRUE(filesToOpen_.empty()) << filesToOpen_.front().toStdString() << " was not opened";
   EXPECT_TRUE(filesToSave_.empty()) << filesToSave_.front().toStdString() << " was not saved";
+  EXPECT_TRUE(copies_.empty()) << "no file was copied";
   EXPECT_TRUE(printerChoices_.empty()) << "no printer was asked for";
 }
 
@@ -79,6 +80,15 @@ void TestPlatform::Print(const QTextDocument& document) {
 void TestPlatform::ClearClipboard() { clipboard_.append("clear"); }
 
 void TestPlatform::SetClipboardText(const QString& text) { clipboard_.append("text: " + text); }
+
+QString TestPlatform::ProgramFolder() { return programFolder_; }
+
+QString TestPlatform::DataFolder() { return dataFolder_; }
+
+bool TestPlatform::CopyFile(const QString& source, const QString& target) {
+  copied_.append(source + " -> " + target);
+  return Next(copies_, false, "a file to copy");
+}
 
 QString TestPlatform::DocumentsFolder() { return documentsFolder_; }
 

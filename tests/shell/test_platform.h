@@ -42,6 +42,11 @@ class TestPlatform : public Platform {
   void WhenPrinted(std::function<void()> step) { whenPrinted_ = std::move(step); }
   /// Runs `step` in the printer setup dialog; it may throw.
   void WhenPrinterIsSetUp(std::function<void()> step) { whenSetUp_ = std::move(step); }
+  void SetFolders(const QString& program, const QString& data) {
+    programFolder_ = program;
+    dataFolder_ = data;
+  }
+  void WillCopyFile(bool succeeds) { copies_.push_back(succeeds); }
   void SetDocumentsFolder(const QString& folder) { documentsFolder_ = folder; }
 
   // What happened, in order.
@@ -54,6 +59,8 @@ class TestPlatform : public Platform {
   [[nodiscard]] const QStringList& clipboard() const { return clipboard_; }
   /// Exit status of each end of the program.
   [[nodiscard]] const std::vector<int>& ends() const { return ends_; }
+  /// "source -> target" of each file that was to be copied.
+  [[nodiscard]] const QStringList& copied() const { return copied_; }
   [[nodiscard]] int printerSetups() const { return printerSetups_; }
 
   Answer ShowMessage(QWidget* parent, const QString& title, const QString& text,
@@ -65,6 +72,9 @@ class TestPlatform : public Platform {
   void Print(const QTextDocument& document) override;
   void ClearClipboard() override;
   void SetClipboardText(const QString& text) override;
+  QString ProgramFolder() override;
+  QString DataFolder() override;
+  bool CopyFile(const QString& source, const QString& target) override;
   QString DocumentsFolder() override;
   void EndProgram(int exitStatus) override;
 
@@ -73,15 +83,19 @@ class TestPlatform : public Platform {
   std::deque<QString> filesToOpen_;
   std::deque<QString> filesToSave_;
   std::deque<bool> printerChoices_;
+  std::deque<bool> copies_;
   std::function<void()> duringMessage_;
   std::function<void()> whenPrinted_;
   std::function<void()> whenSetUp_;
   QString documentsFolder_;
+  QString programFolder_;
+  QString dataFolder_;
 
   std::vector<ShownMessage> messages_;
   QStringList filters_;
   QStringList printed_;
   QStringList clipboard_;
+  QStringList copied_;
   std::vector<int> ends_;
   int printerSetups_ = 0;
 };

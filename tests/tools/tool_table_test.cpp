@@ -23,10 +23,10 @@ struct Expected {
 constexpr std::array kExpected{
     Expected{Tool::Ocra, "ocra", "OCRA", "Occupational Repetitive Actions Index",
              "Occupational Repetitive Actions Index",
-             "Occupational Repetitive Actions Index (OCRA)2.htm", false},
+             "Occupational Repetitive Actions Index (OCRA)2.htm", true},
     Expected{Tool::Ctd, "ctd", "CTD Risk Index",
              "Cumulative Trauma Disorders Risk Assessment Model",
-             "Cumulative Trauma Disorders Risk Assessment Model", "CTD2.htm", false},
+             "Cumulative Trauma Disorders Risk Assessment Model", "CTD2.htm", true},
     Expected{Tool::StrainIndex, "si", "SI", "Strain Index", "Strain Index", "Strain Index2.htm",
              true},
     Expected{Tool::Reba, "reba", "REBA", "Rapid Entire Body Assessment",

@@ -14,6 +14,7 @@
 #include "shell/controls/ribbon_button.h"
 #include "shell/controls/rich_text_box.h"
 #include "shell/controls/text_box.h"
+#include "shell/hand_frame.h"
 #include "shell/layout.h"
 #include "tools/strain_index/si_score.h"
 
@@ -29,10 +30,6 @@ constexpr int kDutyObservationMinutes = 1;
 constexpr int kExertionCount = 2;
 constexpr int kEffortObservationMinutes = 3;
 constexpr int kDurationPerDay = 8;
-
-QString Text(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
 
 QString NumberText(const TaggedField& field) { return QString::fromStdString(field.AsText()); }
 
@@ -52,7 +49,7 @@ QWidget* FrmSI::MakeInputTab() {
   auto* column = new QVBoxLayout(tab);
   column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
   column->setSpacing(kGap);
-  column->addWidget(MakeIdentification(tab));
+  column->addWidget(MakeIdentificationWithHand(tab));
   column->addWidget(MakeNumberFrames(tab));
   auto* ratings = new QHBoxLayout;
   ratings->setSpacing(kGap);
@@ -93,14 +90,14 @@ void FrmSI::AddNumber(QWidget* frame, const QString& label, int index) {
 
 QWidget* FrmSI::MakeRibbonFrame(SiRibbonArray array, QWidget* parent) {
   const SiFrame& frame = SiFrameOf(array);
-  const auto [box, grid] = MakeFrame(Text(frame.caption), parent);
+  const auto [box, grid] = MakeFrame(ScreenText(frame.caption), parent);
   // No gap between the columns, so that the pressed row is one band.
   grid->setHorizontalSpacing(0);
   grid->setVerticalSpacing(0);
   for (std::size_t c = 0; c < frame.columns.size(); ++c) {
     const SiColumn& column = frame.columns[c];
     const int gridColumn = static_cast<int>(c);
-    auto* heading = new QLabel(Text(column.heading), box);
+    auto* heading = new QLabel(ScreenText(column.heading), box);
     heading->setAlignment(Qt::AlignHCenter | Qt::AlignBottom);
     heading->setWordWrap(true);
     heading->setContentsMargins(kGap / 2, 0, kGap / 2, 0);
@@ -111,9 +108,10 @@ QWidget* FrmSI::MakeRibbonFrame(SiRibbonArray array, QWidget* parent) {
     auto* group = new QButtonGroup(box);
     for (int row = 0; row < kSiRatings; ++row) {
       const int index = gridColumn * kSiRatings + row;
-      const QString caption = Text(column.captions.at(static_cast<std::size_t>(row)));
-      auto* ribbon = new RibbonButton(ElementName(Text(frame.objectName), index), caption, box);
-      ribbon->setAccessibleName(Text(column.heading) + " " + caption);
+      const QString caption = ScreenText(column.captions.at(static_cast<std::size_t>(row)));
+      auto* ribbon =
+          new RibbonButton(ElementName(ScreenText(frame.objectName), index), caption, box);
+      ribbon->setAccessibleName(ScreenText(column.heading) + " " + caption);
       group->addButton(ribbon);
       grid->addWidget(ribbon, row + 1, gridColumn);
       grid->setRowStretch(row + 1, 1);
@@ -144,7 +142,7 @@ void FrmSI::loadFromJob() {
 }
 
 void FrmSI::ShowControls() {
-  identification().ShowHand(controls_.hand());
+  hand().ShowHand(controls_.hand());
   for (const SiRibbonArray array : kSiRibbonArrays) {
     const auto& ribbons = ribbons_.at(static_cast<std::size_t>(array));
     for (std::size_t i = 0; i < ribbons.size(); ++i) {

@@ -1,0 +1,92 @@
+#include <QElapsedTimer>
+#include <QMouseEvent>
+#include <QTabBar>
+#include <QTabWidget>
+#include <algorithm>
+#include <cstdio>
+#include <string>
+#include <vector>
+
+#include "benchmarks/benchmark_jobs.h"
+#include "shell/controls/rich_text_box.h"
+#include "shell/halvane_application.h"
+#include "shell/tool_form.h"
+#include "shell/tool_forms.h"
+
+namespace halvane {
+namespace {
+
+constexpr int kTasks = 40;
+constexpr int kWarmUp = 3;
+constexpr int kTurns = 41;
+
+/// Tells when a widget has been painted.
+class PaintWatch : public QObject {
+ public:
+  explicit PaintWatch(QWidget& widget) { widget.installEventFilter(this); }
+
+  void WaitForPaint() {
+    painted_ = false;
+    while (!painted_) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    // What is painted reaches the screen at the end of the turn.
+    QCoreApplication::processEvents();
+  }
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::Paint) painted_ = true;
+    return QObject::eventFilter(watched, event);
+  }
+
+ private:
+  bool painted_ = false;
+};
+
+void Click(QTabBar& bar, int tab) {
+  const QPointF place = bar.tabRect(tab).center();
+  for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+    QCoreApplication::postEvent(
+        &bar, new QMouseEvent(type, place, bar.mapToGlobal(place), Qt::LeftButton,
+                              type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton,
+                              Qt::NoModifier));
+  }
+}
+
+/// Seconds from the click on a tool's report tab until its pane is painted, the median of many.
+double ReportTabSeconds(Tool tool) {
+  FillJob(kTasks, 1);
+  const auto form = MakeToolForm(tool, nullptr);
+  form->load();
+  auto* tabs = form->findChild<QTabWidget*>("SSTab1");
+  const int report = tabs->count() - 1;
+  PaintWatch input(*tabs->widget(0));
+  PaintWatch pane(*form->findChild<RichTextBox*>()->viewport());
+  form->show();
+  input.WaitForPaint();
+  std::vector<double> seconds;
+  for (int turn = 0; turn < kWarmUp + kTurns; ++turn) {
+    QElapsedTimer timer;
+    timer.start();
+    Click(*tabs->tabBar(), report);
+    pane.WaitForPaint();
+    if (turn >= kWarmUp) seconds.push_back(static_cast<double>(timer.nsecsElapsed()) / 1e9);
+    Click(*tabs->tabBar(), 0);
+    input.WaitForPaint();
+  }
+  std::nth_element(seconds.begin(), seconds.begin() + kTurns / 2, seconds.end());
+  return seconds[kTurns / 2];
+}
+
+}  // namespace
+}  // namespace halvane
+
+/// report_tab TOOL: prints the seconds from the click on the tool's report tab to the painted pane.
+int main(int argc, char** argv) {
+  halvane::HalvaneApplication application(argc, argv);
+  for (const halvane::ToolRow& row : halvane::Tools()) {
+    if (argc != 2 || row.key != argv[1]) continue;
+    std::printf("%.9f\n", halvane::ReportTabSeconds(row.tool));
+    return 0;
+  }
+  return 2;
+}

@@ -1,0 +1,32 @@
+#include "core/task_list.h"
+
+#include "core/job_state.h"
+#include "core/job_text_encoding.h"
+
+namespace halvane {
+
+std::vector<int> ActiveTasks() {
+  std::vector<int> tasks;
+  const double taskCount = Module1.TaskCount.AsDouble();
+  for (int task = 1; task <= taskCount; ++task) {
+    if (Module1.TaskActive.at(task).AsDouble() == 1) tasks.push_back(task);
+  }
+  return tasks;
+}
+
+int AddTaskRecord() {
+  const Integer task = ToInteger(Module1.TaskCount.AsDouble() + 1);
+  Module1.TaskCount = task;
+  NewTaskRecord();
+  return task;
+}
+
+std::string TaskKey(int task) { return PlainText(task) + "_"; }
+
+int TaskOfKey(std::string_view key) { return ToInteger(ReadsAs(key)); }
+
+std::string ShownTaskName(int task) {
+  return FirstCharacters(Module1.TaskNames.at(task), kShownNameLength);
+}
+
+}  // namespace halvane

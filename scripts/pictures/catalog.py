@@ -1,0 +1,145 @@
+"""Every picture: asset name, kind of drawing, its angles, title.
+
+An asset name with "{side}" stands for two files: the right side, and the left one as its mirror
+image. Where a caption names a range, the angle lies well inside it, so that neighbours in a row
+of buttons differ at a glance. Angles are those of `postures.py` and `hand.py`, which put them
+where "{}" stands in a title.
+"""
+
+from pictures import charts, grip, hand
+from pictures.figure import BENDING, BUST, LEGS, MIDDLE_FRONT, UPPER_FRONT, UPPER_SIDE, WAIST_SIDE
+from pictures.postures import (
+    front_arm,
+    front_forearm,
+    part_arm_forward,
+    part_arms_sideways,
+    part_elbow,
+    part_neck_and_back,
+    side_arm,
+    side_arm_range,
+    side_elbow,
+    side_legs,
+    side_neck,
+    side_trunk,
+)
+
+# asset, kind, arguments, title
+CTD = [
+    ("ctd/grip_power", grip.power, (), "Power grip"),
+    ("ctd/grip_lateral_pinch", grip.lateral_pinch, (), "Lateral pinch"),
+    ("ctd/grip_chuck_pinch", grip.chuck_pinch, (), "Chuck pinch"),
+    ("ctd/grip_two_point_pinch", grip.two_point_pinch, (), "Two-point pinch"),
+    ("ctd/wrist_neutral", hand.turned, ("edge",), "Forearm in mid-position"),
+    ("ctd/wrist_pronation", hand.turned, ("back",), "Forearm pronated"),
+    ("ctd/wrist_supination", hand.turned, ("palm",), "Forearm supinated"),
+    ("ctd/deviation_neutral", hand.from_above, (0,), "Hand straight"),
+    ("ctd/deviation_radial_over_15", hand.from_above, (-25,), "Radial deviation, {} degrees"),
+    ("ctd/deviation_radial_5_15", hand.from_above, (-10,), "Radial deviation, {} degrees"),
+    ("ctd/deviation_ulnar_over_15", hand.from_above, (25,), "Ulnar deviation, {} degrees"),
+    ("ctd/deviation_ulnar_5_15", hand.from_above, (10,), "Ulnar deviation, {} degrees"),
+    ("ctd/flexion_neutral", hand.from_side, (0,), "Wrist straight"),
+    ("ctd/flexion_over_35", hand.from_side, (50,), "Wrist flexed, {} degrees"),
+    ("ctd/flexion_5_15", hand.from_side, (10,), "Wrist flexed, {} degrees"),
+    ("ctd/extension_over_35", hand.from_side, (-50,), "Wrist extended, {} degrees"),
+    ("ctd/extension_5_15", hand.from_side, (-10,), "Wrist extended, {} degrees"),
+    ("ctd/shoulder_flexion_{side}_0", side_arm, (UPPER_SIDE, 0), "Arm hanging"),
+    ("ctd/shoulder_flexion_{side}_20", side_arm, (UPPER_SIDE, 30), "Arm forward, {} degrees"),
+    ("ctd/shoulder_flexion_{side}_45", side_arm, (UPPER_SIDE, 60), "Arm forward, {} degrees"),
+    ("ctd/shoulder_flexion_{side}_90", side_arm, (UPPER_SIDE, 110), "Arm forward, {} degrees"),
+    ("ctd/shoulder_abduction_{side}_0", front_arm, (UPPER_FRONT, 0), "Arm hanging"),
+    ("ctd/shoulder_abduction_{side}_30", front_arm, (UPPER_FRONT, 45), "Arm out, {} degrees"),
+    ("ctd/shoulder_abduction_{side}_60", front_arm, (UPPER_FRONT, 75), "Arm out, {} degrees"),
+    ("ctd/shoulder_abduction_{side}_90", front_arm, (UPPER_FRONT, 110), "Arm out, {} degrees"),
+    # Neutral is the elbow at a right angle; the arc starts there.
+    ("ctd/elbow_{side}_neutral", side_elbow, (WAIST_SIDE, 90, 90), "Forearm level"),
+    ("ctd/elbow_{side}_flexion", side_elbow, (WAIST_SIDE, 125, 90), "Forearm {} degrees up"),
+    ("ctd/elbow_{side}_extension", side_elbow, (WAIST_SIDE, 45, 90), "Forearm {} degrees down"),
+    ("ctd/back_0", side_trunk, (BENDING, 0), "Back upright"),
+    ("ctd/back_10", side_trunk, (BENDING, 15), "Back bent, {} degrees"),
+    ("ctd/back_20", side_trunk, (BENDING, 33), "Back bent, {} degrees"),
+    ("ctd/back_45", side_trunk, (BENDING, 60), "Back bent, {} degrees"),
+    ("ctd/neck_0", side_neck, (BUST, 0), "Neck upright"),
+    ("ctd/neck_30", side_neck, (BUST, 37), "Neck bent, {} degrees"),
+    ("ctd/neck_45", side_neck, (BUST, 52), "Neck bent, {} degrees"),
+    ("ctd/neck_60", side_neck, (BUST, 72), "Neck bent, {} degrees"),
+    ("ctd/part_shoulder_flexion", part_arm_forward, (), "Shoulder flexion and extension"),
+    ("ctd/part_shoulder_abduction", part_arms_sideways, (), "Shoulder abduction"),
+    ("ctd/part_elbow", part_elbow, (), "Elbow flexion and extension"),
+    ("ctd/part_neck_back", part_neck_and_back, (), "Neck and back"),
+    ("ctd/task", charts.task_icon, (), "Task"),
+    ("ctd/report", charts.ctd_report, (), "From two factors to the Grand Score"),
+]
+
+OCRA = [
+    ("ocra/zones", charts.ocra_zones, (), "Zones of the OCRA index"),
+    ("ocra/multipliers", charts.ocra_multipliers, (), "Force and recovery multipliers"),
+]
+
+RULA = [
+    ("rula/ssribbon1_0", side_arm_range, (UPPER_SIDE, -20, 20), "Upper arm, {} to {} degrees"),
+    ("rula/ssribbon1_1", side_arm, (UPPER_SIDE, -35), "Upper arm back, {} degrees"),
+    ("rula/ssribbon1_2", side_arm, (UPPER_SIDE, 33), "Upper arm forward, {} degrees"),
+    ("rula/ssribbon1_3", side_arm, (UPPER_SIDE, 68), "Upper arm forward, {} degrees"),
+    ("rula/ssribbon1_4", side_arm, (UPPER_SIDE, 115), "Upper arm forward, {} degrees"),
+    ("rula/ssribbon2_0", side_elbow, (WAIST_SIDE, 60, 0), "Elbow bent, {} degrees"),
+    ("rula/ssribbon2_1", side_elbow, (WAIST_SIDE, 115, 0), "Elbow bent, {} degrees"),
+    ("rula/ssribbon2_2", front_forearm, (MIDDLE_FRONT, 76), "Forearm across the middle"),
+    ("rula/ssribbon3_0", hand.from_side, (0,), "Wrist straight"),
+    ("rula/ssribbon3_1", hand.from_side, (-12,), "Wrist extended, {} degrees"),
+    ("rula/ssribbon3_2", hand.from_side, (-40,), "Wrist extended, {} degrees"),
+    ("rula/ssribbon3_3", hand.from_side, (12,), "Wrist flexed, {} degrees"),
+    ("rula/ssribbon3_4", hand.from_side, (40,), "Wrist flexed, {} degrees"),
+    ("rula/ssribbon3_5", hand.from_above, (20,), "Hand bent sideways, {} degrees"),
+    ("rula/ssribbon4_0", side_neck, (BUST, 4), "Neck bent, {} degrees"),
+    ("rula/ssribbon4_1", side_neck, (BUST, -25), "Neck bent back, {} degrees"),
+    ("rula/ssribbon4_2", side_neck, (BUST, 18), "Neck bent, {} degrees"),
+    ("rula/ssribbon4_3", side_neck, (BUST, 40), "Neck bent, {} degrees"),
+    ("rula/ssribbon5_0", side_trunk, (BENDING, 0), "Trunk upright"),
+    ("rula/ssribbon5_1", side_trunk, (BENDING, 15), "Trunk bent, {} degrees"),
+    ("rula/ssribbon5_2", side_trunk, (BENDING, 40), "Trunk bent, {} degrees"),
+    ("rula/ssribbon5_3", side_trunk, (BENDING, 75), "Trunk bent, {} degrees"),
+]
+
+REBA = [
+    ("reba/ssribbon1_0", side_arm_range, (UPPER_SIDE, -20, 20), "Upper arm, {} to {} degrees"),
+    ("reba/ssribbon1_1", side_arm, (UPPER_SIDE, -35), "Upper arm back, {} degrees"),
+    ("reba/ssribbon1_2", side_arm, (UPPER_SIDE, 33), "Upper arm forward, {} degrees"),
+    ("reba/ssribbon1_3", side_arm, (UPPER_SIDE, 68), "Upper arm forward, {} degrees"),
+    ("reba/ssribbon1_4", side_arm, (UPPER_SIDE, 115), "Upper arm forward, {} degrees"),
+    ("reba/ssribbon2_0", side_elbow, (WAIST_SIDE, 80, 0), "Elbow bent, {} degrees"),
+    ("reba/ssribbon2_1", side_elbow, (WAIST_SIDE, 120, 0), "Elbow bent, {} degrees"),
+    ("reba/ssribbon2_2", side_elbow, (WAIST_SIDE, 40, 0), "Elbow bent, {} degrees"),
+    ("reba/ssribbon3_0", hand.from_side, (0,), "Wrist straight"),
+    ("reba/ssribbon3_1", hand.from_side, (35,), "Wrist flexed, {} degrees"),
+    ("reba/ssribbon3_2", hand.from_side, (-35,), "Wrist extended, {} degrees"),
+    ("reba/ssribbon3_3", hand.from_above, (20, True), "Hand bent sideways or turned"),
+    ("reba/ssribbon4_0", side_neck, (BUST, 4), "Neck bent, {} degrees"),
+    ("reba/ssribbon4_1", side_neck, (BUST, -25), "Neck bent back, {} degrees"),
+    ("reba/ssribbon4_2", side_neck, (BUST, 40), "Neck bent, {} degrees"),
+    ("reba/ssribbon5_0", side_trunk, (BENDING, 0), "Trunk upright"),
+    ("reba/ssribbon5_1", side_trunk, (BENDING, 15), "Trunk bent, {} degrees"),
+    ("reba/ssribbon5_2", side_trunk, (BENDING, 40), "Trunk bent, {} degrees"),
+    ("reba/ssribbon5_3", side_trunk, (BENDING, 75), "Trunk bent, {} degrees"),
+    ("reba/ssribbon5_4", side_trunk, (BENDING, -15), "Trunk bent back, {} degrees"),
+    ("reba/ssribbon5_5", side_trunk, (BENDING, -35), "Trunk bent back, {} degrees"),
+    ("reba/ssribbon6_0", side_legs, (LEGS, "standing"), "Weight on both legs"),
+    ("reba/ssribbon6_1", side_legs, (LEGS, "one_leg"), "Weight on one leg"),
+    ("reba/ssribbon6_2", side_legs, (LEGS, "knees", 45), "Knees bent, {} degrees"),
+    ("reba/ssribbon6_3", side_legs, (LEGS, "knees", 85), "Knees bent, {} degrees"),
+]
+
+
+STRAIN_INDEX = [
+    ("strain_index/risk_chart", charts.strain_index_risk, (), "Strain Index score and risk"),
+]
+
+
+def pictures():
+    """Yields (asset name, document) of every picture."""
+    for asset, kind, arguments, title in [*CTD, *OCRA, *STRAIN_INDEX, *RULA, *REBA]:
+        if "{side}" in asset:
+            for side in ("right", "left"):
+                drawing = kind(f"{title}, {side}", *arguments, mirrored=side == "left")
+                yield asset.format(side=side), drawing.text()
+        else:
+            yield asset, kind(title, *arguments).text()

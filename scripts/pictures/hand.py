@@ -1,0 +1,178 @@
+"""The right hand, large: from above, from its little-finger side, and turned about the forearm.
+
+Each hand has its own frame with the wrist as origin and the fingers pointing up (y negative);
+from above, the thumb of the right hand is on the left.
+"""
+
+from pictures.figure import measure
+from pictures.svg import (
+    ACCENT,
+    EDGE,
+    FIGURE,
+    Drawing,
+    Frame,
+    capsule,
+    curl,
+    polar,
+    polygon,
+    polyline,
+    smooth,
+)
+
+# Fingers of the back view, from the far one to the near one: joints and radii.
+FINGERS_ABOVE = [
+    ([(6, -11.5), (7.6, -16.6), (8.5, -21.4)], [2.05, 1.85, 1.5]),
+    ([(2.7, -13), (3.3, -20), (3.7, -26.4)], [2.2, 2.0, 1.65]),
+    ([(-1.4, -13.4), (-1.5, -21.2), (-1.5, -28.6)], [2.25, 2.05, 1.7]),
+    ([(-5.2, -12.6), (-6, -19.4), (-6.7, -26)], [2.2, 2.0, 1.65]),
+]
+THUMB_ABOVE = ([(-3.6, -3.4), (-9.2, -9.4), (-12, -15.4)], [3.0, 2.4, 1.8])
+PALM_ABOVE = [
+    (-4.4, 1), (-5.6, -3), (-7.2, -7), (-7.4, -11.5), (-6.2, -15), (-2, -16.2), (2.6, -15.6),
+    (6.4, -13.8), (8.1, -11), (7.4, -5.5), (5.2, -1.5), (4.4, 1),
+]
+
+
+def forearm_up(drawing, wrist, half=4.4):
+    """The forearm from the lower edge of the picture up to the wrist."""
+    x, y = wrist
+    drawing.solid(
+        [
+            polygon([(x - half, y), (x + half, y), (x + half + 1.5, 55.4), (x - half - 1.5, 55.4)]),
+            capsule((x - 0.5, y), half, (x + 0.5, y), half),
+        ],
+        FIGURE,
+    )
+
+
+def hand_above(drawing, frame, colour=ACCENT, nails=True):
+    """The back of a flat hand."""
+    parts = [(frame.all(joints), [r * frame.scale for r in radii])
+             for joints, radii in [THUMB_ABOVE, *FINGERS_ABOVE]]
+    palm = smooth(frame.all(PALM_ABOVE))
+    # One border around the whole hand first, so that the palm has no seam of its own.
+    drawing.solid([palm, *(curl(*part) for part in parts)], colour)
+    for part in parts:
+        drawing.solid([curl(*part)], colour, edge=0.55)
+    drawing.solid([palm], colour, edge=0)
+    if nails:
+        for joints, radii in [THUMB_ABOVE, *FINGERS_ABOVE]:
+            (ax, ay), (bx, by) = joints[-2:]
+            near = bx + (ax - bx) * 0.12, by + (ay - by) * 0.12
+            r = radii[-1] * 0.62 * frame.scale
+            nail = capsule(frame.at(*near), r, frame.at(bx, by), r)
+            drawing.raw(f'<path d="{nail}" fill="{EDGE}" fill-opacity="0.75"/>')
+
+
+def from_above(title, angle, twisted=False):
+    """The hand bent sideways by `angle`: ulnar positive, radial negative; maybe turned too."""
+    drawing = Drawing(title.format(abs(angle)))
+    wrist = (28, 40.5)
+    frame = Frame(wrist, 1.06, angle)
+    forearm_up(drawing, wrist)
+    measure(drawing, wrist, 0, angle, 36, 39)
+    hand_above(drawing, frame)
+    drawing.axis(wrist, polar(wrist, 29 if angle == 0 else 13, angle))
+    if twisted:
+        _turn_arrow(drawing, wrist[0], 49, 1)
+    return drawing
+
+
+# Side view, fingers to the right, back of the hand up.
+BACK_OF_SIDE = [
+    (-1, -4), (4, -4.6), (10, -5), (14.6, -4.6), (17, -2), (15.6, 2.2), (11, 4.4), (5, 5),
+    (1.4, 4.4), (-1, 4),
+]
+FINGERS_SIDE = [
+    ([(13.5, -2.4), (21, -2.8), (26.4, -2), (31, -0.2)], [2.4, 2.2, 2.0, 1.6]),
+    ([(13.5, -0.6), (20, -0.2), (24.4, 0.8), (28.2, 2.6)], [2.3, 2.1, 1.9, 1.6]),
+    ([(13, 1.2), (18, 2.2), (21.4, 3.4), (24.2, 5.4)], [2.2, 2.0, 1.8, 1.5]),
+]
+THUMB_SIDE = ([(2.5, 2.5), (8.6, 7.6), (14.6, 10)], [2.9, 2.4, 1.8])
+
+
+def from_side(title, angle):
+    """The palm-down hand bent at the wrist by `angle`: flexion positive, extension negative."""
+    drawing = Drawing(title.format(abs(angle)))
+    wrist = (16, 27.5 - angle * 0.2)
+    frame = Frame(wrist, 1.04, angle)
+    x, y = wrist
+    drawing.solid([polygon([(0.6, y - 5.4), (x, y - 4.2), (x, y + 4.2), (0.6, y + 5.4)]),
+                   capsule((x - 0.5, y), 4.2, (x + 0.5, y), 4.2)], FIGURE)
+    measure(drawing, wrist, 90, 90 + angle, 36, 39)
+    parts = [(frame.all(joints), [r * frame.scale for r in radii])
+             for joints, radii in [THUMB_SIDE, *FINGERS_SIDE]]
+    back = smooth(frame.all(BACK_OF_SIDE))
+    drawing.solid([back, *(curl(*part) for part in parts)], ACCENT)
+    for part in parts:
+        drawing.solid([curl(*part)], ACCENT, edge=0.5)
+        if part is parts[0]:
+            drawing.solid([back], ACCENT, edge=0.5)
+    drawing.solid([back], ACCENT, edge=0)
+    drawing.axis(wrist, polar(wrist, 29 if angle == 0 else 13, 90 + angle))
+    return drawing
+
+
+EDGE_HAND = [
+    (-3.4, 1), (-4.8, -4), (-5, -9), (-4.2, -14), (-3.5, -20), (-3.1, -25.6), (-2.2, -28.2),
+    (-0.3, -29.2), (1.6, -28.2), (2.4, -25.6), (2.8, -20), (4, -14), (4.8, -8), (4.4, -3), (3.4, 1),
+]
+
+
+def turned(title, shows):
+    """The hand turned about the forearm, seen by its owner: "edge", "back" or "palm"."""
+    drawing = Drawing(title)
+    wrist = (28, 33.5)
+    frame = Frame(wrist)
+    forearm_up(drawing, wrist)
+    if shows == "edge":
+        thumb_edge(drawing, frame)
+    elif shows == "back":
+        hand_above(drawing, frame)
+    else:
+        open_palm(drawing, frame)
+    if shows != "edge":
+        _turn_arrow(drawing, wrist[0], 46, -1 if shows == "back" else 1)
+    return drawing
+
+
+def _turn_arrow(drawing, middle, height, side):
+    """An arrow around the near side of the forearm, to the left (-1) or to the right (1)."""
+    track = smooth([(middle - side * x, height + y)
+                    for x, y in [(9, -3), (5, 0.4), (-2, 1.2), (-9, -2.4)]], closed=False)
+    drawing.arrow(track, ((middle + side * 9.6, height - 2.9), side * 56))
+
+
+def thumb_edge(drawing, frame):
+    """The straight hand on edge: thumb towards the reader, palm to the left."""
+    hand = smooth(frame.all(EDGE_HAND))
+    thumb = curl(frame.all([(0.9, -2.4), (-2.2, -9), (-6, -14), (-8.4, -19.2)]), [3.5, 3, 2.4, 1.8])
+    drawing.solid([hand], ACCENT)
+    for knuckle in (-14.6, -20.4):
+        drawing.line(polyline(frame.all([(0.4, knuckle), (2.6, knuckle + 0.4)])), EDGE, 0.8)
+    drawing.solid([thumb], ACCENT, edge=0.7)
+    nail = capsule(frame.at(-7.3, -17.2), 1.15, frame.at(-8.2, -18.9), 1.15)
+    drawing.raw(f'<path d="{nail}" fill="{EDGE}" fill-opacity="0.75"/>')
+
+
+def open_palm(drawing, frame):
+    """The palm of the hand: thumb on the right, creases instead of nails."""
+    flipped = Flipped(frame)
+    hand_above(drawing, flipped, nails=False)
+    for crease in ([(6.6, -10.6), (2.4, -11.6), (-2.6, -9.2), (-6.4, -9.6)],
+                   [(6.9, -8.4), (2.6, -8.4), (0.6, -4.8), (0.6, -0.6)]):
+        drawing.line(smooth(frame.all(crease), closed=False), EDGE, 0.9)
+
+
+class Flipped:
+    """A frame seen from the other side: left and right change places."""
+
+    def __init__(self, frame):
+        self._frame = frame
+        self.scale = frame.scale
+
+    def at(self, x, y):
+        return self._frame.at(-x, y)
+
+    def all(self, pairs):
+        return [self.at(x, y) for x, y in pairs]

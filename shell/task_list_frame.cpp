@@ -1,0 +1,37 @@
+#include "shell/task_list_frame.h"
+
+#include <QGridLayout>
+#include <QPushButton>
+
+#include "shell/controls/task_tree.h"
+#include "shell/layout.h"
+
+namespace halvane {
+
+TaskListFrame::TaskListFrame(const QString& name, const std::array<TaskButton, 3>& buttons,
+                             QWidget* parent)
+    : QGroupBox("Task Information", parent), tree_(new TaskTree(this)) {
+  setObjectName(name);
+  auto* grid = new QGridLayout(this);
+  grid->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+  grid->setHorizontalSpacing(kGap / 2);
+  grid->setVerticalSpacing(kGap);
+  grid->addWidget(tree_, 0, 0, 1, static_cast<int>(buttons.size()));
+  int index = 0;
+  for (const TaskButton& row : buttons) {
+    auto* button = new QPushButton(row.caption, this);
+    button->setObjectName(ElementName("SSCommand1", index));
+    button->setToolTip(row.tip);
+    button->setAutoDefault(false);
+    // The style's own least width would make the list wider than the names in it need.
+    button->setMinimumWidth(button->fontMetrics().horizontalAdvance(row.caption) + 2 * kMargin);
+    connect(button, &QPushButton::clicked, this, [this, index] {
+      // A button pressed by its key leaves the focus, and so an edit, where it was.
+      tree_->FinishEdit();
+      emit buttonClicked(index);
+    });
+    grid->addWidget(button, 1, index++);
+  }
+}
+
+}  // namespace halvane

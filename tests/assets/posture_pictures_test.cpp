@@ -1,0 +1,268 @@
+// The pictures on ribbons: one family, each showing what its caption names.
+#include <gtest/gtest.h>
+
+#include <QColor>
+#include <QImage>
+#include <QMap>
+#include <QPainter>
+#include <QRegularExpression>
+#include <QSet>
+#include <QSvgRenderer>
+#include <algorithm>
+#include <cmath>
+#include <span>
+#include <string_view>
+#include <utility>
+
+#include "tests/assets/picture_files.h"
+#include "tools/ctd/ctd_controls.h"
+
+namespace halvane {
+namespace {
+
+constexpr int kSide = 56;  // logical pixels of a picture
+
+double Luminance(const QColor& colour) {
+  const auto part = [](double share) {
+    return share <= 0.04045 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
+  };
+  return 0.2126 * part(colour.redF()) + 0.7152 * part(colour.greenF()) +
+         0.0722 * part(colour.blueF());
+}
+
+double Contrast(const QColor& a, const QColor& b) {
+  const auto [low, high] = std::minmax(Luminance(a), Luminance(b));
+  return (high + 0.05) / (low + 0.05);
+}
+
+/// The picture in the middle of a canvas three times its size, `scale` pixels a logical pixel.
+QImage OnCanvas(const QString& asset, int scale) {
+  QSvgRenderer renderer(SourceFile("assets/" + asset + ".svg"));
+  EXPECT_TRUE(renderer.isValid()) << asset.toStdString();
+  EXPECT_EQ(renderer.defaultSize(), QSize(kSide, kSide)) << asset.toStdString();
+  const int side = kSide * scale;
+  QImage image(3 * side, 3 * side, QImage::Format_ARGB32);
+  image.fill(Qt::transparent);
+  QPainter painter(&image);
+  renderer.render(&painter, QRectF(side, side, side, side));
+  return image;
+}
+
+QImage Picture(const QString& asset) { return OnCanvas(asset, 1).copy(kSide, kSide, kSide, kSide); }
+
+/// How many pixels of two pictures differ clearly, on white paper.
+int PixelsApart(const QImage& a, const QImage& b) {
+  const auto onWhite = [](QRgb pixel, int part) {
+    return 255 - qAlpha(pixel) + part * qAlpha(pixel) / 255;
+  };
+  int apart = 0;
+  for (int y = 0; y < kSide; ++y) {
+    for (int x = 0; x < kSide; ++x) {
+      const QRgb p = a.pixel(x, y);
+      const QRgb q = b.pixel(x, y);
+      apart += std::max({std::abs(onWhite(p, qRed(p)) - onWhite(q, qRed(q))),
+                         std::abs(onWhite(p, qGreen(p)) - onWhite(q, qGreen(q))),
+                         std::abs(onWhite(p, qBlue(p)) - onWhite(q, qBlue(q)))}) > 64;
+    }
+  }
+  return apart;
+}
+
+QString Text(std::string_view text) {
+  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+/// Pictures that stand in one row of buttons, by the name of the row.
+QMap<QString, QStringList> Rows() {
+  QMap<QString, QStringList> rows;
+  const auto add = [&rows](std::string_view row, std::span<const CtdRibbon> ribbons) {
+    for (const CtdRibbon& ribbon : ribbons) rows[Text(row)] << Text(ribbon.picture);
+  };
+  for (const CtdGroupRow& group : kCtdGroups) add(group.objectName, group.ribbons);
+  for (const CtdSlot& slot : kCtdSlots) add(slot.objectName, slot.categories);
+  for (const CtdBodyPart& part : kCtdBodyParts) rows["SSRibbon3"] << Text(part.picture);
+  for (const QString& name : PosturePictures()) {
+    if (!name.startsWith("ctd/")) rows[name.section('_', 0, 0)] << name;
+  }
+  return rows;
+}
+
+TEST(PosturePictures, EveryOneStandsInARowOfButtons) {
+  QSet<QString> shown;
+  for (const QStringList& row : Rows()) shown += QSet<QString>(row.begin(), row.end());
+  const QStringList drawn = PosturePictures();
+  EXPECT_EQ(shown, QSet<QString>(drawn.begin(), drawn.end()));
+}
+
+TEST(PosturePictures, EveryColourStandsOutOnWhiteAndOnDarkGrey) {
+  // The border and what a hand holds are light on purpose; on white their outlines carry them.
+  const QSet<QString> light{"#ffffff", "#d3d7dd"};
+  const QRegularExpression colour("#[0-9a-f]{6}");
+  QSet<QString> seen;
+  for (const QString& name : PosturePictures()) {
+    auto hits = colour.globalMatch(ContentOf(SourceFile("assets/" + name + ".svg")));
+    while (hits.hasNext()) seen << hits.next().captured();
+  }
+  seen -= light;
+  ASSERT_EQ(seen.size(), 3) << "accent, figure, reference line";
+  for (const QString& name : seen) {
+    EXPECT_GE(Contrast(QColor(name), QColor("#ffffff")), 3.0) << name.toStdString();
+    EXPECT_GE(Contrast(QColor(name), QColor("#2d2d30")), 3.0) << name.toStdString();
+  }
+}
+
+TEST(PosturePictures, HaveAMovingSegmentAndNoWords) {
+  for (const QString& name : PosturePictures()) {
+    const QByteArray text = ContentOf(SourceFile("assets/" + name + ".svg"));
+    EXPECT_TRUE(text.contains("<g fill=\"#3a72ee\">")) << name.toStdString();
+    EXPECT_FALSE(text.contains("<text")) << name.toStdString();
+  }
+}
+
+TEST(PosturePictures, LeaveTheirGroundClearAndStayInside) {
+  constexpr int kScale = 2;
+  const QRect square(kSide * kScale, kSide * kScale, kSide * kScale, kSide * kScale);
+  // The thin light border of a limb that ends at the edge may lie outside, where it is cut off.
+  const QRect bordered = square.adjusted(-kScale, -kScale, kScale, kScale);
+  for (const QString& name : PosturePictures()) {
+    const QImage image = OnCanvas(name, kScale);
+    int clear = 0;
+    int outside = 0;
+    for (int y = 0; y < image.height(); ++y) {
+      for (int x = 0; x < image.width(); ++x) {
+        const bool empty = qAlpha(image.pixel(x, y)) == 0;
+        if (square.contains(x, y)) clear += empty;
+        if (!bordered.contains(x, y)) outside += !empty;
+      }
+    }
+    const int all = square.width() * square.height();
+    EXPECT_GT(clear, all / 4) << name.toStdString();
+    EXPECT_LT(clear, all * 9 / 10) << name.toStdString();
+    EXPECT_EQ(outside, 0) << name.toStdString();
+  }
+}
+
+TEST(PosturePictures, TheLeftSideIsTheMirrorImageOfTheRight) {
+  int pairs = 0;
+  for (const QString& name : PosturePictures()) {
+    if (!name.contains("_right_")) continue;
+    ++pairs;
+    const QImage mirrored = Picture(name).mirrored(true, false);
+    const QImage left = Picture(QString(name).replace("_right_", "_left_"));
+    EXPECT_LT(PixelsApart(mirrored, left), 20) << name.toStdString();
+    EXPECT_GT(PixelsApart(Picture(name), left), 300) << name.toStdString();
+  }
+  EXPECT_EQ(pairs, 11);
+}
+
+TEST(PosturePictures, NoTwoOfARowLookAlike) {
+  const int least = kSide * kSide * 5 / 100;
+  const QMap<QString, QStringList> rows = Rows();
+  for (auto row = rows.begin(); row != rows.end(); ++row) {
+    ASSERT_GE(row->size(), 3) << row.key().toStdString();
+    for (qsizetype i = 0; i < row->size(); ++i) {
+      for (qsizetype j = 0; j < i; ++j) {
+        EXPECT_GT(PixelsApart(Picture(row->at(i)), Picture(row->at(j))), least)
+            << row->at(i).toStdString() << " and " << row->at(j).toStdString();
+      }
+    }
+  }
+}
+
+/// The angle that a picture says it shows; no number in its title is 0.
+int ShownAngle(const QString& asset) {
+  const auto hit = QRegularExpression("(\\d+) degrees").match(TitleOf(asset));
+  return hit.hasMatch() ? hit.captured(1).toInt() : 0;
+}
+
+/// The degrees that a caption of the CTD form names: "Greater Than 20" from 20 on, ">15 deg."
+/// from 15 on, "5-15 deg." from 5 to 15, any other none.
+std::pair<int, int> NamedDegrees(const QString& caption) {
+  const auto range = QRegularExpression("(\\d+)-(\\d+) deg").match(caption);
+  if (range.hasMatch()) return {range.captured(1).toInt(), range.captured(2).toInt()};
+  const auto above = QRegularExpression("(?:>|Than) ?(\\d+)").match(caption);
+  if (above.hasMatch()) return {above.captured(1).toInt(), 180};
+  return {-1, 1};
+}
+
+TEST(PosturePictures, AnglesOfTheCtdFormAreThoseOfTheirCaptions) {
+  EXPECT_EQ(NamedDegrees("Radial Deviation 5-15 deg."), std::pair(5, 15));
+  EXPECT_EQ(NamedDegrees(">30 deg Extension"), std::pair(30, 180));
+  EXPECT_EQ(NamedDegrees("Greater Than 45"), std::pair(45, 180));
+  const auto expectNamed = [](const CtdRibbon& ribbon, int below) {
+    const auto [low, high] = NamedDegrees(Text(ribbon.caption));
+    EXPECT_GT(ShownAngle(Text(ribbon.picture)), low) << ribbon.picture;
+    EXPECT_LT(ShownAngle(Text(ribbon.picture)), std::min(high, below)) << ribbon.picture;
+  };
+  for (const CtdGroupRow& group : kCtdGroups) {
+    for (const CtdRibbon& ribbon : group.ribbons) expectNamed(ribbon, 180);
+  }
+  for (const CtdSlot& slot : kCtdSlots) {
+    // Each step of a joint ends where the next begins, but for flexion and extension of elbows.
+    const bool steps = slot.categories.size() == 4;
+    for (std::size_t i = 0; i < slot.categories.size(); ++i) {
+      const bool last = !steps || i + 1 == slot.categories.size();
+      expectNamed(slot.categories[i],
+                  last ? 180 : NamedDegrees(Text(slot.categories[i + 1].caption)).first);
+    }
+  }
+}
+
+TEST(PosturePictures, AnglesOfRulaAndRebaAreThoseOfTheirToolTips) {
+  struct Row {
+    const char* picture;
+    int low, high;  // degrees, both inside
+    const char* direction;
+  };
+  for (const Row& row : {
+           Row{"rula/ssribbon1_0", 20, 20, "-20 to 20"},
+           Row{"rula/ssribbon1_1", 21, 60, "back"},
+           Row{"rula/ssribbon1_2", 21, 45, "forward"},
+           Row{"rula/ssribbon1_3", 46, 90, "forward"},
+           Row{"rula/ssribbon1_4", 91, 180, "forward"},
+           Row{"rula/ssribbon2_0", 0, 90, "Elbow bent"},
+           Row{"rula/ssribbon2_1", 91, 150, "Elbow bent"},
+           Row{"rula/ssribbon3_0", 0, 0, "straight"},
+           Row{"rula/ssribbon3_1", 1, 20, "extended"},
+           Row{"rula/ssribbon3_2", 21, 70, "extended"},
+           Row{"rula/ssribbon3_3", 1, 20, "flexed"},
+           Row{"rula/ssribbon3_4", 21, 70, "flexed"},
+           Row{"rula/ssribbon4_0", 0, 10, "bent"},
+           Row{"rula/ssribbon4_1", 1, 60, "back"},
+           Row{"rula/ssribbon4_2", 11, 20, "bent"},
+           Row{"rula/ssribbon4_3", 21, 80, "bent"},
+           Row{"rula/ssribbon5_0", 0, 0, "upright"},
+           Row{"rula/ssribbon5_1", 1, 20, "bent"},
+           Row{"rula/ssribbon5_2", 21, 60, "bent"},
+           Row{"rula/ssribbon5_3", 61, 90, "bent"},
+           Row{"reba/ssribbon1_0", 20, 20, "-20 to 20"},
+           Row{"reba/ssribbon1_1", 21, 60, "back"},
+           Row{"reba/ssribbon1_2", 21, 45, "forward"},
+           Row{"reba/ssribbon1_3", 46, 90, "forward"},
+           Row{"reba/ssribbon1_4", 91, 180, "forward"},
+           Row{"reba/ssribbon2_0", 60, 100, "Elbow bent"},
+           Row{"reba/ssribbon2_1", 101, 150, "Elbow bent"},
+           Row{"reba/ssribbon2_2", 0, 59, "Elbow bent"},
+           Row{"reba/ssribbon3_0", 0, 0, "straight"},
+           Row{"reba/ssribbon3_1", 16, 70, "flexed"},
+           Row{"reba/ssribbon3_2", 16, 70, "extended"},
+           Row{"reba/ssribbon4_0", 0, 10, "bent"},
+           Row{"reba/ssribbon4_1", 21, 60, "back"},
+           Row{"reba/ssribbon4_2", 21, 80, "bent"},
+           Row{"reba/ssribbon5_0", 0, 0, "upright"},
+           Row{"reba/ssribbon5_1", 1, 20, "bent"},
+           Row{"reba/ssribbon5_2", 21, 60, "bent"},
+           Row{"reba/ssribbon5_3", 61, 90, "bent"},
+           Row{"reba/ssribbon5_4", 1, 20, "back"},
+           Row{"reba/ssribbon5_5", 21, 60, "back"},
+           Row{"reba/ssribbon6_2", 30, 60, "Knees"},
+           Row{"reba/ssribbon6_3", 61, 120, "Knees"},
+       }) {
+    EXPECT_GE(ShownAngle(row.picture), row.low) << row.picture;
+    EXPECT_LE(ShownAngle(row.picture), row.high) << row.picture;
+    EXPECT_TRUE(TitleOf(row.picture).contains(row.direction)) << row.picture;
+  }
+}
+
+}  // namespace
+}  // namespace halvane

@@ -1,0 +1,149 @@
+#include "tools/ctd/ctd_report.h"
+
+#include <array>
+
+#include "core/job_state.h"
+#include "core/task_list.h"
+#include "tools/ctd/ctd_controls.h"
+
+namespace halvane {
+namespace {
+
+constexpr CharacterFormat kHeading{.size = 10, .bold = true, .underline = true};
+constexpr CharacterFormat kBold{.size = 10, .bold = true, .underline = false};
+constexpr CharacterFormat kPlain{.size = 10, .bold = false, .underline = false};
+
+using Stops = std::array<int, 4>;
+
+constexpr Stops kRowStops{2500, 4300, 5750, 7200};
+// The headings stand on other stops than their rows, which is wanted.
+constexpr Stops kFirstHeadingStops{2500, 2500, 2500, 2500};
+constexpr Stops kLaterHeadingStops{2500, 4300, 2500, 2500};
+
+void SetStops(RichText& RichTextBox1, const Stops& stops) {
+  RichTextBox1.SetTabCount(static_cast<int>(stops.size()));
+  for (std::size_t i = 0; i < stops.size(); ++i) {
+    RichTextBox1.SetTab(static_cast<int>(i), stops[i]);
+  }
+}
+
+void WriteJob(RichText& RichTextBox1) {
+  RichTextBox1.Append(kNewLine, Module1.Hand == 0 ? "Hand: Right Side" : "Hand: Left Side");
+  RichTextBox1.Append(kNewLine);
+  RichTextBox1.Append(kNewLine, "Analyst: ", Module1.JobAnalyst.AsText());
+  RichTextBox1.Append(kNewLine, "Job Name: ", Module1.JobName.AsText());
+  RichTextBox1.Append(kNewLine, "Workstation ID: ", Module1.JobWorkstationId);
+  RichTextBox1.Append(kNewLine, kNewLine);
+  RichTextBox1.Append("Hours Worked per Shift: ",
+                      Format(Module1.JobDurationPerDay, Pattern::Whole));
+  RichTextBox1.Append(kNewLine,
+                      "Job Cycle Time (min): ", Format(Module1.JobCycleTime, Pattern::TwoDecimals));
+  RichTextBox1.Append(kNewLine, kNewLine);
+}
+
+void WriteEffortTable(RichText& RichTextBox1) {
+  RichTextBox1.SetFont(kHeading);
+  SetStops(RichTextBox1, kFirstHeadingStops);
+  RichTextBox1.Append(kNewLine, "Task ID", kTab, "Task Dur. (min)", kTab, "Action (#/min)", kTab,
+                      "Force (%MVC)", kTab,
+                      Module1.Units == 1 ? "Hand Span (in)" : "Hand Span (cm)");
+  RichTextBox1.SetFont(kPlain);
+  for (const int task : ActiveTasks()) {
+    SetStops(RichTextBox1, kRowStops);
+    RichTextBox1.Append(kNewLine, ShownTaskName(task), kTab,
+                        Format(Module1.CtdWorkTime.at(task), Pattern::TwoDecimals), kTab,
+                        Format(Module1.CtdRepetitions.at(task), Pattern::OneDecimal), kTab,
+                        Format(Module1.CtdForceMvc.at(task), Pattern::OneDecimal), kTab,
+                        Format(Module1.CtdHandSpan.at(task), Pattern::OneDecimal));
+  }
+  RichTextBox1.Append(kNewLine, kNewLine);
+}
+
+std::string_view CodeCaption(CtdGroup group, int task) {
+  return CtdRibbonAt(kCtdGroups[static_cast<std::size_t>(group)].ribbons, CtdCodeOf(group, task))
+      .caption;
+}
+
+void WriteGripTable(RichText& RichTextBox1) {
+  RichTextBox1.SetFont(kHeading);
+  SetStops(RichTextBox1, kLaterHeadingStops);
+  RichTextBox1.Append("Task ID  ", kTab, "Grip Type", kTab, "Wrist Position", kTab, "Rad/Uln Dev.",
+                      kTab, "Flex/Ext Dev.");
+  RichTextBox1.SetFont(kPlain);
+  for (const int task : ActiveTasks()) {
+    SetStops(RichTextBox1, kRowStops);
+    RichTextBox1.Append(kNewLine, ShownTaskName(task), kTab, CodeCaption(CtdGroup::Grip, task),
+                        kTab, CodeCaption(CtdGroup::Wrist, task), kTab,
+                        CodeCaption(CtdGroup::RadialUlnar, task), kTab,
+                        CodeCaption(CtdGroup::FlexionExtension, task));
+  }
+  RichTextBox1.Append(kNewLine, kNewLine);
+}
+
+void WritePostureRow(RichText& RichTextBox1, int slot, int task) {
+  const CtdSlot& row = kCtdSlots[static_cast<std::size_t>(slot)];
+  const bool neck = slot == kCtdSlotCount - 1;
+  const std::string load =
+      neck ? "    " : Format(Module1.CtdLoadHeld.at(task, row.frameSlot), Pattern::OneDecimal);
+  // The neck's row shows the back's score. It is wanted, as is that the scores are those of the
+  // last active task while the rest of the row belongs to the worst one.
+  const double score = Module1.CtdPostureScore.at(neck ? slot - 1 : slot).AsDouble();
+  RichTextBox1.Append(
+      row.reportLabel, kTab,
+      CtdRibbonAt(row.categories, ToInteger(CtdCategoryOf(slot, task))).caption, kTab, load, kTab,
+      Format(Module1.CtdPostureDuration.at(task, row.frameSlot), Pattern::TwoDecimals), kTab,
+      Format(score, Pattern::TwoDecimals), kNewLine);
+}
+
+void WritePostureTable(RichText& RichTextBox1) {
+  RichTextBox1.SetFont(kHeading);
+  SetStops(RichTextBox1, kLaterHeadingStops);
+  RichTextBox1.Append("Body Posture        ", kTab, "Angle   ", kTab, "Load Held", kTab, "Duration",
+                      kTab, "Max. Posture Score");
+  RichTextBox1.Append(kNewLine);
+  RichTextBox1.SetFont(kPlain);
+  SetStops(RichTextBox1, kRowStops);
+  for (int slot = 0; slot < kCtdSlotCount; ++slot) {
+    WritePostureRow(RichTextBox1, slot, Module1.CtdPostureFactorTask);
+  }
+}
+
+void WriteResult(RichText& RichTextBox1, std::string_view label, const TaggedField& value) {
+  RichTextBox1.SetFont(kBold);
+  RichTextBox1.Append(label);
+  RichTextBox1.SetFont(kPlain);
+  RichTextBox1.Append(Format(value, Pattern::TwoDecimals));
+}
+
+}  // namespace
+
+void CTDprint(RichText& RichTextBox1) {
+  RichTextBox1.SetLocked(false);
+  RichTextBox1.Clear();
+
+  RichTextBox1.SetFont(kHeading);
+  RichTextBox1.SetAlignment(Alignment::Center);
+  RichTextBox1.Append("Cumulative Trauma Disorders Risk Assessment Model", kNewLine);
+  RichTextBox1.SetFont(kPlain);
+  RichTextBox1.SetAlignment(Alignment::Left);
+
+  WriteJob(RichTextBox1);
+  WriteEffortTable(RichTextBox1);
+  WriteGripTable(RichTextBox1);
+  WritePostureTable(RichTextBox1);
+
+  RichTextBox1.Append(kNewLine);
+  WriteResult(RichTextBox1, "Force Frequency Factor: ", Module1.CtdForceFrequencyFactor);
+  RichTextBox1.SetFont(kBold);
+  RichTextBox1.Append(kNewLine);
+  WriteResult(RichTextBox1, "Posture Factor   : ", Module1.CtdPostureFactor);
+  RichTextBox1.Append(kNewLine, kNewLine);
+  WriteResult(RichTextBox1, "Grand Score: ", Module1.CtdGrandScore);
+  RichTextBox1.Append(kNewLine,
+                      "(Note: Grand Score is predicted incidence rate per 200,000 worked hours)");
+  RichTextBox1.Append(kNewLine, kNewLine);
+  RichTextBox1.AppendPicture("ctd/report");
+  RichTextBox1.SetLocked(true);
+}
+
+}  // namespace halvane

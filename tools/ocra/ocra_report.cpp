@@ -1,0 +1,148 @@
+#include "tools/ocra/ocra_report.h"
+
+#include <array>
+
+#include "core/checked_math.h"
+#include "core/job_state.h"
+#include "core/task_list.h"
+
+namespace halvane {
+namespace {
+
+constexpr CharacterFormat kTitle{.size = 12, .bold = true, .underline = true};
+constexpr CharacterFormat kHeading{.size = 10, .bold = true, .underline = true};
+constexpr CharacterFormat kPlain{.size = 10, .bold = false, .underline = false};
+
+using Lines = std::array<std::string_view, 3>;
+
+constexpr Lines kGreen{"Zone: Green", "Risk Level: ABSENT", "Consequences: None"};
+constexpr Lines kYellowGreen{
+    "Zone: Yellow/Green",
+    "Risk Level: NEGLIGIBLE, predicted Work-related Musculoskeletal Disorders similar to reference "
+    "groups.",
+    "Consequences: None"};
+constexpr Lines kYellow{
+    "Zone: Yellow",
+    "Risk Level: SLIGHT, slight excess of Work-related Musculoskeletal Disorders predicted (upto 3 "
+    "times).",
+    "Consequences: "};
+constexpr std::array<std::string_view, 2> kYellowDashes{
+    "-Health surveillance recommended",
+    "-Recommended to seek ways to improve exposure conditions (especially for higher values)"};
+constexpr Lines kRed{
+    "Zone: Red",
+    "Risk Level: PRESENT, significant excess of Work-related Musculoskeletal Disorders predicted.",
+    "Consequences: "};
+constexpr std::array<std::string_view, 2> kRedDashes{
+    "-Redesign of tasks at workstations according to priority.",
+    "-Health surveillance plus training/information of exposed subjects."};
+
+void SetTableTabs(RichText& RichTextBox1) {
+  RichTextBox1.SetTabCount(3);
+  RichTextBox1.SetTab(0, 2500);
+  RichTextBox1.SetTab(1, 4500);
+  RichTextBox1.SetTab(2, 6500);
+}
+
+void WriteJob(RichText& RichTextBox1) {
+  RichTextBox1.Append(kNewLine, Module1.Hand == 0 ? "Hand: Right Side" : "Hand: Left Side",
+                      kNewLine);
+  RichTextBox1.Append(kNewLine, "Analyst: ", Module1.JobAnalyst.AsText());
+  RichTextBox1.Append(kNewLine, "Job Name: ", Module1.JobName.AsText());
+  RichTextBox1.Append(kNewLine, "Workstation ID: ", Module1.JobWorkstationId);
+  RichTextBox1.Append(kNewLine);
+  RichTextBox1.Append(kNewLine,
+                      "Job Cycle Time (min): ", Format(Module1.JobCycleTime, Pattern::TwoDecimals));
+  RichTextBox1.Append(kNewLine, "Numbers Of Hours Without Adequate Recovery: ",
+                      Format(Module1.OcraRecoveryHours, Pattern::Whole));
+  RichTextBox1.Append(kNewLine);
+}
+
+void WriteTaskTable(RichText& RichTextBox1) {
+  RichTextBox1.SetFont(kHeading);
+  SetTableTabs(RichTextBox1);
+  RichTextBox1.Append(kNewLine, "Task ID", kTab, "Task Dur. (min)", kTab, "Action (#/min)", kTab,
+                      "Force Level");
+  RichTextBox1.SetFont(kPlain);
+  for (const int task : ActiveTasks()) {
+    RichTextBox1.Append(kNewLine, ShownTaskName(task), kTab,
+                        Format(Module1.OcraTaskDuration.at(task), Pattern::TwoDecimals), kTab,
+                        Format(Module1.OcraActionFrequency.at(task), Pattern::OneDecimal), kTab,
+                        Format(Module1.OcraForceRating.at(task), Pattern::OneDecimal));
+  }
+  RichTextBox1.Append(kNewLine);
+}
+
+void WriteMultiplierTable(RichText& RichTextBox1) {
+  RichTextBox1.SetFont(kHeading);
+  SetTableTabs(RichTextBox1);
+  RichTextBox1.Append(kNewLine, "Task ID", kTab, "Force Multiplier", kTab, "Posture Multiplier",
+                      kTab, "Recovery Multiplier");
+  RichTextBox1.SetFont(kPlain);
+  const double posture =
+      Product(Module1.OcraPostureMultiplier.AsDouble(), Module1.OcraGripExtraMultiplier.AsDouble());
+  for (const int task : ActiveTasks()) {
+    RichTextBox1.Append(kNewLine, ShownTaskName(task), kTab,
+                        Format(Module1.OcraForceMultiplier.at(task), Pattern::TwoDecimals), kTab,
+                        Format(posture, Pattern::TwoDecimals), kTab,
+                        Format(Module1.OcraRecoveryMultiplier, Pattern::TwoDecimals));
+  }
+  RichTextBox1.Append(kNewLine);
+}
+
+void WriteZone(RichText& RichTextBox1) {
+  RichTextBox1.Append(kNewLine, "Recommendation:");
+  RichTextBox1.SetTabCount(2);
+  RichTextBox1.SetTab(0, 200);
+  RichTextBox1.SetTab(1, 700);
+  const OcraZone zone = OcraZoneOf(Module1.OcraRiskIndex);
+  for (const std::string_view line : zone.lines) RichTextBox1.Append(kNewLine, kTab, line);
+  for (const std::string_view line : zone.dashLines) {
+    RichTextBox1.Append(kNewLine, kTab, kTab, line);
+  }
+  RichTextBox1.Append(kNewLine, kNewLine);
+}
+
+}  // namespace
+
+OcraZone OcraZoneOf(double riskIndex) {
+  if (riskIndex <= 1.0) return {kGreen, {}};
+  if (riskIndex <= 2.0) return {kYellowGreen, {}};
+  if (riskIndex <= 3.9) return {kYellow, kYellowDashes};
+  if (riskIndex >= 4.0) return {kRed, kRedDashes};
+  // Between 3.9 and 4.0 no zone is named, which is wanted.
+  return {};
+}
+
+void OcraReport(RichText& RichTextBox1) {
+  RichTextBox1.SetLocked(false);
+  RichTextBox1.Clear();
+
+  RichTextBox1.SetFont(kTitle);
+  RichTextBox1.SetAlignment(Alignment::Center);
+  RichTextBox1.Append("Occupational Repetitive Actions Index", kNewLine);
+
+  RichTextBox1.SetFont(kPlain);
+  RichTextBox1.SetAlignment(Alignment::Left);
+  WriteJob(RichTextBox1);
+  WriteTaskTable(RichTextBox1);
+  WriteMultiplierTable(RichTextBox1);
+  RichTextBox1.Append(kNewLine, "Total No. Of Actions Observed: ",
+                      Format(Module1.OcraActionsObserved, Pattern::OneDecimal));
+  RichTextBox1.Append(kNewLine, "Total No. Of Recommended Actions: ",
+                      Format(Module1.OcraActionsRecommended, Pattern::OneDecimal));
+  RichTextBox1.Append(kNewLine);
+
+  RichTextBox1.SetFont(kHeading);
+  RichTextBox1.Append(kNewLine, "OCRA Risk Index:");
+  RichTextBox1.SetFont(kPlain);
+  RichTextBox1.Append(" ", Format(Module1.OcraRiskIndex, Pattern::TwoDecimals));
+  RichTextBox1.Append(kNewLine);
+
+  WriteZone(RichTextBox1);
+  RichTextBox1.AppendPicture("ocra/zones");
+  RichTextBox1.AppendPicture("ocra/multipliers");
+  RichTextBox1.SetLocked(true);
+}
+
+}  // namespace halvane

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <vector>
+
+#include "tools/working_value.h"
+
+namespace halvane {
+
+/// Actions a minute that are recommended for a task with nothing against it.
+inline constexpr double kOcraReferenceActions = 30;
+
+/// Rebuilds the scores of the 14 exposure lists from `OcraComboChoice`. Throws
+/// `SubscriptOutOfRange` for an answer that is none.
+void OcraScoreLists();
+
+/// Computes `OcraRiskIndex`, actions observed over actions recommended, from job and list scores.
+/// `OcraScoreLists` has to run before each call: the grip score that feeds the extra multiplier is
+/// widened in place. Force, grip extra and recovery multipliers keep the value of the last
+/// computation where their lookup finds nothing, which is wanted.
+///
+/// Throws `Overflow` for a sum or product beyond its field.
+void OcraCalculate();
+
+/// The working values of the last computation.
+std::vector<WorkingValue> OcraWorkingValues();
+
+}  // namespace halvane
