@@ -93,6 +93,8 @@ void ToolWithReport(benchmark::State& state, Tool tool) {
 BENCHMARK_CAPTURE(ToolWithReport, si, Tool::StrainIndex)->UseRealTime();
 BENCHMARK_CAPTURE(ToolWithReport, ocra, Tool::Ocra)->UseRealTime();
 BENCHMARK_CAPTURE(ToolWithReport, ctd, Tool::Ctd)->UseRealTime();
+BENCHMARK_CAPTURE(ToolWithReport, rula, Tool::Rula)->UseRealTime();
+BENCHMARK_CAPTURE(ToolWithReport, reba, Tool::Reba)->UseRealTime();
 
 }  // namespace
 }  // namespace halvane

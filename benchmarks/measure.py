@@ -17,7 +17,13 @@ JOBS = 10_000
 WARM_UP = 2
 RUNS = 15
 FRAME = 1 / 60  # seconds
-TOOLS = (("si", "Strain Index"), ("ocra", "OCRA"), ("ctd", "CTD Risk Index"))
+TOOLS = (
+    ("si", "Strain Index"),
+    ("ocra", "OCRA"),
+    ("ctd", "CTD Risk Index"),
+    ("rula", "RULA"),
+    ("reba", "REBA"),
+)
 
 
 def wall_time(command, **options):
@@ -86,7 +92,7 @@ def measure_in_process(build, table):
     ):
         table.add(what, median[name], against, median[base])
     for key, name in TOOLS:
-        table.add(f"{name} with report, 40 tasks", median[f"ToolWithReport/{key}"])
+        table.add(f"{name} with report, job of 40 tasks", median[f"ToolWithReport/{key}"])
 
 
 def measure_reporter(build, table):

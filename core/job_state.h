@@ -135,12 +135,55 @@ struct JobState {
   Integer SiDurationRating = 0;  ///< 1 to 5
   double SiStrainIndexScore = 0;
 
-  // Cleared by `ReadJobFile` and by nothing else.
-  FixedArray<Integer, 4> RulaUpperArmFactors;
-  FixedArray<Integer, 2> RulaLowerArmFactors;
-  FixedArray<Integer, 2> RulaWristFactors;
-  FixedArray<Integer, 3> RulaNeckFactors;
-  FixedArray<Integer, 4> RulaTrunkFactors;
+  // RULA factors: what each control adds. The arrays are cleared by `ReadJobFile` and by nothing
+  // else, the single ones by nothing.
+  FixedArray<Integer, 4> RulaUpperArmFactors;  ///< 0 base, 1 raised, 2 abducted, 3 supported
+  FixedArray<Integer, 2> RulaLowerArmFactors;  ///< 0 base, 1 across the midline
+  FixedArray<Integer, 2> RulaWristFactors;     ///< 0 base, 1 bent sideways
+  FixedArray<Integer, 3> RulaNeckFactors;      ///< 0 base, 1 twisting, 2 bending sideways
+  FixedArray<Integer, 4> RulaTrunkFactors;     ///< 0 base, 1 twisting, 2 side bend, 3 not supported
+  Integer RulaWristTwistFactor = 0;            ///< 1 or 2; 0 until the form has loaded
+  Integer RulaLegFactor = 0;                   ///< 1 or 2; 0 until the form has loaded
+  Integer RulaMuscleFactor = 0;                ///< 0 to 2
+  Integer RulaForceFactor = 0;                 ///< 0 to 3
+
+  // RULA scores, of the last computation.
+  Integer RulaUpperArmScore = 0;
+  Integer RulaLowerArmScore = 0;
+  Integer RulaWristScore = 0;
+  Integer RulaWristTwistScore = 0;
+  Integer RulaNeckScore = 0;
+  Integer RulaTrunkScore = 0;
+  Integer RulaLegScore = 0;
+  Integer RulaMuscleScore = 0;
+  Integer RulaForceScore = 0;
+  Integer RulaArmWristPosture = 0;
+  Integer RulaNeckTrunkLegPosture = 0;
+  Integer RulaArmWristTotal = 0;
+  Integer RulaNeckTrunkLegTotal = 0;
+  Integer RulaGrandScore = 0;
+
+  // REBA. The factor arrays stand below; a single factor keeps its value until its control stores
+  // another.
+  Integer RebaLowerArmFactor = 0;  ///< 1 or 2; 0 until the form has loaded
+  Integer RebaCouplingFactor = 0;  ///< 0 to 3
+  Integer RebaActivityFactor = 0;  ///< 0 to 3; survives the opening of a job without muscle use
+  Integer RebaUpperArmScore = 0;   ///< 0 to 6
+  Integer RebaLowerArmScore = 0;   ///< 1 or 2
+  Integer RebaWristScore = 0;      ///< 1 to 3
+  Integer RebaNeckScore = 0;       ///< 1 to 3
+  Integer RebaTrunkScore = 0;      ///< 1 to 5
+  Integer RebaLegScore = 0;        ///< 1 to 4
+  Integer RebaActivityScore = 0;   ///< 0 to 3
+  Integer RebaForceScore = 0;      ///< 0 to 3
+  Integer RebaCouplingScore = 0;   ///< 0 to 3
+  Integer RebaScoreA = 0;          ///< of trunk, neck and legs, 1 to 9
+  Integer RebaScoreB = 0;          ///< of upper arm, lower arm and wrist, 0 to 9
+  Integer RebaScoreATotal = 0;     ///< with the force, 1 to 12
+  Integer RebaScoreBTotal = 0;     ///< with the coupling, 0 to 12
+  Integer RebaGrandScore = 0;      ///< 0 to 15
+
+  // REBA factors: cleared by `ReadJobFile` and by nothing else.
   FixedArray<Integer, 4> RebaUpperArmFactors;
   FixedArray<Integer, 2> RebaWristFactors;
   FixedArray<Integer, 3> RebaNeckFactors;

@@ -50,6 +50,13 @@ void IdentificationStrip::ShowJob() {
   show(*workstation_, Module1.JobWorkstationId);
 }
 
+void IdentificationStrip::StoreJob() {
+  Module1.JobDirty = kTrue;
+  Module1.JobAnalyst = analyst_->text().toStdString();
+  Module1.JobName = jobName_->text().toStdString();
+  Module1.JobWorkstationId = workstation_->text().toStdString();
+}
+
 void IdentificationStrip::FocusFirst() { analyst_->setFocus(); }
 
 }  // namespace halvane

@@ -23,6 +23,8 @@ class IdentificationStrip : public QWidget {
 
   /// Fills the boxes from the job.
   void ShowJob();
+  /// Stores the texts of all three boxes in the job and marks it as changed.
+  void StoreJob();
   /// Gives the first box the focus.
   void FocusFirst();
 

@@ -59,6 +59,7 @@ class ToolForm : public QDialog {
   HandFrame* MakeHand(QWidget* frameParent);
   /// Both in one row, as most tools have them.
   QWidget* MakeIdentificationWithHand(QWidget* rowParent);
+  IdentificationStrip& identification() { return *identification_; }
   HandFrame& hand() { return *hand_; }
   RichTextBox& RichTextBox1() { return *pane_; }
   QMenu& mnuEdit() { return *mnuEdit_; }

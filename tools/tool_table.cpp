@@ -9,6 +9,12 @@
 #include "tools/ocra/ocra_controls.h"
 #include "tools/ocra/ocra_report.h"
 #include "tools/ocra/ocra_score.h"
+#include "tools/reba/reba_controls.h"
+#include "tools/reba/reba_report.h"
+#include "tools/reba/reba_score.h"
+#include "tools/rula/rula_controls.h"
+#include "tools/rula/rula_report.h"
+#include "tools/rula/rula_score.h"
 #include "tools/strain_index/si_controls.h"
 #include "tools/strain_index/si_score.h"
 
@@ -41,6 +47,22 @@ bool WriteStrainIndexReport(RichText& RichTextBox1) {
   return true;
 }
 
+bool WriteRebaReport(RichText& RichTextBox1) {
+  RebaControls controls;
+  controls.Load();
+  REBA_Calculate();
+  REBA_Report(RichTextBox1);
+  return true;
+}
+
+bool WriteRulaReport(RichText& RichTextBox1) {
+  RulaControls controls;
+  controls.Load();
+  RULA_Calculate();
+  RULA_Report(RichTextBox1);
+  return true;
+}
+
 constexpr std::array kTools{
     ToolRow{Tool::Ocra, "ocra", "OCRA", "Occupational Repetitive Actions Index",
             "Occupational Repetitive Actions Index",
@@ -52,12 +74,12 @@ constexpr std::array kTools{
     ToolRow{Tool::StrainIndex, "si", "SI", "Strain Index", "Strain Index", "Strain Index2.htm",
             WriteStrainIndexReport, SiWorkingValues},
     ToolRow{Tool::Reba, "reba", "REBA", "Rapid Entire Body Assessment",
-            "Rapid Entire Body Assessment", "REBA (Rapid Entire Body Assessment)2.htm", nullptr,
-            nullptr},
+            "Rapid Entire Body Assessment", "REBA (Rapid Entire Body Assessment)2.htm",
+            WriteRebaReport, RebaWorkingValues},
     // The form's title differs from the button's tip, which is wanted.
     ToolRow{Tool::Rula, "rula", "RULA", "Rapid Upper Limb Assessment",
-            "Repetitive Upper Limb Assessment", "RULA (Rapid Upper Limb Assessment)2.htm", nullptr,
-            nullptr},
+            "Repetitive Upper Limb Assessment", "RULA (Rapid Upper Limb Assessment)2.htm",
+            WriteRulaReport, RulaWorkingValues},
     ToolRow{Tool::Hal, "hal", "", "", "ACGIH: Hand Activity Level",
             "ACGIH Hand Activity Level2.htm", nullptr, nullptr},
 };

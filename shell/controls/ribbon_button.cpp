@@ -9,6 +9,8 @@ namespace {
 
 constexpr int kPadding = 4;
 constexpr int kPictureSize = 56;
+/// A button with a picture is so wide where there is room.
+constexpr int kPictureButtonWidth = 72;
 /// A caption wider than this many average characters wraps.
 constexpr int kWidestLine = 17;
 
@@ -28,7 +30,25 @@ void RibbonButton::SetPicture(const QString& assetName) {
   setIconSize({kPictureSize, kPictureSize});
 }
 
+void RibbonButton::SetOneLine() {
+  oneLine_ = true;
+  updateGeometry();
+}
+
+QString RibbonButton::ShownText() const {
+  // Blanks around a caption would only push it out of the middle.
+  return text().trimmed();
+}
+
+int RibbonButton::CaptionFlags() const {
+  return Qt::AlignCenter | (oneLine_ ? Qt::TextSingleLine : Qt::TextWordWrap);
+}
+
 int RibbonButton::CaptionWidth() const {
+  if (oneLine_) {
+    const int line = fontMetrics().horizontalAdvance(ShownText()) + 1;
+    return icon().isNull() ? line : std::max(kPictureSize, line);
+  }
   if (!icon().isNull()) {
     // As narrow as picture and words allow, so that a row of pictures fits a small window.
     int width = kPictureSize;
@@ -42,11 +62,18 @@ int RibbonButton::CaptionWidth() const {
 }
 
 QSize RibbonButton::sizeHint() const {
+  const QSize least = minimumSizeHint();
+  if (icon().isNull()) return least;
+  return {std::max(kPictureButtonWidth, CaptionWidth() + 3 * kPadding), least.height()};
+}
+
+QSize RibbonButton::minimumSizeHint() const {
   const int width = CaptionWidth();
-  const QRect box =
-      fontMetrics().boundingRect(0, 0, width, 10000, Qt::TextWordWrap | Qt::AlignCenter, text());
+  const QRect box = fontMetrics().boundingRect(0, 0, width, 10000, CaptionFlags(), ShownText());
   const int picture = icon().isNull() ? 0 : kPictureSize + kPadding;
-  return {std::max(width, box.width()) + 2 * kPadding, picture + box.height() + 2 * kPadding};
+  // A caption in one line may come close to the edges.
+  const int sides = oneLine_ ? kPadding : 2 * kPadding;
+  return {std::max(width, box.width()) + sides, picture + box.height() + 2 * kPadding};
 }
 
 void RibbonButton::paintEvent(QPaintEvent* /*event*/) {
@@ -69,7 +96,8 @@ void RibbonButton::paintEvent(QPaintEvent* /*event*/) {
     icon().paint(&painter, place, Qt::AlignCenter, isEnabled() ? QIcon::Normal : QIcon::Disabled);
     inside.setTop(place.bottom() + kPadding);
   }
-  painter.drawText(inside, Qt::TextWordWrap | Qt::AlignCenter, text());
+  if (oneLine_) inside.adjust(-kPadding, 0, kPadding, 0);
+  painter.drawText(inside, CaptionFlags(), ShownText());
   if (hasFocus()) {
     QPen pen(painter.pen().color(), 1, Qt::DashLine);
     painter.setPen(pen);

@@ -5,7 +5,7 @@
 namespace halvane {
 
 /// A two-state button; the one that is down is filled with the highlight colour. Its caption wraps,
-/// and stands under its picture where it has one.
+/// unless it is to stay in one line, and stands under its picture where it has one.
 class RibbonButton : public QAbstractButton {
   Q_OBJECT
  public:
@@ -13,15 +13,21 @@ class RibbonButton : public QAbstractButton {
 
   /// Gives the button a picture by its asset name.
   void SetPicture(const QString& assetName);
+  /// Keeps the caption in one line, however wide the button gets by it.
+  void SetOneLine();
 
   [[nodiscard]] QSize sizeHint() const override;
-  [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
+  [[nodiscard]] QSize minimumSizeHint() const override;
 
  protected:
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  [[nodiscard]] QString ShownText() const;
+  [[nodiscard]] int CaptionFlags() const;
   [[nodiscard]] int CaptionWidth() const;
+
+  bool oneLine_ = false;
 };
 
 }  // namespace halvane

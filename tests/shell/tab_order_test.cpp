@@ -24,6 +24,8 @@
 #include "shell/frm_about.h"
 #include "shell/frm_hand_main.h"
 #include "shell/layout.h"
+#include "shell/posture_frame.h"
+#include "shell/posture_page.h"
 #include "shell/tool_form.h"
 #include "shell/tool_forms.h"
 #include "tests/shell/form_support.h"
@@ -78,6 +80,32 @@ const QWidget& FrameOf(const QWidget& control) {
   return control;
 }
 
+/// The page of frames in two columns that a control stands on, null elsewhere, and which column it
+/// is.
+struct ColumnPlace {
+  const QWidget* page = nullptr;
+  bool right = false;
+};
+ColumnPlace ColumnOf(const QWidget& control) {
+  for (const QWidget* frame = &control; frame != nullptr; frame = frame->parentWidget()) {
+    const auto* page = qobject_cast<const PosturePage*>(frame->parentWidget());
+    if (page == nullptr || qobject_cast<const PostureFrame*>(frame) == nullptr) continue;
+    return {page, frame->geometry().center().x() > page->width() / 2};
+  }
+  return {};
+}
+
+/// The same for frames, which may stand in columns: those are read one after the other.
+bool IsFrameReadBefore(const QWidget& second, const QWidget& first) {
+  const ColumnPlace secondPlace = ColumnOf(second);
+  const ColumnPlace firstPlace = ColumnOf(first);
+  if (secondPlace.page != nullptr && secondPlace.page == firstPlace.page &&
+      secondPlace.right != firstPlace.right) {
+    return firstPlace.right;
+  }
+  return IsReadBefore(PlaceOf(second), PlaceOf(first));
+}
+
 /// The stops of the Tab key in order, once round.
 std::vector<QWidget*> TabStops(QWidget& window) {
   std::vector<QWidget*> stops;
@@ -90,7 +118,7 @@ std::vector<QWidget*> TabStops(QWidget& window) {
   }
   // The round may have begun anywhere; it is told from the stop that is read first.
   const auto first = std::min_element(stops.begin(), stops.end(), [](auto* a, auto* b) {
-    return IsReadBefore(PlaceOf(FrameOf(*a)), PlaceOf(FrameOf(*b))) ||
+    return IsFrameReadBefore(FrameOf(*a), FrameOf(*b)) ||
            (&FrameOf(*a) == &FrameOf(*b) && IsReadBefore(PlaceOf(*a), PlaceOf(*b)));
   });
   std::rotate(stops.begin(), first, stops.end());
@@ -117,7 +145,7 @@ void ExpectReadingOrder(const std::vector<QWidget*>& stops) {
     if (i == 0) continue;
     const QWidget& before = sameFrame ? *stops[i - 1] : FrameOf(*stops[i - 1]);
     const QWidget& after = sameFrame ? *stops[i] : frame;
-    EXPECT_FALSE(IsReadBefore(PlaceOf(after), PlaceOf(before)))
+    EXPECT_FALSE(IsFrameReadBefore(after, before))
         << stops[i]->objectName().toStdString() << " stands before "
         << stops[i - 1]->objectName().toStdString();
   }
@@ -286,7 +314,9 @@ QSize NeededBy(const QWidget& widget) {
     const int caption = button->fontMetrics().size(Qt::TextShowMnemonic, button->text()).width();
     return {caption + kSides, button->sizeHint().height()};
   }
-  if (qobject_cast<const QLineEdit*>(&widget) != nullptr) return widget.minimumSizeHint();
+  const bool shrinks = qobject_cast<const QLineEdit*>(&widget) != nullptr ||
+                       qobject_cast<const RibbonButton*>(&widget) != nullptr;
+  if (shrinks) return widget.minimumSizeHint();
   return widget.sizeHint();
 }
 

@@ -30,9 +30,9 @@ constexpr std::array kExpected{
     Expected{Tool::StrainIndex, "si", "SI", "Strain Index", "Strain Index", "Strain Index2.htm",
              true},
     Expected{Tool::Reba, "reba", "REBA", "Rapid Entire Body Assessment",
-             "Rapid Entire Body Assessment", "REBA (Rapid Entire Body Assessment)2.htm", false},
+             "Rapid Entire Body Assessment", "REBA (Rapid Entire Body Assessment)2.htm", true},
     Expected{Tool::Rula, "rula", "RULA", "Rapid Upper Limb Assessment",
-             "Repetitive Upper Limb Assessment", "RULA (Rapid Upper Limb Assessment)2.htm", false},
+             "Repetitive Upper Limb Assessment", "RULA (Rapid Upper Limb Assessment)2.htm", true},
     Expected{Tool::Hal, "hal", "", "", "ACGIH: Hand Activity Level",
              "ACGIH Hand Activity Level2.htm", false},
 };
@@ -72,6 +72,34 @@ TEST(ToolTable, StrainIndexReportOfASavedHandThatIsNoneFails) {
   RichText pane;
   EXPECT_EQ(FailureOf([&] { RowOf(Tool::StrainIndex).writeReport(pane); }), "SubscriptOutOfRange");
   EXPECT_EQ(pane.text(), "");
+}
+
+TEST(ToolTable, RebaReportLoadsTheFormFirst) {
+  Module1 = JobState{};
+  RichText pane;
+  EXPECT_TRUE(RowOf(Tool::Reba).writeReport(pane));
+  EXPECT_NE(pane.text().find("REBA Grand Score: 1\r\n"), std::string::npos);
+  EXPECT_EQ(Module1.JobDirty, kTrue);
+  EXPECT_EQ(Module1.RebaControlState.at(15), 1);
+  EXPECT_EQ(Module1.RebaGrandScore, 1);
+}
+
+TEST(ToolTable, RebaReportOfASavedControlThatIsNoneFails) {
+  Module1 = JobState{};
+  Module1.RebaControlState.at(12) = 6;
+  RichText pane;
+  EXPECT_EQ(FailureOf([&] { RowOf(Tool::Reba).writeReport(pane); }), "SubscriptOutOfRange");
+  EXPECT_EQ(pane.text(), "");
+}
+
+TEST(ToolTable, RebaGivesItsWorkingValues) {
+  Module1 = JobState{};
+  RichText pane;
+  RowOf(Tool::Reba).writeReport(pane);
+  const std::vector<WorkingValue> values = RowOf(Tool::Reba).workingValues();
+  ASSERT_EQ(values.size(), 23U);
+  EXPECT_EQ(values.back().name, "RebaGrandScore");
+  EXPECT_EQ(values.back().value, WorkingValue({"", Integer{1}}).value);
 }
 
 TEST(ToolTable, StrainIndexGivesItsWorkingValuesByName) {

@@ -1,0 +1,284 @@
+#include "tools/reba/reba_controls.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/job_state.h"
+#include "tests/core/test_support.h"
+
+namespace halvane {
+namespace {
+
+constexpr std::array kRegions{
+    RebaRegion::UpperArms, RebaRegion::LowerArms, RebaRegion::Wrist,
+    RebaRegion::Neck,      RebaRegion::Trunk,     RebaRegion::Legs,
+    RebaRegion::Force,     RebaRegion::Coupling,  RebaRegion::MuscleUse,
+};
+
+struct RibbonRow {
+  std::string_view caption, toolTip, picture;
+  Integer factor, state;
+};
+
+struct CheckRow {
+  std::string_view objectName, caption;
+  Integer value;
+  int stateEntry;
+};
+
+struct FrameRow {
+  RebaRegion region;
+  std::string_view caption, ribbonName;
+  std::vector<RibbonRow> ribbons;
+  std::vector<CheckRow> checks;
+};
+
+std::vector<FrameRow> Frames() {
+  using enum RebaRegion;
+  // clang-format off
+  return {
+    {UpperArms, "Upper Arms", "SSRibbon1",
+     {{"-20 to 20",     "Upper arm between -20 and +20 deg. (Neutral)", "reba/ssribbon1_0", 1, 0},
+      {"<-20         ", "Upper arm less than -20 deg. (extension)",     "reba/ssribbon1_1", 2, 1},
+      {"21 to 45 ",     "Upper arm between 21 and 45 deg. (Flexion)",   "reba/ssribbon1_2", 2, 2},
+      {"46 to 90 ",     "Upper arm between 46 and 90 deg.  (Flexion)",  "reba/ssribbon1_3", 3, 3},
+      {">+90       ",   "Upper arm greater than 90 deg. (Flexion)",     "reba/ssribbon1_4", 4, 4}},
+     {{"SSCheck1(0)", "Shoulder is raised",     1, 1},
+      {"SSCheck1(1)", "Upper arm is abducted",  1, 2},
+      {"SSCheck1(2)", "Arm is supported",      -1, 3}}},
+    {LowerArms, "Lower Arms", "SSRibbon2",
+     {{"60-100",  "Lower arms between 60 to 100 deg. (Neutral)", "reba/ssribbon2_0", 1, 0},
+      {"> 100",   "Lower arms greater than 100 deg. (Flexion)",  "reba/ssribbon2_1", 2, 1},
+      {"0 to 60", "Lower arm 0 to 60 deg. (Extension)",          "reba/ssribbon2_2", 2, 2}},
+     {}},
+    {Wrist, "Wrist", "SSRibbon3",
+     {{"Neutral", "Wrist neutral posture",                "reba/ssribbon3_0", 1, 0},
+      {"> 15",    "Wrist greater than 15 deg. flexion",   "reba/ssribbon3_1", 2, 1},
+      {"<-15",    "Wrist less than 15 deg. extension",    "reba/ssribbon3_2", 2, 2},
+      {"Side Bent or Twist", "Ulnar/Radial deviation",    "reba/ssribbon3_3", 1, 1}},
+     {}},
+    {Neck, "Neck", "SSRibbon4",
+     {{"0 to 20",  "Neck between 0 and 10 deg. (neutral)", "reba/ssribbon4_0", 1, 0},
+      {"< -20   ", "Neck extension",                       "reba/ssribbon4_1", 2, 1},
+      {"> 20    ", "Neck greater than 20 deg. flexion",    "reba/ssribbon4_2", 2, 2}},
+     {{"SSCheck2(0)", "Neck is twisting or side bending", 1, 10}}},
+    {Trunk, "Trunk", "SSRibbon5",
+     {{"Neutral",   "Trunk neutral posture",                   "reba/ssribbon5_0", 1, 0},
+      {"0 to 20",   "Trunk between 0 and 20 deg. (Flexion)",   "reba/ssribbon5_1", 2, 1},
+      {"21 to 60",  "Trunk between 21 and 60 deg. (Flexion)",  "reba/ssribbon5_2", 3, 2},
+      {"> 60    ",  "Trunk greater than 60 deg. (Flexion)",    "reba/ssribbon5_3", 4, 3},
+      {"-20 to 0",  "Trunk 0 to -20 deg. (Extension)",         "reba/ssribbon5_4", 2, 4},
+      {"< -20    ", "Trunk less than -20 deg. (Extension)",    "reba/ssribbon5_5", 3, 5}},
+     {{"SSCheck3(0)", "Trunk is twisting or side bending", 1, 13}}},
+    {Legs, "Leg", "SSRibbon6",
+     {{"Stable",   "Bilateral weight bearing, walking or sitting", "reba/ssribbon6_0", 1, 1},
+      {"Unstable", "Unilateral weight bearing, feather weight bearing or an unstable posture",
+       "reba/ssribbon6_1", 2, 2},
+      {"30 to 60", "Knee(s) between 30-60 degree flexion",         "reba/ssribbon6_2", 1, 1},
+      {"> 60",     "Knee(s) >60 degree flexion (not sitting)",     "reba/ssribbon6_3", 2, 2}},
+     {}},
+    {Force, "Force or Load", "", {}, {{"SSCheck4", "Shock/rapid build up of force", 1, 18}}},
+    {Coupling, "Coupling/Grip", "", {}, {}},
+    {MuscleUse, "Muscle Use", "", {},
+     {{"SSCheck5(0)", "Static, eg. held for longer than 1 min",      1, 20},
+      {"SSCheck5(1)", "Repeated more than 4 times/min",              1, 21},
+      {"SSCheck5(2)", "Rapid large posture change or unstable base", 1, 22}}},
+  };
+  // clang-format on
+}
+
+TEST(RebaTables, FramesRibbonsAndBoxesReadAsOnTheForm) {
+  const std::vector<FrameRow> frames = Frames();
+  ASSERT_EQ(frames.size(), kRebaRegionCount);
+  for (const FrameRow& expected : frames) {
+    SCOPED_TRACE(expected.caption);
+    const RebaFrame& frame = RebaFrameOf(expected.region);
+    EXPECT_EQ(frame.caption, expected.caption);
+    EXPECT_EQ(frame.ribbonName, expected.ribbonName);
+    ASSERT_EQ(frame.ribbons.size(), expected.ribbons.size());
+    for (std::size_t i = 0; i < expected.ribbons.size(); ++i) {
+      EXPECT_EQ(frame.ribbons[i].caption, expected.ribbons[i].caption);
+      EXPECT_EQ(frame.ribbons[i].toolTip, expected.ribbons[i].toolTip);
+      EXPECT_EQ(frame.ribbons[i].picture, expected.ribbons[i].picture);
+      EXPECT_EQ(frame.ribbons[i].factor, expected.ribbons[i].factor) << i;
+      EXPECT_EQ(frame.ribbons[i].state, expected.ribbons[i].state) << i;
+    }
+    ASSERT_EQ(frame.checks.size(), expected.checks.size());
+    for (std::size_t i = 0; i < expected.checks.size(); ++i) {
+      EXPECT_EQ(frame.checks[i].objectName, expected.checks[i].objectName);
+      EXPECT_EQ(frame.checks[i].caption, expected.checks[i].caption);
+      EXPECT_EQ(frame.checks[i].value, expected.checks[i].value) << i;
+      EXPECT_EQ(frame.checks[i].stateEntry, expected.checks[i].stateEntry) << i;
+    }
+  }
+}
+
+struct GroupRow {
+  RebaRegion region;
+  std::size_t group;
+  int first, count;
+  bool mayBeUp;
+  int stateEntry;
+};
+
+TEST(RebaTables, SideBentRibbonAndKneePairAreTheGroupsThatMayBeUp) {
+  using enum RebaRegion;
+  const std::array<GroupRow, 8> rows{{
+      {UpperArms, 0, 0, 5, false, 0},
+      {LowerArms, 0, 0, 3, false, 4},
+      {Wrist, 0, 0, 3, false, 6},
+      {Wrist, 1, 3, 1, true, 7},
+      {Neck, 0, 0, 3, false, 9},
+      {Trunk, 0, 0, 6, false, 12},
+      {Legs, 0, 0, 2, false, 15},
+      {Legs, 1, 2, 2, true, 16},
+  }};
+  std::size_t groups = 0;
+  for (const RebaRegion region : kRegions) groups += RebaFrameOf(region).groups.size();
+  ASSERT_EQ(groups, rows.size());
+  for (const GroupRow& row : rows) {
+    SCOPED_TRACE(RebaFrameOf(row.region).caption);
+    ASSERT_GT(RebaFrameOf(row.region).groups.size(), row.group);
+    const RebaRibbonGroup& group = RebaFrameOf(row.region).groups[row.group];
+    EXPECT_EQ(group.first, row.first);
+    EXPECT_EQ(group.count, row.count);
+    EXPECT_EQ(group.mayBeUp, row.mayBeUp);
+    EXPECT_EQ(group.stateEntry, row.stateEntry);
+  }
+}
+
+TEST(RebaTables, LoadListAndCouplings) {
+  EXPECT_EQ(kRebaLoads, (std::array<std::string_view, 3>{"<5 kg  ", "5-10 kg", ">10 kg "}));
+  EXPECT_EQ(kRebaLoadToolTip, "Force or external load level");
+  const std::array<std::array<std::string_view, 2>, 4> couplings{{
+      {"Good       ", "Well-fitting handle and a mid-range, power grip"},
+      {"Fair       ",
+       "Hand hold acceptable but not ideal or coupling is acceptable via another part of the body"},
+      {"Poor        ", "Hand hold not acceptable although possible"},
+      {"Unacceptable", "Awkward, unsafe grip, no handle"},
+  }};
+  ASSERT_EQ(kRebaCouplings.size(), couplings.size());
+  for (std::size_t i = 0; i < couplings.size(); ++i) {
+    EXPECT_EQ(kRebaCouplings[i].caption, couplings[i][0]);
+    EXPECT_EQ(kRebaCouplings[i].toolTip, couplings[i][1]);
+  }
+}
+
+class RebaForm : public testing::Test {
+ protected:
+  void SetUp() override { Module1 = JobState{}; }
+  /// Which ribbons of a frame are down, "x" a ribbon.
+  std::string DownIn(RebaRegion region) const {
+    std::string down;
+    for (std::size_t i = 0; i < RebaFrameOf(region).ribbons.size(); ++i) {
+      down += controls_.IsDown(region, static_cast<int>(i)) ? 'x' : '.';
+    }
+    return down;
+  }
+
+  RebaControls controls_;
+};
+
+TEST_F(RebaForm, DesignStateHasNothingChosenDownOrChecked) {
+  controls_.Load();
+  for (const RebaRegion region : kRegions) {
+    for (std::size_t i = 0; i < RebaFrameOf(region).checks.size(); ++i) {
+      controls_.SetCheck(region, static_cast<int>(i), true);
+    }
+  }
+  controls_.Reset();
+  EXPECT_EQ(controls_.hand(), RebaControls::kNothingChosen);
+  EXPECT_EQ(controls_.loadLevel(), RebaControls::kNothingChosen);
+  EXPECT_EQ(controls_.coupling(), RebaControls::kNothingChosen);
+  for (const RebaRegion region : kRegions) {
+    EXPECT_EQ(DownIn(region), std::string(RebaFrameOf(region).ribbons.size(), '.'));
+    for (std::size_t i = 0; i < RebaFrameOf(region).checks.size(); ++i) {
+      EXPECT_FALSE(controls_.IsChecked(region, static_cast<int>(i)));
+    }
+  }
+}
+
+TEST_F(RebaForm, OneRibbonOfAFrameIsDownAtAllTimes) {
+  using enum RebaRegion;
+  controls_.Load();
+  for (const RebaRegion region : {UpperArms, LowerArms, Neck, Trunk}) {
+    for (std::size_t i = 0; i < RebaFrameOf(region).ribbons.size(); ++i) {
+      SCOPED_TRACE(RebaFrameOf(region).caption);
+      std::string down(RebaFrameOf(region).ribbons.size(), '.');
+      down[i] = 'x';
+      controls_.ClickRibbon(region, static_cast<int>(i));
+      EXPECT_EQ(DownIn(region), down);
+      controls_.ClickRibbon(region, static_cast<int>(i));
+      EXPECT_EQ(DownIn(region), down) << "clicked again";
+    }
+  }
+}
+
+struct ClickRow {
+  std::string_view label;
+  RebaRegion region;
+  std::vector<int> clicks;
+  std::string_view down;
+};
+
+TEST_F(RebaForm, RibbonsThatMayBeUpAreReleasedByAClick) {
+  using enum RebaRegion;
+  const std::vector<ClickRow> rows{
+      {"wrist at load", Wrist, {}, "x..."},
+      {"side bent", Wrist, {3}, "x..x"},
+      {"side bent stays with another posture", Wrist, {3, 2}, "..xx"},
+      {"side bent released", Wrist, {3, 3}, "x..."},
+      {"wrist posture is not released", Wrist, {1, 1}, ".x.."},
+      {"legs at load", Legs, {}, "x..."},
+      {"unstable", Legs, {1}, ".x.."},
+      {"stability is not released", Legs, {1, 1}, ".x.."},
+      {"first knee", Legs, {2}, "x.x."},
+      {"second knee", Legs, {3}, "x..x"},
+      {"second knee after the first", Legs, {2, 3}, "x..x"},
+      {"first knee after the second", Legs, {3, 2}, "x.x."},
+      {"first knee released", Legs, {2, 2}, "x..."},
+      {"second knee released", Legs, {3, 3}, "x..."},
+      {"unstable keeps the knee", Legs, {2, 1}, ".xx."},
+  };
+  for (const ClickRow& row : rows) {
+    SetUp();
+    controls_.Reset();
+    controls_.Load();
+    for (const int index : row.clicks) controls_.ClickRibbon(row.region, index);
+    EXPECT_EQ(DownIn(row.region), row.down) << row.label;
+  }
+}
+
+TEST_F(RebaForm, IndexThatNamesNoControlFailsAndChangesNothing) {
+  for (const RebaRegion region : kRegions) {
+    const RebaFrame& frame = RebaFrameOf(region);
+    SCOPED_TRACE(frame.caption);
+    for (const int index : {-1, static_cast<int>(frame.ribbons.size()), 100}) {
+      EXPECT_EQ(FailureOf([&] { controls_.PressRibbon(region, index); }), "SubscriptOutOfRange");
+      EXPECT_EQ(FailureOf([&] { controls_.ClickRibbon(region, index); }), "SubscriptOutOfRange");
+      EXPECT_EQ(FailureOf([&] { (void)controls_.IsDown(region, index); }), "SubscriptOutOfRange");
+    }
+    for (const int index : {-1, static_cast<int>(frame.checks.size()), 100}) {
+      EXPECT_EQ(FailureOf([&] { controls_.SetCheck(region, index, true); }), "SubscriptOutOfRange");
+      EXPECT_EQ(FailureOf([&] { (void)controls_.IsChecked(region, index); }),
+                "SubscriptOutOfRange");
+    }
+  }
+  for (const int index : {-1, 2}) {
+    EXPECT_EQ(FailureOf([&] { controls_.ChooseHand(index); }), "SubscriptOutOfRange");
+  }
+  for (const int index : {-1, 3}) {
+    EXPECT_EQ(FailureOf([&] { controls_.PickLoad(index); }), "SubscriptOutOfRange");
+  }
+  for (const int index : {-1, 4}) {
+    EXPECT_EQ(FailureOf([&] { controls_.ChooseCoupling(index); }), "SubscriptOutOfRange");
+  }
+  EXPECT_EQ(Module1, JobState{});
+}
+
+}  // namespace
+}  // namespace halvane
