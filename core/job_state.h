@@ -91,8 +91,8 @@ struct JobState {
   // Hand Activity Level.
   TaggedField HalExertionFrequency = Integer{0};  ///< exertions a minute
   TaggedField HalDutyCycle = Integer{0};          ///< per cent of the cycle time
-  TaggedField HalForceRating = Integer{0};
-  TaggedField HalActivityLevel = Integer{0};  ///< 0 to 10
+  TaggedField HalForceRating = Integer{0};        ///< 0 to 10; no control asks for it
+  TaggedField HalActivityLevel = Integer{0};      ///< 0 to 10
 
   // Working values: neither saved nor reset by `JobReset`; they live as long as the program runs.
 
@@ -190,6 +190,11 @@ struct JobState {
   FixedArray<Integer, 3> RebaTrunkFactors;
   FixedArray<Integer, 2> RebaLegFactors;
   FixedArray<Integer, 2> RebaForceFactors;
+
+  // Hand Activity Level.
+  Integer HalForceMode =
+      kFalse;  ///< -1 limits of the level, 0 of the force; 0 until the form loads
+  FixedArray<double, 2> HalLimits;  ///< 0 Threshold Limit Value, 1 Action Level; of the last one
 
   bool operator==(const JobState&) const = default;
 

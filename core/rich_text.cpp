@@ -1,8 +1,31 @@
 #include "core/rich_text.h"
 
+#include <algorithm>
+#include <limits>
+
 #include "core/checked_array.h"
+#include "core/job_text_encoding.h"
 
 namespace halvane {
+namespace {
+
+/// Characters `first` to `end` - 1 of a text.
+struct Span {
+  std::size_t first;
+  std::size_t end;
+
+  [[nodiscard]] bool Overlaps(Span other) const {
+    return std::max(first, other.first) < std::min(end, other.end);
+  }
+};
+
+/// How many bytes of `text`, whose first character has the number `first`, stand before the
+/// character with the number `at`.
+std::size_t BytesBefore(std::string_view text, std::size_t first, std::size_t at) {
+  return at <= first ? 0 : FirstCharacters(text, at - first).size();
+}
+
+}  // namespace
 
 RichText::RichText() { Clear(); }
 
@@ -28,17 +51,22 @@ void RichText::Append(std::string_view text) {
   }
 }
 
+void RichText::AppendText(std::vector<Run>& runs, std::string_view text, CharacterFormat format) {
+  if (text.empty()) return;
+  const bool continuesRun =
+      !runs.empty() && runs.back().picture.empty() && runs.back().format == format;
+  if (continuesRun) {
+    runs.back().text += text;
+  } else {
+    runs.push_back({std::string(text), format, {}});
+  }
+}
+
 void RichText::AppendToLine(std::string_view text) {
   if (text.empty()) return;
   Paragraph& paragraph = paragraphs_.back();
   paragraph.format = inForce_;
-  const bool continuesRun = !paragraph.runs.empty() && paragraph.runs.back().picture.empty() &&
-                            paragraph.runs.back().format == font_;
-  if (continuesRun) {
-    paragraph.runs.back().text += text;
-  } else {
-    paragraph.runs.push_back({std::string(text), font_, {}});
-  }
+  AppendText(paragraph.runs, text, font_);
 }
 
 void RichText::EndParagraph(std::string_view lineEnd) {
@@ -51,6 +79,40 @@ void RichText::AppendPicture(std::string_view assetName) {
   paragraph.format = inForce_;
   paragraph.runs.push_back({std::string(kPictureCharacter), font_, std::string(assetName)});
 }
+
+void RichText::FormatSelection(std::size_t start, std::size_t length, CharacterFormat format,
+                               Alignment alignment) {
+  const std::size_t most = std::numeric_limits<std::size_t>::max() - start;
+  const Span selection{start, start + std::min(length, most)};
+  std::size_t position = 0;
+  for (Paragraph& paragraph : paragraphs_) {
+    const std::size_t first = position;
+    std::vector<Run> runs;
+    for (Run& run : paragraph.runs) {
+      const Span place{position, position + CharacterCount(run.text)};
+      position = place.end;
+      const bool covered = selection.Overlaps(place);
+      if (covered && run.picture.empty()) {
+        const std::string_view text = run.text;
+        const std::size_t from = BytesBefore(text, place.first, selection.first);
+        const std::size_t to = BytesBefore(text, place.first, selection.end);
+        AppendText(runs, text.substr(0, from), run.format);
+        AppendText(runs, text.substr(from, to - from), format);
+        AppendText(runs, text.substr(to), run.format);
+      } else if (run.picture.empty()) {
+        AppendText(runs, run.text, run.format);
+      } else {
+        if (covered) run.format = format;
+        runs.push_back(std::move(run));
+      }
+    }
+    paragraph.runs = std::move(runs);
+    position += paragraph.lineEnd.size();
+    if (selection.Overlaps({first, position})) paragraph.format.alignment = alignment;
+  }
+}
+
+std::size_t RichText::length() const { return CharacterCount(text()); }
 
 std::string RichText::text() const {
   std::string text;

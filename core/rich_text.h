@@ -86,6 +86,14 @@ class RichText {
   /// Appends a picture as one character.
   void AppendPicture(std::string_view assetName);
 
+  /// How many characters the text has: each of CR and LF is one, a picture is one.
+  [[nodiscard]] std::size_t length() const;
+  /// Formats what stands in `length` characters from `start` on, counted as `length()` counts them:
+  /// the look of each character, and the alignment of each paragraph of which one is covered, line
+  /// end included. What lies beyond the end of the text is left out. The format in force stays.
+  void FormatSelection(std::size_t start, std::size_t length, CharacterFormat format,
+                       Alignment alignment);
+
   [[nodiscard]] const std::vector<Paragraph>& paragraphs() const { return paragraphs_; }
   /// The exact text, line ends and tabs as written.
   [[nodiscard]] std::string text() const;
@@ -93,6 +101,7 @@ class RichText {
   [[nodiscard]] std::vector<std::string> pictures() const;
 
  private:
+  static void AppendText(std::vector<Run>& runs, std::string_view text, CharacterFormat format);
   void AppendToLine(std::string_view text);
   void EndParagraph(std::string_view lineEnd);
 

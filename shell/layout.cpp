@@ -5,6 +5,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QMouseEvent>
+#include <QSlider>
 
 #include "shell/controls/text_box.h"
 
@@ -59,11 +60,16 @@ TextBox* AddNumberAt(QGridLayout& grid, int row, int column, const QString& labe
   return box;
 }
 
-TextBox* AddNumberWithUnit(QGridLayout& grid, const QString& boxName, const QString& name,
-                           const QString& unit) {
-  auto* box = new TextBox(boxName, grid.parentWidget());
+TextBox* MakeNumberBox(const QString& boxName, const QString& name, QWidget* parent) {
+  auto* box = new TextBox(boxName, parent);
   box->setAccessibleName(name);
   box->setFixedWidth(box->fontMetrics().horizontalAdvance('0') * (kNumberDigits + 2));
+  return box;
+}
+
+TextBox* AddNumberWithUnit(QGridLayout& grid, const QString& boxName, const QString& name,
+                           const QString& unit) {
+  TextBox* box = MakeNumberBox(boxName, name, grid.parentWidget());
   const int row = grid.rowCount();
   grid.addWidget(box, row, 0);
   grid.addWidget(new QLabel(unit, grid.parentWidget()), row, 1);
@@ -81,6 +87,27 @@ QCheckBox* AddWrappedCheck(QGridLayout& grid, const QString& boxName, const QStr
   grid.addWidget(text, row, 1);
   grid.setColumnStretch(1, 1);
   return box;
+}
+
+void SetUpSlider(QSlider& slider, const QString& name, int highest, int pageStep) {
+  slider.setObjectName(name);
+  slider.setOrientation(Qt::Horizontal);
+  slider.setRange(0, highest);
+  slider.setSingleStep(1);
+  slider.setPageStep(pageStep);
+  slider.setTickPosition(QSlider::TicksBelow);
+  slider.setTickInterval(highest / 10);
+}
+
+QLabel* MakeReadout(const QString& widest, QWidget* parent) {
+  auto* readout = new QLabel(parent);
+  QFont large = readout->font();
+  large.setPointSizeF(large.pointSizeF() * 1.8);
+  large.setBold(true);
+  readout->setFont(large);
+  readout->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  readout->setMinimumWidth(readout->fontMetrics().horizontalAdvance(widest) + kGap);
+  return readout;
 }
 
 QString ScreenText(std::string_view text) {

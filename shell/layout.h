@@ -6,6 +6,8 @@
 class QGroupBox;
 class QCheckBox;
 class QGridLayout;
+class QLabel;
+class QSlider;
 class QWidget;
 
 namespace halvane {
@@ -32,12 +34,21 @@ TextBox* AddNumberRow(QGridLayout& grid, const QString& label, const QString& bo
 TextBox* AddNumberAt(QGridLayout& grid, int row, int column, const QString& label,
                      const QString& boxName);
 
-/// Adds a box for a number with its unit behind it; `name` is its accessible name.
+/// A box for a number that has no label; `name` is its accessible name.
+TextBox* MakeNumberBox(const QString& boxName, const QString& name, QWidget* parent);
+/// Adds such a box with its unit behind it.
 TextBox* AddNumberWithUnit(QGridLayout& grid, const QString& boxName, const QString& name,
                            const QString& unit);
 
 /// Adds a tick box whose long caption wraps beside it.
 QCheckBox* AddWrappedCheck(QGridLayout& grid, const QString& boxName, const QString& caption);
+
+/// Makes `slider` a level one from 0 to `highest`, a tick at each tenth of it; an arrow key moves
+/// it by 1, a page key or a click beside its handle by `pageStep`.
+void SetUpSlider(QSlider& slider, const QString& name, int highest, int pageStep);
+
+/// A number that is read and not typed, large; with room for `widest`.
+QLabel* MakeReadout(const QString& widest, QWidget* parent);
 
 /// The program's own texts for the screen.
 QString ScreenText(std::string_view text);

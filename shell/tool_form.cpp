@@ -149,6 +149,10 @@ void ToolForm::mnuEditSelect_Click() {
 
 void ToolForm::mnuEditCopy_Click() {
   pane_->setFocus();
+  CopySelection();
+}
+
+void ToolForm::CopySelection() {
   ThePlatform().ClearClipboard();
   // With no selection the clipboard ends empty, which is wanted.
   const QString selected = pane_->SelectedText();

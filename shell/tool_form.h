@@ -17,8 +17,8 @@ class HandFrame;
 class RichTextBox;
 
 /// What all six tools share: window, menus, file and report commands, identification strip, report
-/// pane. A tool says what differs through the four functions at the end. It keeps no data of the
-/// job.
+/// pane. A tool says what differs through the functions at the end; the Edit commands may differ
+/// too. It keeps no data of the job.
 class ToolForm : public QDialog {
   Q_OBJECT
  public:
@@ -42,8 +42,8 @@ class ToolForm : public QDialog {
   void mnuPrint_Click();
   void mnuFilePrintSetup_Click();
   void mnuFileExit_Click();
-  void mnuEditSelect_Click();
-  void mnuEditCopy_Click();
+  virtual void mnuEditSelect_Click();
+  virtual void mnuEditCopy_Click();
   void mnuHelpAbout_Click();
 
  protected:
@@ -52,6 +52,8 @@ class ToolForm : public QDialog {
 
   /// Computes, writes the report and shows it. Throws what the tool's computation throws.
   void ShowReport();
+  /// Puts what is selected in the report pane on the clipboard and nothing else there.
+  void CopySelection();
 
   // Makes the identification strip and the Hand frame. The tool calls them where these stand in
   // reading order, since that is the order of the Tab key.

@@ -2,6 +2,7 @@
 
 #include "shell/tool_form.h"
 #include "tools/ctd/frm_ctd.h"
+#include "tools/hal/frm_hal.h"
 #include "tools/ocra/frm_ocra.h"
 #include "tools/reba/frm_reba.h"
 #include "tools/rula/frm_rula.h"
@@ -16,7 +17,7 @@ std::unique_ptr<ToolForm> MakeToolForm(Tool tool, QWidget* parent) {
     case Tool::StrainIndex: return std::make_unique<FrmSI>(parent);
     case Tool::Reba: return std::make_unique<FrmREBA>(parent);
     case Tool::Rula: return std::make_unique<FrmRULA>(parent);
-    case Tool::Hal: return nullptr;
+    case Tool::Hal: return std::make_unique<FrmHAL>(parent);
   }
   return nullptr;
 }

@@ -6,6 +6,8 @@
 #include "tools/ctd/ctd_controls.h"
 #include "tools/ctd/ctd_report.h"
 #include "tools/ctd/ctd_score.h"
+#include "tools/hal/hal_controls.h"
+#include "tools/hal/hal_score.h"
 #include "tools/ocra/ocra_controls.h"
 #include "tools/ocra/ocra_report.h"
 #include "tools/ocra/ocra_score.h"
@@ -63,6 +65,12 @@ bool WriteRulaReport(RichText& RichTextBox1) {
   return true;
 }
 
+bool WriteHalReport(RichText& RichTextBox1) {
+  HalLoad();
+  HAL_Calculate(RichTextBox1);
+  return true;
+}
+
 constexpr std::array kTools{
     ToolRow{Tool::Ocra, "ocra", "OCRA", "Occupational Repetitive Actions Index",
             "Occupational Repetitive Actions Index",
@@ -81,7 +89,7 @@ constexpr std::array kTools{
             "Repetitive Upper Limb Assessment", "RULA (Rapid Upper Limb Assessment)2.htm",
             WriteRulaReport, RulaWorkingValues},
     ToolRow{Tool::Hal, "hal", "", "", "ACGIH: Hand Activity Level",
-            "ACGIH Hand Activity Level2.htm", nullptr, nullptr},
+            "ACGIH Hand Activity Level2.htm", WriteHalReport, HalWorkingValues},
 };
 
 }  // namespace

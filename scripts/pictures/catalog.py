@@ -6,7 +6,7 @@ of buttons differ at a glance. Angles are those of `postures.py` and `hand.py`, 
 where "{}" stands in a title.
 """
 
-from pictures import charts, grip, hand
+from pictures import charts, grip, hand, scales
 from pictures.figure import BENDING, BUST, LEGS, MIDDLE_FRONT, UPPER_FRONT, UPPER_SIDE, WAIST_SIDE
 from pictures.postures import (
     front_arm,
@@ -133,10 +133,14 @@ STRAIN_INDEX = [
     ("strain_index/risk_chart", charts.strain_index_risk, (), "Strain Index score and risk"),
 ]
 
+HAL = [
+    ("hal/force_scale", scales.hal_force, (), "Borg Scale"),
+]
+
 
 def pictures():
     """Yields (asset name, document) of every picture."""
-    for asset, kind, arguments, title in [*CTD, *OCRA, *STRAIN_INDEX, *RULA, *REBA]:
+    for asset, kind, arguments, title in [*CTD, *OCRA, *STRAIN_INDEX, *RULA, *REBA, *HAL]:
         if "{side}" in asset:
             for side in ("right", "left"):
                 drawing = kind(f"{title}, {side}", *arguments, mirrored=side == "left")

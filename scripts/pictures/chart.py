@@ -1,4 +1,4 @@
-"""Ground of the pictures that end a report: black on white paper, with words, made for printing."""
+"""Ground of the pictures with words: black on white paper, as they print."""
 
 from pictures.svg import Drawing, number
 
@@ -13,14 +13,18 @@ PALE_YELLOW, ORANGE = "#ece39c", "#f3c58a"
 
 
 class Chart(Drawing):
-    """A drawing on white with boxes, lines and words; `description` says in words what it shows."""
+    """A drawing on white with boxes, lines and words; `description` says in words what it shows.
 
-    def __init__(self, title, description, width, height):
+    Without a heading the title stands in the document only, for a picture in a frame that has it.
+    """
+
+    def __init__(self, title, description, width, height, heading=True):
         super().__init__(title, width, height)
         self.raw(f"<desc>{description}</desc>")
         self.box(0, 0, width, height, "#ffffff", None)
         self.raw(f'<g font-family="sans-serif" fill="{INK}">')
-        self.words(width / 2, 25, title, 16, bold=True)
+        if heading:
+            self.words(width / 2, 25, title, 16, bold=True)
 
     def contents(self):
         return [*super().contents(), "</g>"]

@@ -28,8 +28,8 @@ QStringList PosturePictures() {
   QStringList names = FilesBelow(SourceFile("assets"), ".svg");
   names.replaceInStrings(".svg", "");
   names.removeIf([](const QString& name) {
-    return name.startsWith("ocra/") || name.startsWith("strain_index/") || name == "ctd/report" ||
-           name == "ctd/task";
+    return name.startsWith("ocra/") || name.startsWith("strain_index/") ||
+           name.startsWith("hal/") || name == "ctd/report" || name == "ctd/task";
   });
   return names;
 }

@@ -116,6 +116,8 @@ void FillJob() {
   Module1.RebaTrunkFactors.fill(1);
   Module1.RebaLegFactors.fill(1);
   Module1.RebaForceFactors.fill(1);
+  Module1.HalForceMode = kTrue;
+  Module1.HalLimits.fill(1.5);
 }
 
 TEST(JobState, FreshProgramHasTheDefaults) {
@@ -195,6 +197,8 @@ TEST(JobState, ResetGivesTheEmptyJobAndLeavesTheRest) {
   expected.RebaTrunkFactors.fill(1);
   expected.RebaLegFactors.fill(1);
   expected.RebaForceFactors.fill(1);
+  expected.HalForceMode = kTrue;
+  expected.HalLimits.fill(1.5);
   JobReset();
   EXPECT_EQ(Module1, expected);
 }

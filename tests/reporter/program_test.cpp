@@ -74,6 +74,18 @@ TEST(ReportProgram, JobWithoutATaskHasNoCtdReportAndIsNoFailure) {
   EXPECT_EQ(text.output, "The job has no task, so the tool has no report on it.\n");
 }
 
+TEST(ReportProgram, HandActivityLevelHasNoButtonButItsReport) {
+  const ProgramRun text = RunReport({"--tool", "hal", "board-assembly.qjt", "packing-line.qjt"});
+  EXPECT_EQ(text.status, 0);
+  EXPECT_EQ(text.error, "");
+  EXPECT_EQ(text.output, Expected("hal.txt"));
+  const ProgramRun json = RunReport({"--tool", "hal", "--format", "json", "packing-line.qjt"});
+  const std::vector<Json> lines = ParsedLines(json.output);
+  ASSERT_EQ(lines.size(), 1U);
+  EXPECT_EQ(lines[0]["results"],
+            (Json{{"HalForceMode", -1}, {"HalLimits", {4.0, 2.6666666666666665}}}));
+}
+
 TEST(ReportProgram, UnitsChangeWhatTheHandSpanMeans) {
   const std::vector<std::pair<std::string, double>> rows{{"metric", 7.007437825263731},
                                                          {"english", 4.708760899804947}};
@@ -229,20 +241,6 @@ TEST(ReportProgram, WrongUseIsStatus2) {
                              "\nRun \"halvane-report --help\" for the options.\n")
         << row.label;
   }
-}
-
-TEST(ReportProgram, ToolThatIsNotBuiltIsStatus2) {
-  std::string key;
-  for (const ToolRow& row : Tools()) {
-    if (!row.isBuilt()) key = row.key;
-  }
-  if (key.empty()) GTEST_SKIP() << "all tools are built";
-  const ProgramRun run = RunReport({"--tool", key, "packing-line.qjt"});
-  EXPECT_EQ(run.status, 2);
-  EXPECT_EQ(run.output, "");
-  EXPECT_TRUE(
-      run.error.starts_with("halvane-report: --tool: the tool \"" + key + "\" is not built yet\n"))
-      << run.error;
 }
 
 TEST(ReportProgram, OutputThatTakesNoMoreIsStatus1) {

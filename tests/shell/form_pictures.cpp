@@ -53,6 +53,10 @@ void DrawTool(halvane::Tool tool, const QString& folder) {
   if (qEnvironmentVariableIsSet("HALVANE_LEAST")) form->resize(form->minimumSize());
   form->show();
   auto* tabs = form->findChild<QTabWidget*>("SSTab1");
+  if (tabs == nullptr) {
+    Draw(*form, QString("%1/%2.png").arg(folder, form->objectName()));
+    return;
+  }
   for (int tab = 0; tab < tabs->count(); ++tab) {
     tabs->setCurrentIndex(tab);
     const QString name = QString("%1/%2-%3").arg(folder, form->objectName()).arg(tab);

@@ -2,6 +2,10 @@
 
 #include <QApplication>
 #include <QMenu>
+#include <QMouseEvent>
+#include <QSlider>
+#include <QStyle>
+#include <QStyleOptionSlider>
 #include <QTest>
 #include <utility>
 
@@ -53,6 +57,24 @@ void ShowActive(QWidget& window) {
   window.show();
   window.activateWindow();
   ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+}
+
+QRect HandleOf(const QSlider& slider) {
+  QStyleOptionSlider option;
+  option.initFrom(&slider);
+  option.orientation = slider.orientation();
+  option.minimum = slider.minimum();
+  option.maximum = slider.maximum();
+  option.sliderPosition = slider.sliderPosition();
+  option.tickPosition = slider.tickPosition();
+  return slider.style()->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle,
+                                        &slider);
+}
+
+void MoveMouse(QWidget& widget, QPoint to, Qt::MouseButtons buttons) {
+  QMouseEvent move(QEvent::MouseMove, to, widget.mapToGlobal(to), Qt::NoButton, buttons,
+                   Qt::NoModifier);
+  QCoreApplication::sendEvent(&widget, &move);
 }
 
 QStringList TextsOf(const QMenu& menu) {

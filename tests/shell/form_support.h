@@ -21,6 +21,8 @@
 void PrintTo(const QString& text, std::ostream* stream);
 void PrintTo(const QStringList& texts, std::ostream* stream);
 
+class QSlider;
+
 namespace halvane {
 
 class FrmHandMain;
@@ -45,6 +47,11 @@ void Choose(const QObject& form, const QString& item);
 
 /// Shows a window and makes it the active one.
 void ShowActive(QWidget& window);
+
+/// The place of a slider's handle, within the slider.
+QRect HandleOf(const QSlider& slider);
+/// Moves the mouse over a widget with these buttons held.
+void MoveMouse(QWidget& widget, QPoint to, Qt::MouseButtons buttons);
 
 /// The texts of a menu's items in order, "-" for a separator.
 QStringList TextsOf(const QMenu& menu);

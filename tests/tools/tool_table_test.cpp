@@ -34,7 +34,7 @@ constexpr std::array kExpected{
     Expected{Tool::Rula, "rula", "RULA", "Rapid Upper Limb Assessment",
              "Repetitive Upper Limb Assessment", "RULA (Rapid Upper Limb Assessment)2.htm", true},
     Expected{Tool::Hal, "hal", "", "", "ACGIH: Hand Activity Level",
-             "ACGIH Hand Activity Level2.htm", false},
+             "ACGIH Hand Activity Level2.htm", true},
 };
 
 TEST(ToolTable, EachToolHasItsRow) {
@@ -71,6 +71,28 @@ TEST(ToolTable, StrainIndexReportOfASavedHandThatIsNoneFails) {
   Module1.Hand = 2;
   RichText pane;
   EXPECT_EQ(FailureOf([&] { RowOf(Tool::StrainIndex).writeReport(pane); }), "SubscriptOutOfRange");
+  EXPECT_EQ(pane.text(), "");
+}
+
+TEST(ToolTable, HalReportLoadsTheFormFirstAndLeavesTheJobClean) {
+  Module1 = JobState{};
+  Module1.HalActivityLevel = "3.0";
+  RichText pane;
+  EXPECT_TRUE(RowOf(Tool::Hal).writeReport(pane));
+  EXPECT_TRUE(pane.text().ends_with("Action Level: 3.73\r\nThreshold Limit Value: 5.60"));
+  EXPECT_EQ(Module1.HalForceMode, kTrue);
+  EXPECT_EQ(Module1.JobDirty, kFalse);
+  const std::vector<WorkingValue> values = RowOf(Tool::Hal).workingValues();
+  ASSERT_EQ(values.size(), 2U);
+  EXPECT_EQ(values[0].name, "HalForceMode");
+  EXPECT_EQ(values[1].name, "HalLimits");
+}
+
+TEST(ToolTable, HalReportOfASavedHandThatIsNoneFails) {
+  Module1 = JobState{};
+  Module1.Hand = 2;
+  RichText pane;
+  EXPECT_EQ(FailureOf([&] { RowOf(Tool::Hal).writeReport(pane); }), "SubscriptOutOfRange");
   EXPECT_EQ(pane.text(), "");
 }
 

@@ -37,27 +37,12 @@ int CurrentTask() { return ToInteger(Module1.CurrentTask.AsDouble()); }
 
 double NumberIn(const TextBox& box) { return ReadsAs(box.text().toStdString()); }
 
-QSlider* MakeSlider(const QString& name, int pageStep, QWidget* parent) {
-  auto* slider = new QSlider(Qt::Horizontal, parent);
-  slider->setObjectName(name);
-  slider->setRange(0, 10);
-  slider->setSingleStep(1);
-  slider->setPageStep(pageStep);
-  slider->setTickPosition(QSlider::TicksBelow);
-  slider->setTickInterval(1);
-  return slider;
-}
+constexpr int kSliderEnd = 10;
 
-/// The value of a slider, large; with room for `widest`.
-QLabel* MakeReadout(const QString& widest, QWidget* parent) {
-  auto* readout = new QLabel(parent);
-  QFont large = readout->font();
-  large.setPointSizeF(large.pointSizeF() * 1.8);
-  large.setBold(true);
-  readout->setFont(large);
-  readout->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-  readout->setMinimumWidth(readout->fontMetrics().horizontalAdvance(widest) + kGap);
-  return readout;
+QSlider* MakeSlider(const QString& name, int pageStep, QWidget* parent) {
+  auto* slider = new QSlider(parent);
+  SetUpSlider(*slider, name, kSliderEnd, pageStep);
+  return slider;
 }
 
 }  // namespace

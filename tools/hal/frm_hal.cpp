@@ -1,0 +1,254 @@
+#include "tools/hal/frm_hal.h"
+
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QIcon>
+#include <QLabel>
+#include <QMenu>
+#include <QSignalBlocker>
+#include <QStyle>
+#include <QStyleOptionSlider>
+#include <QSvgRenderer>
+#include <QToolTip>
+#include <QVBoxLayout>
+
+#include "core/job_state.h"
+#include "shell/controls/labelled_scale.h"
+#include "shell/controls/mouse_slider.h"
+#include "shell/controls/rich_text_box.h"
+#include "shell/controls/text_box.h"
+#include "shell/hand_frame.h"
+#include "shell/layout.h"
+#include "tools/hal/hal_controls.h"
+#include "tools/hal/hal_score.h"
+
+namespace halvane {
+namespace {
+
+constexpr IdentificationNames kNames{"Text3(0)", "Text3(1)", "Text3(2)", "SSOption5"};
+
+// The indexes of the boxes with numbers.
+constexpr int kFrequencyBox = 0;
+constexpr int kDutyBox = 1;
+
+// Of the width; so the report's longest line fits at the default size.
+constexpr int kInputsShare = 5;
+constexpr int kReportShare = 6;
+constexpr int kLevelPage = 2;
+constexpr int kDutyPage = 5;
+constexpr auto kForceScale = "hal/force_scale";
+constexpr double kNoteScale = 0.9;
+constexpr auto kNote =
+    "Note: TLV do not include the following factors - Sustained non-neutral postures, contact "
+    "stresses, low temperatures and vibration.";
+
+QString NumberText(const TaggedField& field) { return QString::fromStdString(field.AsText()); }
+
+/// The printed scale in words: "0 Nothing At All, 1.0 Very Weak, ...".
+QString ForceScaleInWords() {
+  QStringList marks;
+  for (const HalMark& mark : kHalForceMarks) {
+    if (!mark.words.empty()) marks.append(ScreenText(mark.tick) + " " + ScreenText(mark.words));
+  }
+  return marks.join(", ");
+}
+
+/// Shows `text` over the handle of a slider for a moment.
+void ShowTip(QSlider& slider, const QString& text) {
+  QStyleOptionSlider option;
+  option.initFrom(&slider);
+  option.orientation = slider.orientation();
+  option.minimum = slider.minimum();
+  option.maximum = slider.maximum();
+  option.sliderPosition = slider.sliderPosition();
+  const QRect handle =
+      slider.style()->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle, &slider);
+  QToolTip::showText(slider.mapToGlobal(handle.bottomLeft()), text, &slider);
+}
+
+}  // namespace
+
+FrmHAL::FrmHAL(QWidget* parent) : ToolForm(Tool::Hal, "frmHAL", kNames, parent) {
+  body().addWidget(MakeIdentificationWithHand(this));
+  hand().setObjectName("SSFrame1(8)");
+  auto* row = new QHBoxLayout;
+  row->setSpacing(kGap);
+  row->addWidget(MakeInputs(), kInputsShare);
+  row->addWidget(&RichTextBox1(), kReportShare);
+  body().addLayout(row, 1);
+}
+
+QWidget* FrmHAL::MakeInputs() {
+  auto* inputs = new QWidget(this);
+  auto* column = new QVBoxLayout(inputs);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->setSpacing(kGap);
+  auto* row = new QHBoxLayout;
+  row->setSpacing(kGap);
+  inputFrames_[0] = MakeExertionFrame(inputs);
+  row->addWidget(inputFrames_[0]);
+  inputFrames_[1] = MakeDutyFrame(inputs);
+  row->addWidget(inputFrames_[1], 1);
+  column->addLayout(row);
+  inputFrames_[2] = MakeLevelFrame(inputs);
+  column->addWidget(inputFrames_[2]);
+  column->addWidget(MakeLimitFrame(inputs));
+  column->addStretch(1);
+  return inputs;
+}
+
+QGroupBox* FrmHAL::MakeExertionFrame(QWidget* parent) {
+  const auto [frame, grid] = MakeFrame("Exertion:", parent);
+  frame->setObjectName("SSFrame1(4)");
+  frequency_ = AddNumberWithUnit(*grid, ElementName("Text1", kFrequencyBox), "Exertion Frequency",
+                                 "no. of exertion per min.");
+  frame->findChild<QLabel*>()->setObjectName("Label2(5)");
+  connect(frequency_, &TextBox::keyReleased, this, [this] { Text1_KeyUp(kFrequencyBox); });
+  return frame;
+}
+
+QGroupBox* FrmHAL::MakeDutyFrame(QWidget* parent) {
+  const auto [frame, grid] = MakeFrame("Duty Cycle (% Work Cycle)", parent);
+  frame->setObjectName("SSFrame1(3)");
+  duty_ = MakeNumberBox(ElementName("Text1", kDutyBox), frame->title(), frame);
+  connect(duty_, &TextBox::keyReleased, this, [this] { Text1_KeyUp(kDutyBox); });
+  Slider3_ = new MouseSlider(frame);
+  SetUpSlider(*Slider3_, "Slider3", kHalHighestDuty, kDutyPage);
+  Slider3_->setAccessibleName(frame->title());
+  grid->addWidget(duty_, 0, 0);
+  grid->addWidget(Slider3_, 0, 1);
+  connect(Slider3_, &MouseSlider::mouseHeld, this, &FrmHAL::Slider3_MouseMove);
+  return frame;
+}
+
+QGroupBox* FrmHAL::MakeLevelFrame(QWidget* parent) {
+  const auto [frame, grid] = MakeFrame("Rate The Hand Activity Level:", parent);
+  frame->setObjectName("SSFrame1(2)");
+  grid->setContentsMargins(kGap / 2, kGap / 2, kGap / 2, kGap / 2);
+  Slider1_ = new QSlider(frame);
+  SetUpSlider(*Slider1_, "Slider1", kHalHighestLevel, kLevelPage);
+  Slider1_->setTickPosition(QSlider::TicksAbove);
+  Slider1_->setAccessibleName(frame->title());
+  Slider1_->setToolTip("Hand Activity Level Scale");
+  auto* scale = new LabelledScale(Slider1_, frame);
+  for (int i = 0; const HalMark& mark : kHalLevelMarks) {
+    scale->AddMark(ScreenText(mark.tick), ElementName("Label4", i), ScreenText(mark.words),
+                   ElementName("Label5", i));
+    ++i;
+  }
+  grid->addWidget(scale, 0, 0);
+  connect(Slider1_, &QSlider::valueChanged, this, &FrmHAL::Slider1_Scroll);
+  return frame;
+}
+
+QGroupBox* FrmHAL::MakeLimitFrame(QWidget* parent) {
+  const auto [panel, grid] = MakeFrame("", parent);
+  SSPanel4_ = panel;
+  SSPanel4_->setObjectName("SSPanel4");
+  grid->addWidget(MakeForceScale(panel), 0, 0);
+  auto* row = new QHBoxLayout;
+  limits_[kHalActionLevel] = AddLimit(*row, 0, "Action Level:", 1);
+  row->addStretch(1);
+  limits_[kHalThresholdLimitValue] = AddLimit(*row, 3, "Threshold Limit Value:", 2);
+  grid->addLayout(row, 1, 0);
+  auto* note = new QLabel(kNote, panel);
+  note->setObjectName("Label6");
+  note->setWordWrap(true);
+  QFont font = note->font();
+  font.setPointSizeF(font.pointSizeF() * kNoteScale);
+  note->setFont(font);
+  grid->addWidget(note, 2, 0);
+  return panel;
+}
+
+QLabel* FrmHAL::AddLimit(QBoxLayout& row, int captionIndex, const QString& caption,
+                         int valueIndex) {
+  auto* text = new QLabel(caption, SSPanel4_);
+  text->setObjectName(ElementName("Label7", captionIndex));
+  QLabel* value = MakeReadout("10.00", SSPanel4_);
+  value->setObjectName(ElementName("Label3", valueIndex));
+  value->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+  row.addWidget(text);
+  row.addWidget(value);
+  return value;
+}
+
+QGroupBox* FrmHAL::MakeForceScale(QWidget* parent) {
+  const auto [panel, grid] = MakeFrame("Borg Scale", parent);
+  panel->setObjectName("SSPanel3");
+  auto* picture = new QLabel(panel);
+  const QString path = QString(":/assets/%1.svg").arg(kForceScale);
+  picture->setPixmap(QIcon(path).pixmap(QSvgRenderer(path).defaultSize(), devicePixelRatioF()));
+  picture->setAlignment(Qt::AlignCenter);
+  picture->setAccessibleName(panel->title());
+  picture->setAccessibleDescription(ForceScaleInWords());
+  grid->addWidget(picture, 0, 0);
+  return panel;
+}
+
+void FrmHAL::loadFromJob() {
+  for (QGroupBox* frame : inputFrames_) frame->show();
+  HalLoad();
+  SSPanel4_->setTitle(ScreenText(HalLimitHeading()));
+  hand().ShowHand(Module1.Hand);
+  frequency_->setText(NumberText(Module1.HalExertionFrequency));
+  duty_->setText(NumberText(Module1.HalDutyCycle));
+  ShowDuty();
+  ShowLevel();
+  mnuEdit().setEnabled(true);
+  ShowReport();
+}
+
+void FrmHAL::ShowLevel() {
+  const QSignalBlocker blocker(Slider1_);
+  Slider1_->setValue(HalLevelSlider());
+}
+
+void FrmHAL::ShowDuty() { Slider3_->setValue(HalDutySlider()); }
+
+void FrmHAL::SSOption5_Click(int index) {
+  HalHandChosen(index);
+  ShowReport();
+}
+
+void FrmHAL::Text1_KeyUp(int index) {
+  if (index == kFrequencyBox) HalFrequencyTyped(frequency_->text().toStdString());
+  if (index == kDutyBox) {
+    HalDutyTyped(duty_->text().toStdString());
+    ShowDuty();
+  }
+  ShowLevel();
+  ShowReport();
+}
+
+void FrmHAL::Slider3_MouseMove() {
+  duty_->setText(QString::fromStdString(HalDutyDragged(Slider3_->value())));
+  ShowLevel();
+  ShowReport();
+}
+
+void FrmHAL::Slider1_Scroll(int value) {
+  const std::string level = HalLevelMoved(value);
+  ShowTip(*Slider1_, QString::fromStdString(level));
+  frequency_->clear();
+  duty_->clear();
+  ShowReport();
+}
+
+void FrmHAL::mnuEditSelect_Click() { RichTextBox1().SelectAll(); }
+
+void FrmHAL::mnuEditCopy_Click() {
+  RichTextBox1().SelectAll();
+  CopySelection();
+}
+
+void FrmHAL::writeReport(RichText& RichTextBox1) {
+  HAL_Calculate(RichTextBox1);
+  for (std::size_t i = 0; i < limits_.size(); ++i) {
+    const double limit = Module1.HalLimits.at(static_cast<int>(i));
+    limits_[i]->setText(QString::fromStdString(HalLimitText(limit)));
+  }
+}
+
+}  // namespace halvane
