@@ -299,11 +299,12 @@ TEST_F(CtdDataFile, IsCopiedFromTheProgramsFolderAndSaidSo) {
   Load();
   const JobState before = Module1;
   // Blanks around the paths do not count.
-  platform.SetFolders("  /opt/the tools", " /home/ann/data");
+  platform.SetFolders("  /programs/the tools", " /data of the user");
   platform.WillCopyFile(true);
   platform.WillAnswer(Answer::Ok);
   Copy();
-  EXPECT_EQ(platform.copied(), QStringList{"/opt/the tools/me.pda -> /home/ann/data/me.pda"});
+  EXPECT_EQ(platform.copied(),
+            QStringList{"/programs/the tools/me.pda -> /data of the user/me.pda"});
   EXPECT_EQ(platform.messages(),
             (std::vector{ShownMessage{"Halvane Tools", "File copied!", {Answer::Ok}}}));
   EXPECT_TRUE(Module1 == before);
@@ -313,11 +314,11 @@ TEST_F(CtdDataFile, CopyThatFailedIsSaidSo) {
   AddTaskRecord();
   Load();
   const JobState before = Module1;
-  platform.SetFolders("/opt/tools", "/home/ann/data");
+  platform.SetFolders("/programs/tools", "/data of the user");
   platform.WillCopyFile(false);
   platform.WillAnswer(Answer::Ok);
   Copy();
-  EXPECT_EQ(platform.copied(), QStringList{"/opt/tools/me.pda -> /home/ann/data/me.pda"});
+  EXPECT_EQ(platform.copied(), QStringList{"/programs/tools/me.pda -> /data of the user/me.pda"});
   EXPECT_EQ(platform.messages(),
             (std::vector{ShownMessage{"Halvane Tools", "Error. File not moved!", {Answer::Ok}}}));
   EXPECT_TRUE(Module1 == before);
