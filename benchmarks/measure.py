@@ -14,6 +14,7 @@ import tempfile
 import time
 
 JOBS = 10_000
+FEW_JOBS, MANY_JOBS = 1_000, 100_000
 WARM_UP = 2
 RUNS = 15
 FRAME = 1 / 60  # seconds
@@ -41,6 +42,34 @@ def alternating(first, second):
     """The results of both calls, turn by turn, so that what else the machine does hits both."""
     results = [(first(), second()) for _ in range(WARM_UP + RUNS)][WARM_UP:]
     return [list(column) for column in zip(*results)]
+
+
+def memory_of(pid, program):
+    """The most memory of a process up to now in KiB; 0 while it is not yet `program`, or over."""
+    try:
+        if os.readlink(f"/proc/{pid}/exe") != program:
+            return 0
+        status = pathlib.Path(f"/proc/{pid}/status").read_text()
+    except OSError:
+        return 0
+    return max((int(line.split()[1]) for line in status.splitlines() if line.startswith("VmHWM:")), default=0)
+
+
+def peak_memory(command, **options):
+    """The most memory of a process in KiB, looked at while it runs: what the system tells at its
+    end counts the process that started it too."""
+    peak = 0
+    with subprocess.Popen(command, stdout=subprocess.DEVNULL, **options) as process:
+        while process.poll() is None:
+            peak = max(peak, memory_of(process.pid, command[0]))
+            time.sleep(0.001)
+    if process.returncode or not peak:
+        sys.exit(f"measure.py: {command[0]} ended with status {process.returncode}")
+    return peak
+
+
+def mebibytes(kibibytes):
+    return f"{kibibytes / 1024:.1f} MiB"
 
 
 def quantity(seconds):
@@ -119,6 +148,77 @@ def measure_reporter(build, table):
     )
 
 
+def measure_summary(build, table):
+    reporter = build / "reporter/halvane-report"
+    with tempfile.TemporaryDirectory() as folder:
+        subprocess.run([build / "benchmarks/make_jobs", folder, str(JOBS)], check=True)
+        names = sorted(os.listdir(folder))
+        summary = [reporter, "--summary", "--format", "csv", *names]
+        split = [sys.executable, pathlib.Path(__file__).with_name("split_fields.py"), *names]
+        reports = [reporter, "--format", "json", *names]
+
+        def run(command):
+            return wall_time(command, cwd=folder, stdout=subprocess.DEVNULL)[0]
+
+        # Each job has to give its line, and each tool its headline; one without is done sooner.
+        lines = wall_time(summary, cwd=folder, stdout=subprocess.PIPE)[1].splitlines()
+        assert len(lines) == JOBS + 1 and all(line.endswith(b",") for line in lines[1:])
+        output = len(wall_time(reports, cwd=folder, stdout=subprocess.PIPE)[1])
+
+        ours, cat = alternating(lambda: run(summary), lambda: run(["cat", *names]))
+        ours_again, python = alternating(lambda: run(summary), lambda: run(split))
+        written = [run(reports) for _ in range(WARM_UP + RUNS)][WARM_UP:]
+    what = f"--summary --format csv of {JOBS:,} job files"
+    table.add(what, statistics.median(ours), "cat of the same files", statistics.median(cat), goal=4)
+    table.add(
+        what,
+        statistics.median(ours_again),
+        "Python that splits them into fields",
+        statistics.median(python),
+        goal=0.1,
+    )
+    table.add(
+        "a megabyte of reports of all tools, --format json",
+        statistics.median(written) / (output / 1e6),
+        "200 MB/s",
+        1 / 200,
+        goal=1,
+    )
+
+
+def measure_memory(build, table):
+    reporter = str(build / "reporter/halvane-report")
+    with tempfile.TemporaryDirectory() as folder:
+        some = pathlib.Path(folder, "some")
+        some.mkdir()
+        subprocess.run([build / "benchmarks/make_jobs", some, str(FEW_JOBS)], check=True)
+        many = pathlib.Path(folder, "many")
+        many.mkdir()
+        # The same jobs under many names.
+        for name in os.listdir(some):
+            for copy in range(MANY_JOBS // FEW_JOBS):
+                os.link(some / name, many / f"{copy:02}-{name}")
+
+        def summary(jobs):
+            return peak_memory([reporter, "--summary", "--format", "csv", jobs])
+
+        def from_input(jobs):
+            names = pathlib.Path(folder, "names")
+            names.write_text("".join(f"{path}\n" for path in sorted(jobs.iterdir())))
+            with names.open() as standard_input:
+                return peak_memory([reporter, "--files-from", "-"], stdin=standard_input)
+
+        for what, peak in (("--summary --format csv of a folder", summary), ("--files-from -", from_input)):
+            table.add(
+                f"memory of {what}, {MANY_JOBS:,} jobs",
+                peak(many),
+                f"{FEW_JOBS:,} jobs",
+                peak(some),
+                goal=1.1,
+                text=mebibytes,
+            )
+
+
 class Screen:
     """A screen of its own, so that nothing but the two programs is measured."""
 
@@ -173,7 +273,7 @@ def measure_windows(build, table):
         "an empty window",
         empty_peak,
         goal=1.5,
-        text=lambda kibibytes: f"{kibibytes / 1024:.1f} MiB",
+        text=mebibytes,
     )
 
 
@@ -184,6 +284,8 @@ def main(arguments):
     table = Table()
     measure_in_process(build, table)
     measure_reporter(build, table)
+    measure_summary(build, table)
+    measure_memory(build, table)
     measure_windows(build, table)
     table.print()
 

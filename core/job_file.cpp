@@ -39,7 +39,7 @@ std::string OpenForInput() {
   return DecodeJobText(file.ReadAll());
 }
 
-void ReadFields(const std::string& text) {
+void ReadFields(std::string_view text) {
   JobTextReader reader(text);
   try {
     VisitJobFields(Module1, reader);
@@ -88,17 +88,26 @@ void ReadJobFile() {
 
 OpenOutcome OpenJobFile() {
   const std::string text = OpenForInput();
+  if (SizeForJobText(text) == OpenOutcome::NotAJobFile) return OpenOutcome::NotAJobFile;
+  // The same text again instead of a second reading, so that no change in between can come through.
+  ReadJobText(text);
+  return OpenOutcome::Opened;
+}
+
+OpenOutcome SizeForJobText(std::string_view text) {
   JobTextReader reader(text);
   const bool isJobFile = reader.ReadMarkerLine();
   if (isJobFile) reader.Line(Named("TaskCount", Module1.TaskCount));
   Module1.JobFileOpen = false;
   if (!isJobFile) return OpenOutcome::NotAJobFile;
   SizeTaskArrays(reader);
+  return OpenOutcome::Opened;
+}
+
+void ReadJobText(std::string_view text) {
   PrepareRead();
-  // The same text again instead of a second reading, so that no change in between can come through.
   Module1.JobFileOpen = true;
   ReadFields(text);
-  return OpenOutcome::Opened;
 }
 
 std::string JobFileBytes(JobState& job) {

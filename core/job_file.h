@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "core/job_state.h"
 
@@ -31,6 +32,12 @@ void ReadJobFile();
 /// per-task arrays and reads the job. Throws as `ReadJobFile` does, and a `JobReadFailure` for a
 /// task count that no array can have, which leaves the file closed.
 OpenOutcome OpenJobFile();
+
+/// The two steps of `OpenJobFile` behind the reading of the file, for who looks closer at its text:
+/// the first tests the marker, reads `TaskCount` and sizes the per-task arrays, the second reads
+/// the job. `text` is UTF-8. Both throw as `OpenJobFile` does.
+OpenOutcome SizeForJobText(std::string_view text);
+void ReadJobText(std::string_view text);
 
 /// The bytes of a job file for `job`. Throws `SubscriptOutOfRange` at task 41.
 std::string JobFileBytes(JobState& job);

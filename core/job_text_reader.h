@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "core/job_fields.h"
+#include "core/plain_number.h"
 #include "core/runtime_failure.h"
 
 namespace halvane {
@@ -45,6 +46,14 @@ class JobTextReader {
     (ReadField(fields.name, fields.value), ...);
   }
 
+  /// Where the field that was read last begins, its text as it stands, and the line of a position,
+  /// counted from 1.
+  [[nodiscard]] std::size_t lastStart() const { return fieldStart_; }
+  [[nodiscard]] std::string_view lastText() const { return lastText_; }
+  [[nodiscard]] int LineAt(std::size_t position) const;
+  /// Where the next field begins.
+  [[nodiscard]] std::size_t position() const { return position_; }
+
   /// The failure of what was to be done with the field that was read last.
   [[nodiscard]] JobReadFailure FailureAtLastField(FailureKind kind, const FieldName& name) const;
   /// The failure of a field that has no place in the job, so that it was not read.
@@ -54,6 +63,7 @@ class JobTextReader {
   struct FieldText {
     std::string_view text;
     bool quoted = false;
+    PlainNumber number;  ///< where the whole field is one
   };
 
   template <typename T>
@@ -71,7 +81,6 @@ class JobTextReader {
   FieldText NextField(const FieldName& name);
   void PassSeparator(std::size_t separator);
   [[nodiscard]] int fieldLine() const { return LineAt(fieldStart_); }
-  [[nodiscard]] int LineAt(std::size_t position) const;
 
   static void Read(FieldText field, std::string& target);
   static void Read(FieldText field, Integer& target);

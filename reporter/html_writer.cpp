@@ -4,8 +4,8 @@
 #include <cstddef>
 
 #include "core/number_text.h"
+#include "reporter/html_text.h"
 #include "reporter/pictures.h"
-#include "reporter/printable_text.h"
 
 namespace halvane {
 namespace {
@@ -44,35 +44,13 @@ svg { max-width: 100%; height: auto; }
 
 constexpr std::string_view kFoot = "</body>\n</html>\n";
 
-std::string_view EntityOf(char c) {
-  switch (c) {
-    case '&': return "&amp;";
-    case '<': return "&lt;";
-    case '>': return "&gt;";
-    case '"': return "&quot;";
-    case '\'': return "&#39;";
-    default: return {};
-  }
-}
-
-void AppendEscaped(std::string& out, std::string_view text) {
-  for (const char c : PrintableText(text)) {
-    const std::string_view entity = EntityOf(c);
-    if (entity.empty()) {
-      out += c;
-    } else {
-      out += entity;
-    }
-  }
-}
-
 void AppendStyled(std::string& out, std::string_view text, const CharacterFormat& format) {
   if (text.empty()) return;
   const bool hasSize = format.size != CharacterFormat{}.size;
   if (hasSize) out += "<span style=\"font-size: " + PlainText(format.size) + "pt\">";
   if (format.bold) out += "<b>";
   if (format.underline) out += "<u>";
-  AppendEscaped(out, text);
+  AppendHtml(out, text);
   if (format.underline) out += "</u>";
   if (format.bold) out += "</b>";
   if (hasSize) out += "</span>";
@@ -81,7 +59,7 @@ void AppendStyled(std::string& out, std::string_view text, const CharacterFormat
 void AppendPicture(std::string& out, std::string_view assetName) {
   const std::string_view svg = PictureSvg(assetName);
   if (svg.empty()) {
-    AppendEscaped(out, "[picture: " + std::string(assetName) + "]");
+    AppendHtml(out, "[picture: " + std::string(assetName) + "]");
   } else {
     out += svg.substr(0, svg.find_last_not_of('\n') + 1);
   }
@@ -149,7 +127,7 @@ void AppendParagraph(std::string& out, const Paragraph& paragraph) {
 
 void BeginSection(std::string& out, std::string_view heading) {
   out += "<section>\n<h2>";
-  AppendEscaped(out, heading);
+  AppendHtml(out, heading);
   out += "</h2>\n";
 }
 
@@ -157,7 +135,7 @@ void EndSection(std::string& out) { out += "</section>\n"; }
 
 void AppendFailure(std::string& out, const ReportFailure& failure) {
   out += "<p class=\"failure\">";
-  AppendEscaped(out, failure.message);
+  AppendHtml(out, failure.message);
   out += "</p>\n";
 }
 
@@ -180,7 +158,7 @@ void HtmlWriter::NoReport(std::string& out, std::string_view file, const ToolRow
                           const ReportFailure& reason) {
   BeginSection(out, HeadingOf(file, tool));
   out += "<p>";
-  AppendEscaped(out, reason.message);
+  AppendHtml(out, reason.message);
   out += "</p>\n";
   EndSection(out);
 }

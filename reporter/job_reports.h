@@ -1,10 +1,12 @@
 #pragma once
 
+#include <memory>
 #include <span>
 #include <string>
 #include <vector>
 
 #include "core/units.h"
+#include "reporter/job_command.h"
 #include "reporter/report_writer.h"
 
 namespace halvane {
@@ -19,5 +21,22 @@ namespace halvane {
 std::vector<std::string> AppendReports(std::string& out, ReportWriter& writer,
                                        const std::string& file, LengthUnit units,
                                        std::span<const ToolRow* const> tools);
+
+/// Writes the reports of some tools on each job.
+class ReportCommand : public JobCommand {
+ public:
+  /// `several`: more than one report was asked for, so each has to say what it is on.
+  ReportCommand(std::vector<const ToolRow*> tools, LengthUnit units, ReportFormat format,
+                bool several);
+
+  void Begin(std::string& out) override { writer_->Begin(out); }
+  JobOutcome Do(std::string& out, const std::string& file) override;
+  void End(std::string& out) override { writer_->End(out); }
+
+ private:
+  std::vector<const ToolRow*> tools_;
+  LengthUnit units_;
+  std::unique_ptr<ReportWriter> writer_;
+};
 
 }  // namespace halvane

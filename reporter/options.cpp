@@ -32,10 +32,11 @@ struct Word {
   Value value;
 };
 
-constexpr std::array<Word<ReportFormat>, 3> kFormats{{
+constexpr std::array<Word<ReportFormat>, 4> kFormats{{
     {"text", ReportFormat::Text},
     {"json", ReportFormat::Json},
     {"html", ReportFormat::Html},
+    {"csv", ReportFormat::Csv},
 }};
 constexpr std::array<Word<LengthUnit>, 2> kUnits{{
     {"metric", LengthUnit::Metric},
@@ -55,11 +56,10 @@ const ToolRow* ToolNamed(std::span<const ToolRow> tools, std::string_view key) {
   return found == tools.end() ? nullptr : &*found;
 }
 
-/// "ocra, ctd, si": the keys of the tools that are built, or of those that are not.
-std::string KeysOf(std::span<const ToolRow> tools, bool built) {
+/// "ocra, ctd, si": the keys of the tools.
+std::string KeysOf(std::span<const ToolRow> tools) {
   std::string keys;
   for (const ToolRow& row : tools) {
-    if (row.isBuilt() != built) continue;
     if (!keys.empty()) keys += ", ";
     keys += row.key;
   }
@@ -67,20 +67,14 @@ std::string KeysOf(std::span<const ToolRow> tools, bool built) {
 }
 
 std::string ToolHelp(std::span<const ToolRow> tools) {
-  std::string help =
-      "Tool to report on; may be given more than once. One of: " + KeysOf(tools, true) +
-      ". Without it: all of them.";
-  const std::string notBuilt = KeysOf(tools, false);
-  if (!notBuilt.empty()) help += " Not built yet: " + notBuilt + ".";
-  return help;
+  return "Tool to report on; may be given more than once. One of: " + KeysOf(tools) +
+         ". Without it: all of them.";
 }
 
 /// Why `key` names no tool to report on; empty when it does. For the parser's check of an option.
 std::string ToolComplaint(std::span<const ToolRow> tools, const std::string& key) {
-  const ToolRow* const row = ToolNamed(tools, key);
-  if (row == nullptr) return "there is no tool \"" + WithoutGuard(key) + "\"";
-  if (!row->isBuilt()) return "the tool \"" + key + "\" is not built yet";
-  return {};
+  if (ToolNamed(tools, key) != nullptr) return {};
+  return "there is no tool \"" + WithoutGuard(key) + "\"";
 }
 
 std::string FormatComplaint(const std::string& name) {
@@ -93,19 +87,75 @@ std::string UnitsComplaint(const std::string& name) {
   return "there are no units \"" + WithoutGuard(name) + "\"";
 }
 
-Options Collect(std::span<const ToolRow> tools, const std::vector<std::string>& keys,
-                std::vector<std::string> files) {
-  Options options;
+/// The options as the parser leaves them.
+struct Given {
+  std::vector<std::string> tools;
+  bool summary = false;
+  bool check = false;
+  std::string sort;
+  std::string format;
+  std::string units;
+  std::string filesFrom;
+  std::vector<std::string> files;
+};
+
+/// Why the options do not go together; empty when they do.
+std::string ComplaintOf(const Given& given) {
+  if (given.filesFrom.empty() && given.files.empty()) return "FILE is required";
+  if (!given.filesFrom.empty() && !given.files.empty()) {
+    return "--files-from: no FILE may stand beside it";
+  }
+  if (given.summary && given.check) return "--check: --summary may not stand beside it";
+  if (given.check && !given.tools.empty()) return "--check: --tool may not stand beside it";
+  if (given.check && !given.units.empty()) return "--check: --units may not stand beside it";
+  if (given.check && (given.format == "html" || given.format == "csv")) {
+    return "--check: its format is text or json";
+  }
+  if (!given.sort.empty() && !given.summary) return "--sort: is for --summary alone";
+  if (given.format == "csv" && !given.summary) return "--format: csv is for --summary alone";
+  if (!given.sort.empty() && !given.tools.empty() &&
+      std::ranges::count(given.tools, given.sort) == 0) {
+    return "--sort: the tool \"" + given.sort + "\" is not among those of --tool";
+  }
+  return {};
+}
+
+std::vector<const ToolRow*> ToolsOf(std::span<const ToolRow> tools,
+                                    const std::vector<std::string>& keys) {
+  std::vector<const ToolRow*> rows;
   for (const std::string& key : keys) {
     const ToolRow* const row = ToolNamed(tools, key);
-    if (std::ranges::find(options.tools, row) == options.tools.end()) options.tools.push_back(row);
+    if (std::ranges::find(rows, row) == rows.end()) rows.push_back(row);
   }
   if (keys.empty()) {
-    for (const ToolRow& row : tools) {
-      if (row.isBuilt()) options.tools.push_back(&row);
-    }
+    for (const ToolRow& row : tools) rows.push_back(&row);
   }
-  options.files = std::move(files);
+  return rows;
+}
+
+/// A summary has its tools in the order of the manual page, the upper limb before the whole body.
+void PutInOrderOfSummary(std::vector<const ToolRow*>& rows) {
+  const auto reba = std::ranges::find(rows, Tool::Reba, &ToolRow::tool);
+  const auto rula = std::ranges::find(rows, Tool::Rula, &ToolRow::tool);
+  if (reba < rula && rula != rows.end()) std::iter_swap(reba, rula);
+}
+
+ReportFormat FormatOf(const Given& given) {
+  if (!given.format.empty()) return WordNamed(kFormats, given.format)->value;
+  return given.filesFrom.empty() ? ReportFormat::Text : ReportFormat::Json;
+}
+
+Options Collect(std::span<const ToolRow> tools, Given given) {
+  Options options;
+  if (given.summary) options.wish = Wish::Summary;
+  if (given.check) options.wish = Wish::Check;
+  options.tools = ToolsOf(tools, given.tools);
+  if (given.summary && given.tools.empty()) PutInOrderOfSummary(options.tools);
+  if (!given.sort.empty()) options.sortBy = ToolNamed(tools, given.sort);
+  options.format = FormatOf(given);
+  if (!given.units.empty()) options.units = WordNamed(kUnits, given.units)->value;
+  options.filesFromInput = !given.filesFrom.empty();
+  options.files = std::move(given.files);
   for (std::string& file : options.files) file = WithoutGuard(std::move(file));
   return options;
 }
@@ -121,29 +171,46 @@ std::string WrongUse(std::string_view complaint) {
 
 std::variant<Options, Notice> ParseOptions(std::vector<std::string> arguments,
                                            std::span<const ToolRow> tools) {
-  std::vector<std::string> keys;
-  std::string format = "text";
-  std::string units = "metric";
-  std::vector<std::string> files;
-
-  CLI::App app("Prints the reports of the tools on job files.", std::string(kProgramName));
+  Given given;
+  CLI::App app(
+      "Prints the reports of the tools on job files, one line a job, or what is wrong with "
+      "the files.",
+      std::string(kProgramName));
   app.set_version_flag("--version", std::string(kProgramName) + " " + HALVANE_VERSION);
-  app.add_option("--tool", keys, ToolHelp(tools))
+  const auto isTool = [tools](const std::string& key) { return ToolComplaint(tools, key); };
+  app.add_option("--tool", given.tools, ToolHelp(tools))
       ->type_name("NAME")
       // Else it would take the files behind it for names of tools.
       ->allow_extra_args(false)
-      ->check([tools](const std::string& key) { return ToolComplaint(tools, key); });
-  app.add_option("--format", format, "text (default), json (one object a line) or html (one page)")
+      ->check(isTool);
+  app.add_flag("--summary", given.summary,
+               "One line a job with the headline of each tool instead of reports");
+  app.add_option("--sort", given.sort, "Summary: the jobs that are worst by this tool first")
+      ->type_name("NAME")
+      ->check(isTool);
+  app.add_flag("--check", given.check,
+               "Instead of reports, what the program would not take of the files and what of them "
+               "would surprise");
+  app.add_option("--format", given.format,
+                 "text (default), json (one object a line), html (one page) or, of a summary, csv")
       ->type_name("NAME")
       ->check(FormatComplaint);
-  app.add_option("--units", units,
+  app.add_option("--units", given.units,
                  "metric (default) or english: what the hand spans of the jobs are taken in")
       ->type_name("NAME")
       ->check(UnitsComplaint);
-  app.add_option("FILE", files, "Job file (.qjt)")->type_name("")->required();
+  app.add_option("--files-from", given.filesFrom,
+                 "-: standard input names the files, one a line; the format is then json by "
+                 "default, and each job is written as it is done")
+      ->type_name("-")
+      ->check([](const std::string& from) {
+        return from == "-" ? std::string() : "only - is there, which is standard input";
+      });
+  app.add_option("FILE", given.files, "Job file (.qjt), or a folder for all those in and below it")
+      ->type_name("");
   app.footer(
-      "Exit status: 0 all reports are done, 1 a file could not be read, a computation failed or "
-      "the output could not be written, 2 wrong use.");
+      "Exit status: 0 all is done, 1 a file could not be read or not whole, a computation failed "
+      "or the output could not be written, 2 wrong use, 130 ended by Ctrl-C.");
 
   GuardBrackets(arguments);
   std::reverse(arguments.begin(), arguments.end());  // the order that the parser takes them in
@@ -154,10 +221,9 @@ std::variant<Options, Notice> ParseOptions(std::vector<std::string> arguments,
     if (app.exit(end, out, out) == 0) return Notice{false, out.str()};
     return Notice{true, WrongUse(end.what())};
   }
-  Options options = Collect(tools, keys, std::move(files));
-  options.format = WordNamed(kFormats, format)->value;
-  options.units = WordNamed(kUnits, units)->value;
-  return options;
+  const std::string complaint = ComplaintOf(given);
+  if (!complaint.empty()) return Notice{true, WrongUse(complaint)};
+  return Collect(tools, std::move(given));
 }
 
 }  // namespace halvane

@@ -15,12 +15,18 @@ namespace halvane {
 /// What messages of the program begin with.
 inline constexpr std::string_view kProgramName = "halvane-report";
 
+/// What is to be done with the jobs.
+enum class Wish { Reports, Summary, Check };
+
 /// What the user asked for.
 struct Options {
+  Wish wish = Wish::Reports;
   std::vector<const ToolRow*> tools;  ///< each once, in the order asked for
   ReportFormat format = ReportFormat::Text;
+  const ToolRow* sortBy = nullptr;        ///< of a summary: by this one of `tools`, worst first
   LengthUnit units = LengthUnit::Metric;  ///< what the hand spans of the jobs are taken in
-  std::vector<std::string> files;
+  std::vector<std::string> files;         ///< and folders
+  bool filesFromInput = false;            ///< standard input names the files, `files` is empty
 };
 
 /// The command line asks for no report: help, the version, or wrong use.
@@ -29,8 +35,7 @@ struct Notice {
   std::string text;  ///< with its line end
 };
 
-/// Reads the command line without the program's name. `tools` are the tools that there are; asking
-/// for one that is not built yet is wrong use.
+/// Reads the command line without the program's name. `tools` are the tools that there are.
 std::variant<Options, Notice> ParseOptions(std::vector<std::string> arguments,
                                            std::span<const ToolRow> tools);
 

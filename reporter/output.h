@@ -36,6 +36,10 @@ class StandardOutput {
   std::string pending_;
 };
 
+/// Whether a terminal shows the stream.
+bool OutputIsTerminal();
+bool ErrorIsTerminal();
+
 /// Writes to standard error. There is no one left to tell when that fails.
 void WriteErrorText(std::string_view text);
 

@@ -28,6 +28,10 @@ void StandardOutput::Flush() {
   pending_.clear();
 }
 
+bool OutputIsTerminal() { return isatty(STDOUT_FILENO) != 0; }
+
+bool ErrorIsTerminal() { return isatty(STDERR_FILENO) != 0; }
+
 void WriteErrorText(std::string_view text) { std::fwrite(text.data(), 1, text.size(), stderr); }
 
 }  // namespace halvane

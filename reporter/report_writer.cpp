@@ -10,7 +10,8 @@ std::unique_ptr<ReportWriter> MakeReportWriter(ReportFormat format, bool several
   switch (format) {
     case ReportFormat::Json: return std::make_unique<JsonWriter>();
     case ReportFormat::Html: return std::make_unique<HtmlWriter>();
-    case ReportFormat::Text: break;
+    case ReportFormat::Text:
+    case ReportFormat::Csv: break;
   }
   return std::make_unique<TextWriter>(several);
 }

@@ -7,17 +7,17 @@
 #include <vector>
 
 #include "core/rich_text.h"
+#include "reporter/failure.h"
 #include "tools/tool_table.h"
 #include "tools/working_value.h"
 
 namespace halvane {
 
-enum class ReportFormat { Text, Json, Html };
-
-/// Why there is no report: a name for programs, a sentence for people.
-struct ReportFailure {
-  std::string kind;
-  std::string message;
+enum class ReportFormat {
+  Text,
+  Json,
+  Html,
+  Csv,  ///< of summaries alone
 };
 
 /// Puts reports into one format. Each function appends to `out`, in the order of the calls.

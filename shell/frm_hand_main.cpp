@@ -95,7 +95,6 @@ void FrmHandMain::MakeButtons() {
     auto* button = new QPushButton(ScreenText(row.buttonCaption), this);
     button->setObjectName(ElementName("SSCommand2", index));
     button->setToolTip(ScreenText(row.buttonTip));
-    button->setEnabled(row.isBuilt());
     connect(button, &QPushButton::clicked, this, [this, index] { SSCommand2_Click(index); });
     SSCommand2_.push_back(button);
   }

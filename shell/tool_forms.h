@@ -10,7 +10,7 @@ namespace halvane {
 
 class ToolForm;
 
-/// A new form of a tool, not yet loaded; null for a tool that is not built.
+/// A new form of a tool, not yet loaded.
 std::unique_ptr<ToolForm> MakeToolForm(Tool tool, QWidget* parent);
 
 }  // namespace halvane

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "core/rich_text.h"
+#include "tools/headline.h"
 #include "tools/working_value.h"
 
 namespace halvane {
@@ -22,13 +23,12 @@ struct ToolRow {
   std::string_view helpTopic;      ///< page of the help file
 
   /// Does what opening the tool and its report tab does, form load included, on the present job,
-  /// without a screen. False, with nothing written, for a job that the tool has no report on. Null
-  /// while the tool is not built.
+  /// without a screen. False, with nothing written, for a job that the tool has no report on.
   bool (*writeReport)(RichText& RichTextBox1);
-  /// The working values that it leaves. Null while the tool is not built.
+  /// The working values that it leaves.
   std::vector<WorkingValue> (*workingValues)();
-
-  [[nodiscard]] bool isBuilt() const { return writeReport != nullptr; }
+  /// Its line in a summary.
+  const ToolHeadline* headline;
 };
 
 /// All tools; a row stands at the number of its `Tool`.

@@ -6,8 +6,11 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <chrono>
 #include <filesystem>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "core/job_file.h"
 #include "core/rescue_copy.h"
@@ -245,6 +248,48 @@ TEST(InputFileTest, FileWithoutASizeIsReadToItsEnd) {
   // The system tells size 0 for it, as it does for files that it makes up when they are read.
   InputFile file("/proc/self/status");
   EXPECT_NE(file.ReadAll().find("Name:"), std::string::npos);
+}
+
+TEST(InputFileTest, FileThatChangesWhileItIsReadFails) {
+  const TemporaryFolder folder;
+  const std::string path = folder.File("job.qjt");
+  const std::vector<std::pair<std::string, std::string>> rows = {
+      {"longer", EmptyJobText() + "0"}, {"shorter", "\"qjt\""}, {"emptied", ""}};
+  for (const auto& [label, after] : rows) {
+    WriteBytes(path, EmptyJobText());
+    InputFile file(path);
+    WriteBytes(path, after);
+    try {
+      file.ReadAll();
+      ADD_FAILURE() << label;
+    } catch (const RuntimeFailure& failure) {
+      EXPECT_EQ(std::string(failure.what()), "File error: " + path + ": changed while it was read")
+          << label;
+    }
+  }
+}
+
+TEST(InputFileTest, FileOfTheSameLengthThatChangesFails) {
+  const TemporaryFolder folder;
+  const std::string path = folder.File("job.qjt");
+  WriteBytes(path, EmptyJobText("0"));
+  InputFile file(path);
+  WriteBytes(path, EmptyJobText("1"));
+  // Two writes can fall within one tick of the file system's clock.
+  std::filesystem::last_write_time(
+      path, std::filesystem::file_time_type::clock::now() + std::chrono::seconds(1));
+  EXPECT_EQ(FailureOf([&file] { file.ReadAll(); }), "FileError");
+}
+
+TEST(InputFileTest, FileOfTheSameTimeThatChangesFails) {
+  const TemporaryFolder folder;
+  const std::string path = folder.File("job.qjt");
+  WriteBytes(path, EmptyJobText());
+  const auto time = std::filesystem::last_write_time(path);
+  InputFile file(path);
+  WriteBytes(path, EmptyJobText() + "0");
+  std::filesystem::last_write_time(path, time);
+  EXPECT_EQ(FailureOf([&file] { file.ReadAll(); }), "FileError");
 }
 
 TEST(WriteNewFileTest, TakenNameIsLeftAlone) {

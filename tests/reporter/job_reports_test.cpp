@@ -143,7 +143,7 @@ TEST_F(JobReports, ComplaintTellsFileLineAndField) {
       {"absurd count", EmptyJobText("1E9"), "Overflow: line 2, field TaskCount: \"1E9\""},
       {"count just beyond 16 bits", EmptyJobText("32768"),
        "Overflow: line 2, field TaskCount: \"32768\""},
-      {"task 41", task41, "Subscript out of range: line 672, field CtdLoadHeld(41, 0)"},
+      {"task 41", task41, "Subscript out of range: line 672, field CtdLoadHeld(41, 0): \"0\""},
   };
   for (const UnreadableRow& row : rows) {
     const std::string path = Write("job.qjt", row.bytes);

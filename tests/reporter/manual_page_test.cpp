@@ -1,5 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <filesystem>
+
 #include "tests/core/test_support.h"
 #include "tests/reporter/run_program.h"
 #include "tools/tool_table.h"
@@ -13,6 +16,59 @@ TEST(ManualPage, HasNoWarnings) {
   if (!HasProgram("mandoc")) GTEST_SKIP() << "there is no mandoc";
   const ProgramRun run = RunProgram("mandoc", {"-T", "lint", "-W", "warning", SourcePath(kPage)});
   EXPECT_EQ(run.status, 0) << run.output << run.error;
+}
+
+TEST(ManualPage, NamesEveryOption) {
+  const std::string page = BytesOf(SourcePath(kPage));
+  const std::string help = RunReport({"--help"}).output;
+  int options = 0;
+  for (std::size_t at = help.find("--"); at != std::string::npos; at = help.find("--", at + 2)) {
+    const std::size_t end = help.find_first_not_of("abcdefghijklmnopqrstuvwxyz-", at + 2);
+    const std::string name = help.substr(at + 2, end - at - 2);
+    EXPECT_NE(page.find("Fl Fl " + name), std::string::npos) << name;
+    ++options;
+  }
+  EXPECT_GE(options, 9);
+}
+
+/// The command of the page that has `part`.
+std::string ExampleWith(const std::string& part) {
+  const std::string page = BytesOf(SourcePath(kPage));
+  const std::string mark = "\n.Dl $ ";
+  for (std::size_t at = page.find(mark); at != std::string::npos; at = page.find(mark, at + 1)) {
+    const std::size_t start = at + mark.size();
+    std::string command = page.substr(start, page.find('\n', start) - start);
+    if (command.find(part) != std::string::npos) return command;
+  }
+  ADD_FAILURE() << "no example with " << part;
+  return {};
+}
+
+TEST(ManualPage, ExampleOfABatchEngineSumsUpEveryJobInOrder) {
+  const bool isThere =
+      RunProgram("sh", {"-c", "parallel --version | grep -q 'GNU parallel'"}).status == 0;
+  if (!isThere) GTEST_SKIP() << "there is no GNU parallel";
+  const std::string command = ExampleWith("parallel --pipe");
+  const TemporaryFolder folder;
+  std::filesystem::create_directories(folder.File("jobs/line 4"));
+  const std::string bytes = BytesOf(SourcePath("docs/samples/packing-line.qjt"));
+  for (char name = 'a'; name <= 'z'; ++name) {
+    WriteBytes(folder.File(std::string("jobs/") + (name % 2 == 0 ? "line 4/" : "") + name + ".qjt"),
+               bytes);
+  }
+  const std::string path = std::filesystem::path(HALVANE_REPORT).parent_path().string();
+  // At once, and in pieces so small that there are several calls.
+  for (const std::string options : {"", "--block 100"}) {
+    const ProgramRun run = RunProgram("env",
+                                      {"HOME=" + folder.path(), "PARALLEL=" + options, "LC_ALL=C",
+                                       "sh", "-c", "PATH=\"$1:$PATH\"; " + command, "sh", path},
+                                      folder.path());
+    EXPECT_EQ(run.status, 0) << run.error;
+    const ProgramRun alone =
+        RunProgram(HALVANE_REPORT, {"--summary", "--format", "json", "jobs"}, folder.path());
+    EXPECT_EQ(BytesOf(folder.File("summary.jsonl")), alone.output) << options;
+    EXPECT_EQ(std::count(alone.output.begin(), alone.output.end(), '\n'), 26);
+  }
 }
 
 TEST(ManualPage, NamesEveryTool) {

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "tests/reporter/sample_report.h"
+#include "tests/reporter/sample_summary.h"
 
 namespace halvane {
 namespace {
@@ -62,6 +63,35 @@ TEST(ReportOptions, BehindTwoHyphensEverythingIsAFile) {
   EXPECT_EQ(Parsed({"--", "--tool", "-x"}).files, (std::vector<std::string>{"--tool", "-x"}));
 }
 
+TEST(ReportOptions, SummaryIsOfAllToolsOrOfThoseNamed) {
+  const std::vector<ToolRow> tools{kGradeTool, kIndexTool};
+  const auto parsed = [&tools](const std::vector<std::string>& arguments) {
+    return std::get<Options>(ParseOptions(arguments, tools));
+  };
+  EXPECT_EQ(parsed({"a"}).wish, Wish::Reports);
+  EXPECT_EQ(parsed({"--summary", "a"}).wish, Wish::Summary);
+  EXPECT_EQ(parsed({"--summary", "a"}).tools, (Rows{&tools[0], &tools[1]}));
+  EXPECT_EQ(parsed({"--summary", "--tool", "index", "a"}).tools, Rows{&tools[1]});
+  EXPECT_EQ(parsed({"--summary", "--format", "csv", "a"}).format, ReportFormat::Csv);
+  EXPECT_EQ(parsed({"--summary", "a"}).sortBy, nullptr);
+  EXPECT_EQ(parsed({"--summary", "--sort", "index", "a"}).sortBy, &tools[1]);
+}
+
+TEST(ReportOptions, InputNamesTheFilesInJsonUnlessAskedOtherwise) {
+  EXPECT_FALSE(Parsed({"a"}).filesFromInput);
+  const Options options = Parsed({"--files-from", "-"});
+  EXPECT_TRUE(options.filesFromInput);
+  EXPECT_TRUE(options.files.empty());
+  EXPECT_EQ(options.format, ReportFormat::Json);
+  EXPECT_EQ(Parsed({"--files-from=-", "--format", "text"}).format, ReportFormat::Text);
+}
+
+TEST(ReportOptions, CheckIsTextOrJson) {
+  EXPECT_EQ(Parsed({"--check", "a"}).wish, Wish::Check);
+  EXPECT_EQ(Parsed({"--check", "a"}).format, ReportFormat::Text);
+  EXPECT_EQ(Parsed({"--check", "--format", "json", "a"}).format, ReportFormat::Json);
+}
+
 struct WrongRow {
   std::string_view label;
   std::vector<std::string> arguments;
@@ -72,7 +102,6 @@ TEST(ReportOptions, WrongUseIsToldInOneLineAndAHint) {
   const std::vector<WrongRow> rows = {
       {"no file", {}, "FILE is required"},
       {"unknown tool", {"--tool", "nope", "a"}, "--tool: there is no tool \"nope\""},
-      {"unbuilt tool", {"--tool", "missing", "a"}, "--tool: the tool \"missing\" is not built yet"},
       {"unknown format", {"--format", "pdf", "a"}, "--format: there is no format \"pdf\""},
       {"unknown units", {"--units", "feet", "a"}, "--units: there are no units \"feet\""},
       {"tool in brackets", {"--tool", "[good]", "a"}, "--tool: there is no tool \"[good]\""},
@@ -84,6 +113,36 @@ TEST(ReportOptions, WrongUseIsToldInOneLineAndAHint) {
        "--format: there is no format \"[json]\""},
       {"unknown option", {"--colour", "a"}, "The following argument was not expected: --colour"},
       {"option without value", {"a", "--format"}, "--format: 1 required NAME missing"},
+      {"files from a file",
+       {"--files-from", "list.txt"},
+       "--files-from: only - is there, which is standard input"},
+      {"files from input and a file",
+       {"--files-from", "-", "a"},
+       "--files-from: no FILE may stand beside it"},
+      {"csv of reports", {"--format", "csv", "a"}, "--format: csv is for --summary alone"},
+      {"reports sorted", {"--sort", "good", "a"}, "--sort: is for --summary alone"},
+      {"sorted by an unknown tool",
+       {"--summary", "--sort", "nope", "a"},
+       "--sort: there is no tool \"nope\""},
+      {"sorted by a tool that is not there",
+       {"--summary", "--tool", "failing", "--sort", "good", "a"},
+       "--sort: the tool \"good\" is not among those of --tool"},
+      {"check and summary",
+       {"--check", "--summary", "a"},
+       "--check: --summary may not stand beside it"},
+      {"check by a tool",
+       {"--check", "--tool", "good", "a"},
+       "--check: --tool may not stand beside it"},
+      {"check in units",
+       {"--check", "--units", "metric", "a"},
+       "--check: --units may not stand beside it"},
+      {"check as a page",
+       {"--check", "--format", "html", "a"},
+       "--check: its format is text or json"},
+      {"check as a sheet",
+       {"--check", "--format", "csv", "a"},
+       "--check: its format is text or json"},
+      {"check sorted", {"--check", "--sort", "good", "a"}, "--sort: is for --summary alone"},
   };
   for (const WrongRow& row : rows) {
     const Notice notice = Noticed(row.arguments);
@@ -98,15 +157,13 @@ TEST(ReportOptions, HelpTellsWhichToolsThereAre) {
   const Notice notice = Noticed({"--help"});
   EXPECT_FALSE(notice.isError);
   for (const std::string_view part :
-       {"Usage: halvane-report [OPTIONS] FILE...",
-        "One of: good, failing. Without it: all of them.", "Not built yet: missing.",
+       {"Usage: halvane-report [OPTIONS] [FILE...]",
+        "One of: good, failing. Without it: all of them.",
         "metric (default) or english: what the hand spans of the jobs are taken in",
-        "text (default), json (one object a line) or html (one page)",
-        "Exit status: 0 all reports are done"}) {
+        "text (default), json (one object a line), html (one page) or, of a summary, csv",
+        "Exit status: 0 all is done"}) {
     EXPECT_NE(notice.text.find(part), std::string::npos) << part << " in\n" << notice.text;
   }
-  const auto built = ParseOptions({"-h"}, std::span(kTestTools).first(2));
-  EXPECT_EQ(std::get<Notice>(built).text.find("Not built"), std::string::npos);
 }
 
 TEST(ReportOptions, VersionIsNameAndNumber) {

@@ -31,14 +31,16 @@ bool WriteNothing(RichText& /*RichTextBox1*/) { return false; }
 
 }  // namespace
 
-const std::array<ToolRow, 3> kTestTools{
-    ToolRow{Tool::StrainIndex, "good", "", "", "Good <Tool>", "", WriteGoodReport, GoodValues},
-    ToolRow{Tool::Ocra, "failing", "", "", "Failing Tool", "", Fail, GoodValues},
-    ToolRow{Tool::Ctd, "missing", "", "", "Missing Tool", "", nullptr, nullptr},
+const std::array<ToolRow, 2> kTestTools{
+    ToolRow{Tool::StrainIndex, "good", "", "", "Good <Tool>", "", WriteGoodReport, GoodValues,
+            nullptr},
+    ToolRow{Tool::Ocra, "failing", "", "", "Failing Tool", "", Fail, GoodValues, nullptr},
 };
 
-const ToolRow kSilentTool{Tool::Ctd, "silent", "", "", "Silent Tool", "", WriteNothing, NoValues};
-const ToolRow kUnitsTool{Tool::Ctd, "units", "", "", "Units Tool", "", WriteUnits, NoValues};
+const ToolRow kSilentTool{Tool::Ctd, "silent",     "",       "",     "Silent Tool",
+                          "",        WriteNothing, NoValues, nullptr};
+const ToolRow kUnitsTool{Tool::Ctd, "units",    "",       "",     "Units Tool",
+                         "",        WriteUnits, NoValues, nullptr};
 
 RichText OneLine(std::string_view text, Alignment alignment, const std::vector<int>& tabStops) {
   RichText report;

@@ -9,12 +9,11 @@
 
 namespace halvane {
 
-/// Tools as the writers see them, one that works and one that is not built. They make tests
+/// Tools as the writers see them, one that works and one that fails. They make tests
 /// independent of which tools the program has.
-extern const std::array<ToolRow, 3> kTestTools;
+extern const std::array<ToolRow, 2> kTestTools;
 inline const ToolRow& kGoodTool = kTestTools[0];
 inline const ToolRow& kFailingTool = kTestTools[1];
-inline const ToolRow& kMissingTool = kTestTools[2];
 
 /// A tool that has no report on any job.
 extern const ToolRow kSilentTool;

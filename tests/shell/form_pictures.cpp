@@ -96,8 +96,6 @@ int main(int argc, char** argv) {
     Module1.JobFileName = argv[2];
     halvane::OpenJobFile();
   }
-  for (const halvane::ToolRow& row : halvane::Tools()) {
-    if (row.isBuilt()) DrawTool(row.tool, folder);
-  }
+  for (const halvane::ToolRow& row : halvane::Tools()) DrawTool(row.tool, folder);
   return 0;
 }

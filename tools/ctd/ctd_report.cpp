@@ -64,6 +64,12 @@ std::string_view CodeCaption(CtdGroup group, int task) {
       .caption;
 }
 
+std::string_view CategoryCaption(int slot, int task) {
+  return CtdRibbonAt(kCtdSlots[static_cast<std::size_t>(slot)].categories,
+                     ToInteger(CtdCategoryOf(slot, task)))
+      .caption;
+}
+
 void WriteGripTable(RichText& RichTextBox1) {
   RichTextBox1.SetFont(kHeading);
   SetStops(RichTextBox1, kLaterHeadingStops);
@@ -89,8 +95,7 @@ void WritePostureRow(RichText& RichTextBox1, int slot, int task) {
   // last active task while the rest of the row belongs to the worst one.
   const double score = Module1.CtdPostureScore.at(neck ? slot - 1 : slot).AsDouble();
   RichTextBox1.Append(
-      row.reportLabel, kTab,
-      CtdRibbonAt(row.categories, ToInteger(CtdCategoryOf(slot, task))).caption, kTab, load, kTab,
+      row.reportLabel, kTab, CategoryCaption(slot, task), kTab, load, kTab,
       Format(Module1.CtdPostureDuration.at(task, row.frameSlot), Pattern::TwoDecimals), kTab,
       Format(score, Pattern::TwoDecimals), kNewLine);
 }
@@ -144,6 +149,18 @@ void CTDprint(RichText& RichTextBox1) {
   RichTextBox1.Append(kNewLine, kNewLine);
   RichTextBox1.AppendPicture("ctd/report");
   RichTextBox1.SetLocked(true);
+}
+
+void CtdTestCaptions() {
+  for (const int task : ActiveTasks()) {
+    for (const CtdGroup group :
+         {CtdGroup::Grip, CtdGroup::Wrist, CtdGroup::RadialUlnar, CtdGroup::FlexionExtension}) {
+      CodeCaption(group, task);
+    }
+  }
+  for (int slot = 0; slot < kCtdSlotCount; ++slot) {
+    CategoryCaption(slot, Module1.CtdPostureFactorTask);
+  }
 }
 
 }  // namespace halvane

@@ -103,17 +103,16 @@ double LoadBase(int slot, int task, double category) {
 
 double ShiftMinutes() { return Product(Module1.JobDurationPerDay.AsDouble(), kMinutesPerHour); }
 
-/// Capacity and score of one slot.
-void ScoreSlot(int slot, int task) {
+/// Capacity and score of one slot. `shift`: what the length of the shift does to the strain.
+void ScoreSlot(int slot, int task, double shift) {
   const double category = CtdCategoryOf(slot, task);
   const double held = Module1.CtdPostureDuration.at(task, slot);
   double remaining = Module1.JobCycleTime - held;
   if (remaining <= 0) remaining = kSmallGuard;
 
   double strain = 1.099646;
-  for (const double factor :
-       {Power(LoadBase(slot, task, category), 1.862633), Power(held, 0.733872),
-        Power(remaining, -0.412773), Power(ShiftMinutes(), 0.48053)}) {
+  for (const double factor : {Power(LoadBase(slot, task, category), 1.862633),
+                              Power(held, 0.733872), Power(remaining, -0.412773), shift}) {
     strain = Product(strain, factor);
   }
   const double capacity = Finite((1 - strain) * 100 * CategoryMultiplier(slot, category));
@@ -131,8 +130,9 @@ void ScoreSlot(int slot, int task) {
 void ScorePostures(int task) {
   double& score = Module1.CtdTaskPostureScore.at(task);
   score = 0;
+  const double shift = Power(ShiftMinutes(), 0.48053);
   for (int slot = 0; slot < kCtdSlotCount; ++slot) {
-    ScoreSlot(slot, task);
+    ScoreSlot(slot, task, shift);
     score = Finite(score + Module1.CtdPostureScore.at(slot).AsDouble());
   }
   score /= kCtdSlotCount;

@@ -53,7 +53,7 @@ void GetExertionLevel() {
   Module1.HalActivityLevel = kLevels[row][BandOf(duty, kDutyBounds)];
 }
 
-void HAL_Calculate(RichText& RichTextBox1) {
+void HalComputeLimits() {
   if (Module1.HalForceMode == kFalse) {
     const double force = Module1.HalForceRating.AsDouble();
     Module1.HalLimits.at(kHalThresholdLimitValue) = kThresholdLimitLine.LevelAt(force);
@@ -63,6 +63,10 @@ void HAL_Calculate(RichText& RichTextBox1) {
     Module1.HalLimits.at(kHalThresholdLimitValue) = kThresholdLimitLine.ForceAt(level);
     Module1.HalLimits.at(kHalActionLevel) = kActionLine.ForceAt(level);
   }
+}
+
+void HAL_Calculate(RichText& RichTextBox1) {
+  HalComputeLimits();
   HAL_Print(RichTextBox1);
 }
 

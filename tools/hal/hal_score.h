@@ -18,9 +18,12 @@ inline constexpr int kHalActionLevel = 1;
 /// number beyond a double.
 void GetExertionLevel();
 
-/// Computes `HalLimits` and writes the report into `RichTextBox1`. In force-limit mode the limits
-/// are forces on the 10-point scale for the level of the job, in activity-limit mode levels for its
-/// force rating. They may be negative. Throws `Overflow`.
+/// Computes `HalLimits`. In force-limit mode the limits are forces on the 10-point scale for the
+/// level of the job, in activity-limit mode levels for its force rating. They may be negative.
+/// Throws `Overflow`.
+void HalComputeLimits();
+
+/// Computes `HalLimits` and writes the report into `RichTextBox1`. Throws `Overflow`.
 void HAL_Calculate(RichText& RichTextBox1);
 
 /// A limit on the form: with two decimals, and "0" for one below 0.

@@ -15,6 +15,7 @@ constexpr CharacterFormat kPlain{.size = 10, .bold = false, .underline = false};
 
 using Lines = std::array<std::string_view, 3>;
 
+constexpr std::string_view kZoneLabel = "Zone: ";
 constexpr Lines kGreen{"Zone: Green", "Risk Level: ABSENT", "Consequences: None"};
 constexpr Lines kYellowGreen{
     "Zone: Yellow/Green",
@@ -105,11 +106,15 @@ void WriteZone(RichText& RichTextBox1) {
 
 }  // namespace
 
+std::string_view OcraZone::name() const {
+  return lines.empty() ? std::string_view() : lines.front().substr(kZoneLabel.size());
+}
+
 OcraZone OcraZoneOf(double riskIndex) {
-  if (riskIndex <= 1.0) return {kGreen, {}};
-  if (riskIndex <= 2.0) return {kYellowGreen, {}};
-  if (riskIndex <= 3.9) return {kYellow, kYellowDashes};
-  if (riskIndex >= 4.0) return {kRed, kRedDashes};
+  if (riskIndex <= 1.0) return {kGreen, {}, ZoneColour::Green};
+  if (riskIndex <= 2.0) return {kYellowGreen, {}, ZoneColour::YellowGreen};
+  if (riskIndex <= 3.9) return {kYellow, kYellowDashes, ZoneColour::Yellow};
+  if (riskIndex >= 4.0) return {kRed, kRedDashes, ZoneColour::Red};
   // Between 3.9 and 4.0 no zone is named, which is wanted.
   return {};
 }

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "core/rich_text.h"
+#include "tools/headline.h"
 
 namespace halvane {
 
@@ -11,6 +12,10 @@ namespace halvane {
 struct OcraZone {
   std::span<const std::string_view> lines;
   std::span<const std::string_view> dashLines;
+  ZoneColour colour = ZoneColour::None;
+
+  /// "Yellow/Green"; empty where no zone is named.
+  [[nodiscard]] std::string_view name() const;
 };
 
 /// The zone of an index; empty between 3.9 and 4.0, where the bounds leave a gap on purpose.

@@ -1,5 +1,7 @@
 #include "tools/reba/reba_controls.h"
 
+#include <algorithm>
+
 #include "core/checked_array.h"
 #include "core/job_state.h"
 
@@ -171,6 +173,28 @@ constexpr std::array<RebaCoupling, 4> kRebaCouplings{{
 // clang-format on
 
 const RebaFrame& RebaFrameOf(RebaRegion region) { return kFrames[Row(region)]; }
+
+int RebaHighestState(int entry) {
+  CheckedSubscript(entry, static_cast<std::size_t>(Module1.RebaControlState.size()));
+  if (entry == kLoadEntry) return static_cast<int>(kRebaLoads.size()) - 1;
+  if (entry == kCouplingEntry) return static_cast<int>(kRebaCouplings.size()) - 1;
+  // An entry without a control stays 0.
+  int highest = 0;
+  for (const RebaFrame& frame : kFrames) {
+    for (const RebaRibbonGroup& group : frame.groups) {
+      if (group.stateEntry != entry) continue;
+      const auto first = static_cast<std::size_t>(group.first);
+      for (const RebaRibbon& ribbon :
+           frame.ribbons.subspan(first, static_cast<std::size_t>(group.count))) {
+        highest = std::max<int>(highest, ribbon.state);
+      }
+    }
+    for (const RebaCheck& check : frame.checks) {
+      if (check.stateEntry == entry) highest = 1;
+    }
+  }
+  return highest;
+}
 
 void RebaControls::Load() {
   using enum RebaRegion;

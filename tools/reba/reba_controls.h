@@ -64,6 +64,10 @@ struct RebaFrame {
 
 const RebaFrame& RebaFrameOf(RebaRegion region);
 
+/// The highest value that the controls store in an element of `RebaControlState`; the lowest is 0.
+/// Throws `SubscriptOutOfRange`.
+int RebaHighestState(int entry);
+
 /// The entries of `Combo2`, load levels, by list index; trailing blanks belong to them.
 inline constexpr std::array<std::string_view, 3> kRebaLoads{"<5 kg  ", "5-10 kg", ">10 kg "};
 inline constexpr std::string_view kRebaLoadToolTip = "Force or external load level";

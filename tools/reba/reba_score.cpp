@@ -49,15 +49,20 @@ constexpr std::array<std::array<Integer, 12>, 12> kTableC{{
 // clang-format on
 
 constexpr RebaActionLevel kNegligible{"Action Level = 0", "Risk Level = Negligible",
-                                      "Action (including further assessment) = None necessary"};
+                                      "Action (including further assessment) = None necessary", 0,
+                                      ZoneColour::Green};
 constexpr RebaActionLevel kLow{"Action Level = 1", "Risk Level = Low",
-                               "Action (including further assessment) = May be necessary"};
+                               "Action (including further assessment) = May be necessary", 1,
+                               ZoneColour::YellowGreen};
 constexpr RebaActionLevel kMedium{"Action Level = 2", "Risk Level = Medium",
-                                  "Action (including further assessment) = Necessary"};
+                                  "Action (including further assessment) = Necessary", 2,
+                                  ZoneColour::Yellow};
 constexpr RebaActionLevel kHigh{"Action Level = 3", "Risk Level = High",
-                                "Action (including further assessment) = Necessary soon"};
+                                "Action (including further assessment) = Necessary soon", 3,
+                                ZoneColour::Orange};
 constexpr RebaActionLevel kVeryHigh{"Action Level = 4", "Risk Level = Very High",
-                                    "Action (including further assessment) = Necessary NOW"};
+                                    "Action (including further assessment) = Necessary NOW", 4,
+                                    ZoneColour::Red};
 
 /// Each step of the sum has to stay within 16 bits.
 template <std::size_t N>

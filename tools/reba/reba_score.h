@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "core/integer.h"
+#include "tools/headline.h"
 #include "tools/score_table.h"
 #include "tools/working_value.h"
 
@@ -25,11 +26,13 @@ RebaTables REBA_InitTables();
 /// 0 then.
 void REBA_Calculate();
 
-/// What the report says of a grand score, three lines.
+/// What the report says of a grand score, three lines, and the number of the level.
 struct RebaActionLevel {
   std::string_view level;
   std::string_view risk;
   std::string_view action;
+  int number;
+  ZoneColour colour;
 };
 RebaActionLevel RebaActionLevelOf(Integer grandScore);
 

@@ -212,6 +212,18 @@ const RulaRibbonRow& RulaRibbonsOf(RulaRibbonArray array) { return kRibbonRows[R
 const RulaCheckRow& RulaChecksOf(RulaCheckArray array) { return kCheckRows[Row(array)]; }
 const RulaOptionRow& RulaOptionsOf(RulaOptionArray array) { return kOptionRows[Row(array)]; }
 
+int RulaHighestState(int element) {
+  CheckedSubscript(element, static_cast<std::size_t>(Module1.RulaControlState.size()));
+  for (const RulaRibbonRow& row : kRibbonRows) {
+    if (row.state == element) return row.groupSize - 1;
+  }
+  for (const RulaOptionRow& row : kOptionRows) {
+    if (row.state == element) return static_cast<int>(row.options.size()) - 1;
+  }
+  // A box, or a ribbon that stands by itself.
+  return 1;
+}
+
 std::string_view RulaCaption(RulaRibbonArray array, int index) {
   const auto& ribbons = RulaRibbonsOf(array).ribbons;
   return ribbons[CheckedSubscript(index, ribbons.size())].caption;

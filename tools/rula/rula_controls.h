@@ -74,6 +74,10 @@ struct RulaFrame {
 /// In the order of the screen.
 extern const std::array<RulaFrame, 8> kRulaFrames;
 
+/// The highest value that the controls store in an element of `RulaControlState`; the lowest is 0.
+/// Throws `SubscriptOutOfRange`.
+int RulaHighestState(int element);
+
 /// The caption of a ribbon or an option. Throws `SubscriptOutOfRange` for an index without one.
 std::string_view RulaCaption(RulaRibbonArray array, int index);
 std::string_view RulaCaption(RulaOptionArray array, int index);

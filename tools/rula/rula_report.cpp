@@ -98,7 +98,7 @@ void WriteGrandScore(RichText& RichTextBox1) {
   RichTextBox1.Append(kNewLine);
   RichTextBox1.SetTab(0, 500);
   RichTextBox1.Append(kNewLine, "Recommendation:");
-  RichTextBox1.Append(kNewLine, kTab, RulaRecommendation(Module1.RulaGrandScore));
+  RichTextBox1.Append(kNewLine, kTab, RulaAdviceOn(Module1.RulaGrandScore).recommendation);
 }
 
 }  // namespace

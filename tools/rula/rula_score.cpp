@@ -148,13 +148,16 @@ void RULA_Calculate() {
                            std::min(Module1.RulaNeckTrunkLegTotal, kMostTotalB));
 }
 
-std::string_view RulaRecommendation(int grandScore) {
+RulaAdvice RulaAdviceOn(int grandScore) {
   if (grandScore <= 2) {
-    return "The Posture is acceptable if it is not maintained or repeated for long periods.";
+    return {"The Posture is acceptable if it is not maintained or repeated for long periods.",
+            ZoneColour::Green};
   }
-  if (grandScore <= 4) return "Further investigation is needed.";
-  if (grandScore <= 6) return "Further investigation and changes are required soon.";
-  return "Investigate and change now.";
+  if (grandScore <= 4) return {"Further investigation is needed.", ZoneColour::Yellow};
+  if (grandScore <= 6) {
+    return {"Further investigation and changes are required soon.", ZoneColour::Orange};
+  }
+  return {"Investigate and change now.", ZoneColour::Red};
 }
 
 std::vector<WorkingValue> RulaWorkingValues() {

@@ -3,6 +3,7 @@
 #include <string_view>
 #include <vector>
 
+#include "tools/headline.h"
 #include "tools/score_table.h"
 #include "tools/working_value.h"
 
@@ -25,8 +26,13 @@ RulaTables RULA_InitTables();
 /// totals and the grand score left at 0 and the posture scores as they were, and `Overflow`.
 void RULA_Calculate();
 
-/// What the report advises at a grand score: bounds are 2, 4 and 6, each included below.
-std::string_view RulaRecommendation(int grandScore);
+/// What the report advises at a grand score.
+struct RulaAdvice {
+  std::string_view recommendation;
+  ZoneColour colour;
+};
+/// Bounds are 2, 4 and 6, each included below.
+RulaAdvice RulaAdviceOn(int grandScore);
 
 /// The working factors and scores of the last computation.
 std::vector<WorkingValue> RulaWorkingValues();

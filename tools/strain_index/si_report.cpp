@@ -89,7 +89,7 @@ void SI_Report(RichText& RichTextBox1) {
 
   RichTextBox1.SetTab(0, 500);
   RichTextBox1.Append(kNewLine, "Recommendation:");
-  RichTextBox1.Append(kNewLine, kTab, SiRiskLevel(Module1.SiStrainIndexScore));
+  RichTextBox1.Append(kNewLine, kTab, SiRiskOf(Module1.SiStrainIndexScore).line);
   RichTextBox1.Append(kNewLine);
   RichTextBox1.Append(kNewLine, kNote);
   RichTextBox1.Append(kNewLine);

@@ -16,6 +16,8 @@ constexpr double kLeastObservationMinutes = 0.001;
 constexpr double kStaticDutyPercent = 100;
 constexpr Integer kStaticEffortsRating = 5;
 
+constexpr std::string_view kRiskLabel = "Risk Level = ";
+
 /// Values from `least` to `most`, both included.
 struct RatingBand {
   double least;
@@ -98,7 +100,7 @@ const SiLabelRow& SiLabelsAt(int rating) {
   return kSiLabels[CheckedSubscript(rating - 1, kSiLabels.size())];
 }
 
-void SI_Calculate(RichText& RichTextBox1) {
+void SiComputeScore() {
   // The fields themselves change, and are saved so; the boxes on screen do not follow.
   if (Module1.SiDutyObservationMinutes.AsDouble() <= 0) {
     Module1.SiDutyObservationMinutes = kLeastObservationMinutes;
@@ -119,13 +121,19 @@ void SI_Calculate(RichText& RichTextBox1) {
 
   Module1.SiDurationRating = DurationRating(Module1.JobDurationPerDay.AsDouble());
   Module1.SiStrainIndexScore = StrainIndexScore();
+}
+
+void SI_Calculate(RichText& RichTextBox1) {
+  SiComputeScore();
   SI_Report(RichTextBox1);
 }
 
-std::string_view SiRiskLevel(double strainIndexScore) {
-  if (strainIndexScore < 5) return "Risk Level = Low";
-  if (strainIndexScore < 7) return "Risk Level = Moderate";
-  return "Risk Level = High";
+std::string_view SiRisk::name() const { return line.substr(kRiskLabel.size()); }
+
+SiRisk SiRiskOf(double strainIndexScore) {
+  if (strainIndexScore < 5) return {"Risk Level = Low", ZoneColour::Green};
+  if (strainIndexScore < 7) return {"Risk Level = Moderate", ZoneColour::Orange};
+  return {"Risk Level = High", ZoneColour::Red};
 }
 
 std::vector<WorkingValue> SiWorkingValues() {

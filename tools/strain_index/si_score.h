@@ -6,6 +6,7 @@
 
 #include "core/rich_text.h"
 #include "core/tagged_field.h"
+#include "tools/headline.h"
 #include "tools/working_value.h"
 
 namespace halvane {
@@ -37,17 +38,28 @@ extern const std::array<SiLabelRow, 5> kSiLabels;
 const SiMultiplierRow& SiMultipliersAt(int rating);
 const SiLabelRow& SiLabelsAt(int rating);
 
-/// Rates the job's fields, multiplies the six multipliers into `SiStrainIndexScore` and writes the
-/// report into `RichTextBox1`. An observation time of 0 or less is replaced by 0.001 minutes in the
-/// job itself.
+/// Rates the job's fields and multiplies the six multipliers into `SiStrainIndexScore`. An
+/// observation time of 0 or less is replaced by 0.001 minutes in the job itself.
 ///
 /// Throws `SubscriptOutOfRange` while a rating has never been set: a first value in a gap between
 /// two bands, or ribbons that no load has pressed. Throws `Overflow` for a ratio beyond a double.
+void SiComputeScore();
+
+/// Computes the score as above and writes the report into `RichTextBox1`.
 void SI_Calculate(RichText& RichTextBox1);
+
+/// What the report says of a score.
+struct SiRisk {
+  std::string_view line;
+  ZoneColour colour;
+
+  /// "Low", "Moderate" or "High".
+  [[nodiscard]] std::string_view name() const;
+};
 
 /// "Risk Level = Low" below 5, "Risk Level = Moderate" from 5 to below 7, "Risk Level = High" from
 /// 7 on.
-std::string_view SiRiskLevel(double strainIndexScore);
+SiRisk SiRiskOf(double strainIndexScore);
 
 /// The working values of the last computation.
 std::vector<WorkingValue> SiWorkingValues();

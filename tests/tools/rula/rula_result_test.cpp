@@ -42,7 +42,7 @@ TEST(RulaRecommendation, ChangesAtThreeFiveAndSeven) {
       {32767, kNow},
   });
   for (const Row& row : kRows) {
-    EXPECT_EQ(RulaRecommendation(row.grandScore), row.text) << row.grandScore;
+    EXPECT_EQ(RulaAdviceOn(row.grandScore).recommendation, row.text) << row.grandScore;
   }
 }
 
@@ -137,7 +137,7 @@ TEST(RulaAssessment, GivesItsScores) {
                                   Module1.RulaGrandScore}),
               row.results)
         << row.label;
-    EXPECT_EQ(RulaRecommendation(Module1.RulaGrandScore), row.recommendation) << row.label;
+    EXPECT_EQ(RulaAdviceOn(Module1.RulaGrandScore).recommendation, row.recommendation) << row.label;
   }
 }
 

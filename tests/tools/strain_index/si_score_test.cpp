@@ -325,13 +325,13 @@ TEST_F(StrainIndex, EveryCombinationOfRatingsGivesItsProduct) {
 
 TEST(StrainIndexRiskLevel, ChangesAtFiveAndSeven) {
   for (const double low : {-1.0, 0.0, 0.25, 4.999999}) {
-    EXPECT_EQ(SiRiskLevel(low), "Risk Level = Low") << low;
+    EXPECT_EQ(SiRiskOf(low).line, "Risk Level = Low") << low;
   }
   for (const double moderate : {5.0, 5.000001, 6.999999}) {
-    EXPECT_EQ(SiRiskLevel(moderate), "Risk Level = Moderate") << moderate;
+    EXPECT_EQ(SiRiskOf(moderate).line, "Risk Level = Moderate") << moderate;
   }
   for (const double high : {7.0, 7.000001, 1053.0}) {
-    EXPECT_EQ(SiRiskLevel(high), "Risk Level = High") << high;
+    EXPECT_EQ(SiRiskOf(high).line, "Risk Level = High") << high;
   }
 }
 

@@ -1,0 +1,84 @@
+#include "reporter/check_command.h"
+
+#include "core/job_text_encoding.h"
+#include "core/number_text.h"
+#include "reporter/json_text.h"
+#include "reporter/output.h"
+#include "reporter/printable_text.h"
+
+namespace halvane {
+namespace {
+
+/// How much of a text a line shows, in characters.
+constexpr std::size_t kShownLength = 40;
+
+std::string_view NameOf(JobVerdict verdict) {
+  switch (verdict) {
+    case JobVerdict::Refused: return "refused";
+    case JobVerdict::ReadInPart: return "read in part";
+    case JobVerdict::Good: break;
+  }
+  return "good";
+}
+
+std::string Shown(std::string_view found) {
+  std::string shown = FirstCharacters(PrintableText(found), kShownLength);
+  if (CharacterCount(found) > kShownLength) shown += "...";
+  return shown;
+}
+
+void AppendProblem(std::string& out, const JobProblem& problem) {
+  out += "{\"warning\":";
+  AppendJsonBoolean(out, problem.isWarning);
+  out += ",\"line\":" + PlainText(problem.line) + ",\"field\":";
+  AppendJsonString(out, problem.field);
+  out += ",\"found\":";
+  AppendJsonString(out, problem.found);
+  out += ",\"message\":";
+  AppendJsonString(out, problem.message);
+  out += '}';
+}
+
+}  // namespace
+
+void AppendCheckText(std::string& out, std::string_view file, const JobCheck& check) {
+  for (const JobProblem& problem : check.problems) {
+    out += PrintableText(file) + ":" + PlainText(problem.line) + ": ";
+    out += problem.isWarning ? "warning" : NameOf(check.verdict);
+    if (!problem.field.empty()) out += ": " + problem.field;
+    if (!problem.found.empty()) out += ": \"" + Shown(problem.found) + "\"";
+    out += ": " + PrintableText(problem.message);
+    out += kPlatformLineEnd;
+  }
+}
+
+void AppendCheckJson(std::string& out, std::string_view file, const JobCheck& check) {
+  out += "{\"file\":";
+  AppendJsonString(out, file);
+  out += ",\"verdict\":";
+  AppendJsonString(out, NameOf(check.verdict));
+  out += ",\"problems\":";
+  AppendJsonList(out, '[', ']', check.problems,
+                 [&out](const JobProblem& problem) { AppendProblem(out, problem); });
+  out += ",\"error\":";
+  if (check.failure) {
+    AppendJsonFailure(out, *check.failure);
+  } else {
+    out += "null";
+  }
+  out += "}\n";
+}
+
+JobOutcome CheckCommand::Do(std::string& out, const std::string& file) {
+  const JobCheck check = CheckJobFile(file);
+  if (format_ == ReportFormat::Json) {
+    AppendCheckJson(out, file, check);
+  } else {
+    AppendCheckText(out, file, check);
+  }
+  JobOutcome outcome{check.verdict != JobVerdict::Good, {}};
+  if (check.failure) outcome.complaints.push_back(Complaint(file, *check.failure));
+  return outcome;
+}
+
+}  // namespace halvane

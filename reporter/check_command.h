@@ -1,0 +1,25 @@
+#pragma once
+
+#include "reporter/job_check.h"
+#include "reporter/job_command.h"
+#include "reporter/report_writer.h"
+
+namespace halvane {
+
+/// Tells what is wrong with each job file: in text a line for each problem, in JSON an object a
+/// line for each file, good ones too.
+class CheckCommand : public JobCommand {
+ public:
+  explicit CheckCommand(ReportFormat format) : format_(format) {}
+
+  JobOutcome Do(std::string& out, const std::string& file) override;
+
+ private:
+  ReportFormat format_;
+};
+
+/// The lines of a check, each with its end.
+void AppendCheckText(std::string& out, std::string_view file, const JobCheck& check);
+void AppendCheckJson(std::string& out, std::string_view file, const JobCheck& check);
+
+}  // namespace halvane

@@ -1,0 +1,97 @@
+#include "reporter/csv_summary.h"
+
+#include "core/number_text.h"
+#include "reporter/printable_text.h"
+
+namespace halvane {
+namespace {
+
+/// What the text of a formula begins with in the usual spreadsheets.
+constexpr std::string_view kFormulaStarts = "=+-@";
+
+bool NeedsQuotes(std::string_view text) {
+  if (text.empty()) return false;
+  return text.front() == ' ' || text.back() == ' ' ||
+         text.find_first_of(",;\"") != std::string_view::npos;
+}
+
+void AppendQuoted(std::string& out, std::string_view text) {
+  out += '"';
+  for (const char c : text) {
+    if (c == '"') out += '"';
+    out += c;
+  }
+  out += '"';
+}
+
+void AppendValue(std::string& out, const Headline::Value& value) {
+  if (const auto* whole = std::get_if<int>(&value)) {
+    out += PlainText(*whole);
+  } else if (const auto* number = std::get_if<double>(&value)) {
+    out += PlainText(*number);
+  } else {
+    AppendCsvText(out, std::get<std::string_view>(value));
+  }
+}
+
+/// Appends the cells of a tool, each behind a comma.
+void AppendCells(std::string& out, const SummaryCell& cell, std::size_t count) {
+  for (std::size_t i = 0; i < count; ++i) {
+    out += ',';
+    if (!cell.reason) {
+      AppendValue(out, cell.headline.values[i]);
+    } else if (i == 0) {
+      AppendCsvText(out, cell.reason->message);
+    }
+  }
+}
+
+}  // namespace
+
+void AppendCsvText(std::string& out, std::string_view text) {
+  std::string printable = PrintableText(text);
+  // A spreadsheet passes over blanks in front of a formula.
+  const std::size_t start = printable.find_first_not_of(' ');
+  const bool likeFormula =
+      start != std::string::npos && kFormulaStarts.find(printable[start]) != std::string::npos;
+  if (likeFormula) printable.insert(0, 1, '\'');
+  if (NeedsQuotes(printable)) {
+    AppendQuoted(out, printable);
+  } else {
+    out += printable;
+  }
+}
+
+void CsvSummary::Begin(std::string& out) {
+  out += "file,analyst,job,workstation";
+  for (const ToolRow* tool : tools_) {
+    for (const HeadlineColumn& column : tool->headline->columns) {
+      out += ',';
+      out += tool->key;
+      out += '_';
+      out += column.key;
+    }
+  }
+  out += ",error\n";
+}
+
+void CsvSummary::Row(std::string& out, const JobSummary& summary) {
+  AppendCsvText(out, summary.file);
+  for (const std::string* text : {&summary.analyst, &summary.job, &summary.workstation}) {
+    out += ',';
+    AppendCsvText(out, *text);
+  }
+  for (std::size_t i = 0; i < tools_.size(); ++i) {
+    const std::size_t count = tools_[i]->headline->columns.size();
+    if (summary.failure) {
+      out.append(count, ',');
+    } else {
+      AppendCells(out, summary.cells[i], count);
+    }
+  }
+  out += ',';
+  if (summary.failure) AppendCsvText(out, summary.failure->message);
+  out += '\n';
+}
+
+}  // namespace halvane

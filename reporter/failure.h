@@ -1,0 +1,45 @@
+#pragma once
+
+#include <new>
+#include <optional>
+#include <string>
+
+#include "core/runtime_failure.h"
+#include "core/units.h"
+
+namespace halvane {
+
+/// Why there is no report: a name for programs, a sentence for people.
+struct ReportFailure {
+  std::string kind;
+  std::string message;
+};
+
+ReportFailure FailureFrom(const RuntimeFailure& failure);
+
+/// Runs `action`, which gives what stopped it, if anything; a failure that it throws counts as
+/// such.
+template <typename Action>
+std::optional<ReportFailure> Try(const Action& action) {
+  try {
+    return action();
+  } catch (const RuntimeFailure& failure) {
+    return FailureFrom(failure);
+  } catch (const std::bad_alloc&) {
+    return FailureFrom(RuntimeFailure(FailureKind::OutOfMemory));
+  }
+}
+
+/// Makes `Module1` a freshly started program in which `units` are chosen and that has opened the
+/// job file `file`: nothing of another file comes through. Gives what stopped it.
+std::optional<ReportFailure> OpenAfresh(const std::string& file, LengthUnit units);
+
+/// The tool has no report on the job, which is no failure.
+extern const ReportFailure kNoReport;
+
+/// What the user is told of a failure on `file`.
+std::string Complaint(const std::string& file, const ReportFailure& failure);
+/// The same of one that befell a tool.
+std::string Complaint(const std::string& file, std::string_view tool, const ReportFailure& failure);
+
+}  // namespace halvane

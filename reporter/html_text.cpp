@@ -1,0 +1,32 @@
+#include "reporter/html_text.h"
+
+#include "reporter/printable_text.h"
+
+namespace halvane {
+namespace {
+
+std::string_view EntityOf(char c) {
+  switch (c) {
+    case '&': return "&amp;";
+    case '<': return "&lt;";
+    case '>': return "&gt;";
+    case '"': return "&quot;";
+    case '\'': return "&#39;";
+    default: return {};
+  }
+}
+
+}  // namespace
+
+void AppendHtml(std::string& out, std::string_view text) {
+  for (const char c : PrintableText(text)) {
+    const std::string_view entity = EntityOf(c);
+    if (entity.empty()) {
+      out += c;
+    } else {
+      out += entity;
+    }
+  }
+}
+
+}  // namespace halvane

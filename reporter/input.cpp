@@ -1,0 +1,54 @@
+#include "reporter/input.h"
+
+namespace halvane {
+namespace {
+
+constexpr std::size_t kBlockSize = 65536;
+/// Far longer than the names that a system takes; input without line ends is cut here instead of
+/// filling the memory.
+constexpr std::size_t kLongestName = 65536;
+
+}  // namespace
+
+InputLines::Line InputLines::Read(std::vector<std::string>& complaints) {
+  Line line;
+  while (true) {
+    if (rest_.empty()) {
+      block_.resize(kBlockSize);
+      std::error_code error;
+      const std::size_t count = ReadInput(block_, error);
+      rest_ = std::string_view(block_.data(), count);
+      if (error) {
+        complaints.push_back("standard input: " + error.message());
+        // It may be half a name.
+        line.text.clear();
+      }
+      line.atEnd = count == 0;
+      if (line.atEnd) return line;
+    }
+    const std::size_t end = rest_.find('\n');
+    line.text += rest_.substr(0, end);
+    line.isTooLong = line.isTooLong || line.text.size() > kLongestName;
+    if (line.isTooLong) line.text.clear();
+    const bool isWhole = end != std::string_view::npos;
+    rest_.remove_prefix(isWhole ? end + 1 : rest_.size());
+    if (isWhole) return line;
+  }
+}
+
+std::optional<std::string> InputLines::Next(std::vector<std::string>& complaints) {
+  while (true) {
+    Line line = Read(complaints);
+    if (line.isTooLong) {
+      complaints.emplace_back("standard input: a line is longer than any file name");
+    } else if (line.text.find('\0') != std::string::npos) {
+      complaints.emplace_back(
+          "standard input: a line holds a zero byte; file names are expected one a line");
+    } else if (!line.text.empty()) {
+      return std::move(line.text);
+    }
+    if (line.atEnd) return std::nullopt;
+  }
+}
+
+}  // namespace halvane

@@ -1,0 +1,59 @@
+#include "reporter/job_list.h"
+
+#include <filesystem>
+
+namespace halvane {
+namespace {
+
+bool IsFolder(const std::string& path) {
+  std::error_code ignored;
+  return std::filesystem::is_directory(path, ignored);
+}
+
+}  // namespace
+
+JobList::JobList(std::vector<std::string> names, bool fromInput)
+    : names_(std::move(names)), fromInput_(fromInput) {}
+
+std::optional<std::string> JobList::Next(std::vector<std::string>& complaints) {
+  while (true) {
+    if (auto path = NextInFolder(complaints)) return path;
+    auto name = NextName(complaints);
+    if (!name || !IsFolder(*name)) return name;
+    folder_.emplace(*name);
+    folderName_ = *std::move(name);
+    folderHasFiles_ = false;
+  }
+}
+
+std::optional<std::string> JobList::NextInFolder(std::vector<std::string>& complaints) {
+  if (!folder_) return std::nullopt;
+  const std::size_t before = complaints.size();
+  auto path = folder_->Next(complaints);
+  if (path) {
+    folderHasFiles_ = true;
+    return path;
+  }
+  // Who named a folder expects something of it.
+  if (!folderHasFiles_ && complaints.size() == before) {
+    complaints.push_back(folderName_ + ": there is no job file (.qjt) in this folder");
+  }
+  folder_.reset();
+  return std::nullopt;
+}
+
+std::optional<std::string> JobList::NextName(std::vector<std::string>& complaints) {
+  if (nextName_ < names_.size()) return names_[nextName_++];
+  return fromInput_ ? input_.Next(complaints) : std::nullopt;
+}
+
+std::optional<std::size_t> JobList::CountLeft() const {
+  if (fromInput_) return std::nullopt;
+  std::vector<std::string> ignored;
+  JobList rest(*this);
+  std::size_t count = 0;
+  while (rest.Next(ignored)) ++count;
+  return count;
+}
+
+}  // namespace halvane

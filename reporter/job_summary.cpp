@@ -1,0 +1,62 @@
+#include "reporter/job_summary.h"
+
+#include "core/job_state.h"
+
+namespace halvane {
+namespace {
+
+/// Gives what stopped the tool, a job that it has no report on included.
+std::optional<ReportFailure> ReadHeadline(Headline& headline, const ToolHeadline& tool) {
+  return Try([&]() -> std::optional<ReportFailure> {
+    if (!tool.compute()) return kNoReport;
+    headline = tool.read();
+    return std::nullopt;
+  });
+}
+
+std::optional<double> RankOf(const JobSummary& summary, std::size_t column) {
+  if (summary.failure || summary.cells[column].reason) return std::nullopt;
+  const Headline::Value& value = summary.cells[column].headline.values.front();
+  if (const auto* whole = std::get_if<int>(&value)) return *whole;
+  return std::get<double>(value);
+}
+
+}  // namespace
+
+std::vector<std::string> Summarise(JobSummary& summary, const std::string& file, LengthUnit units,
+                                   std::span<const ToolRow* const> tools) {
+  summary.file = file;
+  summary.failure = OpenAfresh(file, units);
+  if (summary.failure) {
+    summary.analyst.clear();
+    summary.job.clear();
+    summary.workstation.clear();
+    summary.cells.clear();
+    return {Complaint(file, *summary.failure)};
+  }
+  summary.analyst = Module1.JobAnalyst.AsText();
+  summary.job = Module1.JobName.AsText();
+  summary.workstation = Module1.JobWorkstationId;
+
+  // Lives on, so that the arrays keep their memory from job to job.
+  static JobState opened;
+  if (tools.size() > 1) opened = Module1;
+  std::vector<std::string> complaints;
+  summary.cells.resize(tools.size());
+  for (std::size_t i = 0; i < tools.size(); ++i) {
+    if (i > 0) Module1 = opened;
+    SummaryCell& cell = summary.cells[i];
+    cell.reason = ReadHeadline(cell.headline, *tools[i]->headline);
+    if (cell.reason && cell.reason->kind != kNoReport.kind) {
+      complaints.push_back(Complaint(file, tools[i]->key, *cell.reason));
+    }
+  }
+  return complaints;
+}
+
+bool IsWorse(const JobSummary& a, const JobSummary& b, std::size_t column) {
+  // Nothing is less than any number.
+  return RankOf(a, column) > RankOf(b, column);
+}
+
+}  // namespace halvane

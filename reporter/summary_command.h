@@ -1,0 +1,33 @@
+#pragma once
+
+#include <optional>
+
+#include "reporter/job_command.h"
+#include "reporter/summary_writer.h"
+
+namespace halvane {
+
+/// Writes one line a job, with the headline of each tool.
+class SummaryCommand : public JobCommand {
+ public:
+  /// `sortBy`: one of `tools` by which the worst jobs come first, so that all lines are kept until
+  /// the end; null: the lines stand in the order of the jobs.
+  SummaryCommand(SummaryTools tools, LengthUnit units, ReportFormat format, const ToolRow* sortBy);
+
+  void Begin(std::string& out) override { writer_->Begin(out); }
+  JobOutcome Do(std::string& out, const std::string& file) override;
+  void End(std::string& out) override;
+  [[nodiscard]] bool writesAsItGoes() const override {
+    return !sortColumn_ && writer_->writesAsItGoes();
+  }
+
+ private:
+  SummaryTools tools_;
+  LengthUnit units_;
+  std::optional<std::size_t> sortColumn_;  ///< place of the tool
+  std::unique_ptr<SummaryWriter> writer_;
+  JobSummary summary_;  ///< of the job under way; a member, so that it keeps its memory
+  std::vector<JobSummary> kept_;
+};
+
+}  // namespace halvane

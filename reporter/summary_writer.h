@@ -1,0 +1,39 @@
+#pragma once
+
+#include <memory>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "reporter/job_summary.h"
+#include "reporter/report_writer.h"
+
+namespace halvane {
+
+/// Puts summaries into one format. Each function appends to `out`, in the order of the calls.
+class SummaryWriter {
+ public:
+  SummaryWriter() = default;
+  virtual ~SummaryWriter() = default;
+  SummaryWriter(const SummaryWriter&) = delete;
+  SummaryWriter& operator=(const SummaryWriter&) = delete;
+
+  /// Before the first job.
+  virtual void Begin(std::string& /*out*/) {}
+  virtual void Row(std::string& out, const JobSummary& summary) = 0;
+  /// Behind the last job.
+  virtual void End(std::string& /*out*/) {}
+
+  /// Whether each row is written when it comes, rather than at the end.
+  [[nodiscard]] virtual bool writesAsItGoes() const { return true; }
+};
+
+/// The tools, which all have a headline, in the order of their cells.
+using SummaryTools = std::vector<const ToolRow*>;
+
+std::unique_ptr<SummaryWriter> MakeSummaryWriter(ReportFormat format, const SummaryTools& tools);
+
+/// A value of a headline as people read it: rounded as in the tool's report.
+std::string ShownValue(const Headline::Value& value, const HeadlineColumn& column);
+
+}  // namespace halvane
