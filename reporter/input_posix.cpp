@@ -1,8 +1,8 @@
 #include <poll.h>
-#include <signal.h>
 #include <unistd.h>
 
 #include <cerrno>
+#include <csignal>
 
 #include "reporter/input.h"
 #include "reporter/interruption.h"

@@ -1,5 +1,3 @@
-#include <signal.h>
-
 #include <csignal>
 
 #include "reporter/interruption.h"

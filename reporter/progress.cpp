@@ -50,7 +50,8 @@ std::string Progress::Text() const {
   const std::size_t filled = kBarWidth * done_ / total;
   std::string text("[");
   text.append(filled, '#').append(kBarWidth - filled, '.').append("] ");
-  text += PlainText(static_cast<double>(100 * done_ / total));
+  const std::size_t percent = 100 * done_ / total;
+  text += PlainText(static_cast<double>(percent));
   return text + " % of " + CountText(total);
 }
 
