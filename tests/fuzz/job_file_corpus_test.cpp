@@ -51,6 +51,7 @@ constexpr std::array kCorpus{
     CorpusRow{"text_in_a_number.qjt", "TypeMismatch", false},
     CorpusRow{"text_with_comma_and_line_break.qjt", "Opened", true},
     CorpusRow{"text_without_quotes.qjt", "Opened", true},
+    CorpusRow{"thirty_digits.qjt", "Opened", true},
     CorpusRow{"two_tasks_first_deleted.qjt", "Opened", true},
     CorpusRow{"utf_8.qjt", "Opened", true},
     CorpusRow{"utf_8_that_1252_could_hold.qjt", "Opened", true},
