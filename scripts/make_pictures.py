@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Draws every posture picture, the task icon and the report charts as SVG files.
+"""Draws the postures, the charts, the main window's hand and the icons as SVG files.
 
 Usage: make_pictures.py [FOLDER]      the folder is "assets" if not given
 

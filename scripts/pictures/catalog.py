@@ -6,7 +6,7 @@ of buttons differ at a glance. Angles are those of `postures.py` and `hand.py`, 
 where "{}" stands in a title.
 """
 
-from pictures import charts, grip, hand, scales
+from pictures import charts, grip, hand, icon, open_hand, scales, symbols
 from pictures.figure import BENDING, BUST, LEGS, MIDDLE_FRONT, UPPER_FRONT, UPPER_SIDE, WAIST_SIDE
 from pictures.postures import (
     front_arm,
@@ -137,10 +137,26 @@ HAL = [
     ("hal/force_scale", scales.hal_force, (), "Borg Scale"),
 ]
 
+MAIN_WINDOW = [
+    ("main_window/hand", open_hand.open_hand, (), "Open right hand"),
+    ("main_window/file", symbols.written_page, (), "File"),
+    ("main_window/help", symbols.question_mark, (), "Help"),
+    ("main_window/close", symbols.cross, (), "Close"),
+    ("main_window/minimize", symbols.low_bar, (), "Minimize"),
+]
+
+ICONS = [
+    ("icon/hicolor/scalable/apps/halvane-tools", icon.large, (), "Halvane Tools"),
+    ("icon/hicolor/scalable/mimetypes/application-x-halvane-job", icon.job_file, (), "Job file"),
+    *((f"icon/small/halvane-tools-{size}", icon.small, (size,), "Halvane Tools")
+      for size in icon.SMALL),
+]
+
 
 def pictures():
     """Yields (asset name, document) of every picture."""
-    for asset, kind, arguments, title in [*CTD, *OCRA, *STRAIN_INDEX, *RULA, *REBA, *HAL]:
+    for asset, kind, arguments, title in [*CTD, *OCRA, *STRAIN_INDEX, *RULA, *REBA, *HAL,
+                                           *MAIN_WINDOW, *ICONS]:
         if "{side}" in asset:
             for side in ("right", "left"):
                 drawing = kind(f"{title}, {side}", *arguments, mirrored=side == "left")

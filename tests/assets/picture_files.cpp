@@ -29,7 +29,8 @@ QStringList PosturePictures() {
   names.replaceInStrings(".svg", "");
   names.removeIf([](const QString& name) {
     return name.startsWith("ocra/") || name.startsWith("strain_index/") ||
-           name.startsWith("hal/") || name == "ctd/report" || name == "ctd/task";
+           name.startsWith("hal/") || name.startsWith("icon/") || name.startsWith("main_window/") ||
+           name == "ctd/report" || name == "ctd/task";
   });
   return names;
 }

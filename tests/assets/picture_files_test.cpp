@@ -47,10 +47,17 @@ TEST(PictureFiles, EveryPictureThatTheProgramNamesIsThere) {
 TEST(PictureFiles, DesktopProgramHasEachOnce) {
   QSet<QString> wanted;
   for (const QString& name : FilesBelow(SourceFile("assets"), ".svg")) wanted << name;
-  for (const QString& name : FilesBelow(SourceFile("assets"), ".jpg")) {
-    // The desktop program shows the JPEG; its drawing is for the reporter's pages.
-    wanted << name;
-    wanted.remove(QString(name).replace(".jpg", ".svg"));
+  for (const QString suffix : {".jpg", ".png"}) {
+    for (const QString& name : FilesBelow(SourceFile("assets"), suffix)) {
+      // The desktop program shows what was rendered; its drawing is the source of that.
+      wanted << name;
+      wanted.remove(QString(name).replace(suffix, ".svg"));
+    }
+  }
+  // Of the icon it has the sizes that title bars and task switchers ask for.
+  wanted.removeIf([](const QString& name) { return name.startsWith("icon/"); });
+  for (const int side : {16, 24, 32, 48, 64, 128, 256}) {
+    wanted << QString("icon/hicolor/%1x%1/apps/halvane-tools.png").arg(side);
   }
   QStringList listed;
   QXmlStreamReader reader(ContentOf(SourceFile("assets/assets.qrc")));
@@ -65,7 +72,8 @@ TEST(PictureFiles, DesktopProgramHasEachOnce) {
 }
 
 TEST(PictureFiles, UseOnlyWhatTheProgramRenders) {
-  const QSet<QString> known{"svg", "title", "desc", "g", "path", "rect", "circle", "line", "text"};
+  const QSet<QString> known{"svg",  "title", "desc", "g",   "path",           "rect", "circle",
+                            "line", "text",  "defs", "use", "linearGradient", "stop"};
   const QRegularExpression arcs("[Aa]");
   for (const QString& name : FilesBelow(SourceFile("assets"), ".svg")) {
     QXmlStreamReader reader(ContentOf(SourceFile("assets/" + name)));

@@ -1,0 +1,148 @@
+"""Installs into an empty folder and has the desktop's own tools read what arrived there."""
+
+import configparser
+import os
+import re
+import shutil
+import stat
+import struct
+import subprocess
+import tempfile
+import unittest
+import xml.etree.ElementTree as ElementTree
+from pathlib import Path
+
+SOURCE = Path(os.environ["HALVANE_SOURCE"])
+VERSION = os.environ["HALVANE_VERSION"]
+SIZES = (16, 22, 24, 32, 48, 64, 128, 256, 512)
+JOB_TYPE = "application/x-halvane-job"
+ICONS = ("apps/halvane-tools", "mimetypes/" + JOB_TYPE.replace("/", "-"))
+
+# A component's name is to be a domain turned round. The project has no domain, and names none that
+# might be another's.
+KNOWN_REMARKS = {"cid-desktopapp-is-not-rdns"}
+
+
+def run(*command, **surroundings):
+    """Exit status and what was printed."""
+    done = subprocess.run(command, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True,
+                          env={**os.environ, "LC_ALL": "C.UTF-8", **surroundings}, check=False)
+    return done.returncode, done.stdout
+
+
+class InstalledProgram(unittest.TestCase):
+    @classmethod
+    def setUpClass(cls):
+        cls.folder = Path(tempfile.mkdtemp())
+        cls.addClassCleanup(shutil.rmtree, cls.folder)
+        # As a package is built, whatever the user of this machine has set.
+        cls.addClassCleanup(os.umask, os.umask(0o022))
+        status, said = run(os.environ["HALVANE_CMAKE"], "--install", os.environ["HALVANE_BUILD"],
+                           "--prefix", str(cls.folder))
+        assert status == 0, said
+        cls.share = cls.folder / "share"
+
+    def desktop_entry(self):
+        parser = configparser.ConfigParser(interpolation=None)
+        parser.optionxform = str
+        parser.read(self.share / "applications/halvane-tools.desktop", encoding="utf-8")
+        return parser["Desktop Entry"]
+
+    def component(self):
+        return ElementTree.parse(self.share / "metainfo/halvane-tools.metainfo.xml").getroot()
+
+    def test_nothing_is_missing_and_nothing_left_over(self):
+        wanted = {"bin/halvane-tools", "bin/halvane-report", "share/man/man1/halvane-report.1",
+                  "share/applications/halvane-tools.desktop",
+                  "share/metainfo/halvane-tools.metainfo.xml",
+                  "share/mime/packages/halvane-tools.xml"}
+        for icon in ICONS:
+            wanted.add(f"share/icons/hicolor/scalable/{icon}.svg")
+            wanted.update(f"share/icons/hicolor/{size}x{size}/{icon}.png" for size in SIZES)
+        found = {str(path.relative_to(self.folder)) for path in self.folder.rglob("*")
+                 if path.is_file()}
+        self.assertEqual(found, wanted)
+
+    def test_programs_run_and_all_else_is_readable_by_everyone(self):
+        for path in self.folder.rglob("*"):
+            mode = stat.S_IMODE(path.stat().st_mode)
+            runs = path.is_dir() or path.parent.name == "bin"
+            self.assertEqual(mode, 0o755 if runs else 0o644, path)
+        status, said = run(str(self.folder / "bin/halvane-report"), "--version")
+        self.assertEqual(status, 0, said)
+        self.assertIn(VERSION, said)
+
+    def test_menu_entry_is_valid_and_names_what_is_installed(self):
+        entry = self.share / "applications/halvane-tools.desktop"
+        self.assertEqual(run("desktop-file-validate", str(entry)), (0, ""))
+        values = self.desktop_entry()
+        self.assertEqual(values["Name"], "Halvane Tools")
+        self.assertTrue((self.folder / "bin" / values["Exec"].split()[0]).is_file())
+        self.assertIn(f"apps/{values['Icon']}", ICONS)
+        # The window tells the desktop the same name, so that the two are taken for one.
+        application = (SOURCE / "shell/halvane_application.cpp").read_text(encoding="utf-8")
+        named = re.search(r'setApplicationName\("([^"]+)"\)', application).group(1)
+        self.assertEqual(values["StartupWMClass"], named)
+        named = re.search(r'setDesktopFileName\("([^"]+)"\)', application).group(1)
+        self.assertEqual(entry.stem, named)
+
+    def test_menu_entry_offers_to_open_files_only_if_it_passes_them_on(self):
+        values = self.desktop_entry()
+        passes = re.search(r"%[fFuU]", values["Exec"]) is not None
+        self.assertEqual("MimeType" in values, passes)
+
+    def test_description_is_valid(self):
+        status, said = run("appstreamcli", "validate", "--no-net", "--no-color", "--format=yaml",
+                           str(self.share / "metainfo/halvane-tools.metainfo.xml"))
+        self.assertIn(status, (0, 3), said)
+        remarks = set(re.findall(r"^\s*-?\s*tag: (\S+)", said, re.M))
+        self.assertEqual(remarks, KNOWN_REMARKS, said)
+
+    def test_description_names_this_release_and_the_menu_entry(self):
+        component = self.component()
+        release = component.find("releases/release")
+        self.assertEqual(release.get("version"), VERSION)
+        changes = (SOURCE / "CHANGELOG.md").read_text(encoding="utf-8")
+        head = re.search(r"^## .*$", changes, re.M).group()
+        self.assertIn(VERSION, head)
+        self.assertEqual(release.get("type", "stable") == "development", "not yet" in head)
+        self.assertTrue((self.share / "applications" / component.findtext("launchable")).is_file())
+        categories = [element.text for element in component.findall("categories/category")]
+        self.assertEqual(";".join(categories) + ";", self.desktop_entry()["Categories"])
+        for element in component.findall("provides/binary"):
+            self.assertTrue((self.folder / "bin" / element.text).is_file(), element.text)
+
+    def test_job_files_get_their_own_kind_by_name_and_by_content(self):
+        mime = self.share / "mime"
+        self.assertEqual(run("xmllint", "--noout", str(mime / "packages/halvane-tools.xml")),
+                         (0, ""))
+        with tempfile.TemporaryDirectory() as copy:
+            base = Path(copy) / "mime"
+            shutil.copytree(mime, base)
+            status, said = run("update-mime-database", str(base), XDG_DATA_HOME=copy)
+            self.assertEqual((status, said), (0, ""))
+            globs = (base / "globs2").read_text(encoding="utf-8").splitlines()
+            self.assertIn(f"50:{JOB_TYPE}:*.qjt", globs)
+            magic = (base / "magic").read_bytes()
+            self.assertIn(f"[60:{JOB_TYPE}]".encode(), magic)
+            parts = re.search(rb">0=(..)(.*?)\n", magic, re.S)
+            length = struct.unpack(">H", parts.group(1))[0]
+            start = parts.group(2)[:length]
+        samples = sorted((SOURCE / "docs/samples").rglob("*.qjt"))
+        self.assertTrue(samples)
+        for sample in samples:
+            self.assertTrue(sample.read_bytes().startswith(start), sample.name)
+
+    def test_icons_have_the_size_of_their_folder(self):
+        for icon in ICONS:
+            for size in SIZES:
+                path = self.share / f"icons/hicolor/{size}x{size}/{icon}.png"
+                head = path.read_bytes()[:24]
+                self.assertEqual(head[:8], b"\x89PNG\r\n\x1a\n", path)
+                self.assertEqual(struct.unpack(">II", head[16:]), (size, size), path)
+            drawing = self.share / f"icons/hicolor/scalable/{icon}.svg"
+            self.assertEqual(run("xmllint", "--noout", str(drawing)), (0, ""))
+
+
+if __name__ == "__main__":
+    unittest.main()
