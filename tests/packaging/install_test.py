@@ -54,6 +54,7 @@ class InstalledProgram(unittest.TestCase):
     def test_nothing_is_missing_and_nothing_left_over(self):
         wanted = {"bin/halvane-tools", "bin/halvane-report", "share/man/man1/halvane-report.1",
                   "share/applications/halvane-tools.desktop",
+                  "share/halvane-tools/QJT Tools 1.chm",
                   "share/metainfo/halvane-tools.metainfo.xml",
                   "share/mime/packages/halvane-tools.xml"}
         for icon in ICONS:
