@@ -1,24 +1,57 @@
 #include "shell/frm_about.h"
 
 #include <QCoreApplication>
-#include <QHBoxLayout>
+#include <QGridLayout>
+#include <QIcon>
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
 
 #include "shell/layout.h"
+#include "shell/platform.h"
+#include "shell/product_icon.h"
 #include "shell/program_title.h"
+#include "shell/registry.h"
+#include "shell/silently.h"
 
 namespace halvane {
 namespace {
 
 constexpr double kTitleScale = 1.6;
-constexpr int kLeastWidth = 320;
+constexpr int kLeastWidth = 400;
+constexpr int kLargeIcon = 64;
+constexpr int kSmallIcon = 24;
 
-QLabel* AddLine(QVBoxLayout& column, const QString& name, const QString& text) {
-  auto* label = new QLabel(text, column.parentWidget());
+constexpr auto kMakerLine = "Made by %1";
+constexpr auto kContact = "How to use the program: Help, Content...";
+constexpr auto kContactReport =
+    "To report an error, send the job file and the version above to whoever gave you the program.";
+constexpr auto kNotice =
+    "This program is provided as it is, without warranty of any kind. Its figures support the "
+    "judgement of an analyst; they do not replace it.";
+constexpr auto kUnavailable = "System Information Is Unavailable At This Time";
+
+// Where the system's registry names the viewer: by its own path, else by its folder.
+constexpr auto kViewerKey = R"(SOFTWARE\Microsoft\Shared Tools\MSINFO)";
+constexpr auto kFolderKey = R"(SOFTWARE\Microsoft\Shared Tools Location)";
+constexpr auto kViewerInFolder = R"(\MSINFO32.EXE)";
+
+QLabel* AddLine(QBoxLayout& column, const QString& name, const QString& text) {
+  auto* label = new QLabel(text);
   label->setObjectName(name);
   column.addWidget(label);
+  return label;
+}
+
+void AddWrapped(QBoxLayout& column, const QString& name, const QString& text) {
+  AddLine(column, name, text)->setWordWrap(true);
+}
+
+QLabel* MakeIcon(const QString& name, int size) {
+  auto* label = new QLabel;
+  label->setObjectName(name);
+  label->setPixmap(ProductIcon().pixmap(QSize(size, size), label->devicePixelRatioF()));
+  label->setFixedSize(size, size);
   return label;
 }
 
@@ -27,30 +60,82 @@ QLabel* AddLine(QVBoxLayout& column, const QString& name, const QString& text) {
 FrmAbout::FrmAbout(QWidget* parent) : QDialog(parent) {
   setObjectName("frmAbout");
   setWindowTitle(QString("About ") + kProgramTitle);
-  auto* column = new QVBoxLayout(this);
-  column->setContentsMargins(2 * kMargin, 2 * kMargin, 2 * kMargin, 2 * kMargin);
-  column->setSpacing(kGap);
+  auto* grid = new QGridLayout(this);
+  grid->setContentsMargins(2 * kMargin, 2 * kMargin, 2 * kMargin, 2 * kMargin);
+  grid->setHorizontalSpacing(2 * kMargin);
+  grid->setVerticalSpacing(kGap);
+  grid->addWidget(MakeIcon("picIcon", kLargeIcon), 0, 0, Qt::AlignTop);
 
-  AddLine(*column, "Label1", QString(kMaker) + " Series:");
-  QLabel* title = AddLine(*column, "lblTitle", kProgramTitle);
+  auto* names = new QVBoxLayout;
+  grid->addLayout(names, 0, 1);
+  auto* series = new QHBoxLayout;
+  names->addLayout(series);
+  series->addWidget(MakeIcon("Image1", kSmallIcon));
+  AddLine(*series, "Label1", QString(kMaker) + " Series:");
+  series->addStretch();
+  QLabel* title = AddLine(*names, "lblTitle", kProgramTitle);
   QFont font = title->font();
   font.setPointSizeF(font.pointSizeF() * kTitleScale);
   font.setBold(true);
   title->setFont(font);
-  AddLine(*column, "lblVersion", "Version " + QCoreApplication::applicationVersion());
-  column->addSpacing(2 * kGap);
+  AddLine(*names, "lblVersion", "Version " + QCoreApplication::applicationVersion());
+  AddLine(*names, "lblMaker", QString(kMakerLine).arg(kMaker));
+  names->addSpacing(kGap);
+  AddWrapped(*names, "lblContact(0)", kContact);
+  AddWrapped(*names, "lblContact(1)", kContactReport);
+  names->addSpacing(kGap);
+  AddWrapped(*names, "lblNotice", kNotice);
+  grid->setColumnStretch(1, 1);
+  grid->setRowStretch(0, 1);
 
   auto* buttons = new QHBoxLayout;
-  auto* ok = new QPushButton("OK", this);
+  grid->addLayout(buttons, 1, 0, 1, 2);
+  buttons->addStretch();
+  auto* information = new QPushButton("&System Info...");
+  information->setObjectName("cmdSysInfo");
+  information->setAutoDefault(false);
+  information->setMinimumWidth(information->sizeHint().width() + 2 * kMargin);
+  auto* ok = new QPushButton("OK");
   ok->setObjectName("cmdOK");
   ok->setDefault(true);
-  buttons->addStretch();
+  buttons->addWidget(information);
   buttons->addWidget(ok);
-  column->addLayout(buttons);
+  setTabOrder(information, ok);
+  ok->setFocus();
   connect(ok, &QPushButton::clicked, this, &FrmAbout::cmdOK_Click);
+  connect(information, &QPushButton::clicked, this, &FrmAbout::cmdSysInfo_Click);
   setMinimumWidth(kLeastWidth);
+  layout()->setSizeConstraint(QLayout::SetFixedSize);
 }
 
 void FrmAbout::cmdOK_Click() { accept(); }
+
+void FrmAbout::cmdSysInfo_Click() {
+  Silently([this] { StartSystemInformation(); });
+}
+
+void FrmAbout::StartSystemInformation() {
+  Platform& platform = ThePlatform();
+  Registry& registry = platform.TheRegistry();
+  QString path;
+  // Whether that file is there is not asked: a start that fails says nothing.
+  if (GetKeyValue(registry, RegistryRoot::LocalMachine, kViewerKey, "PATH", path)) {
+    platform.StartProgram({path, {}});
+    return;
+  }
+  if (GetKeyValue(registry, RegistryRoot::LocalMachine, kFolderKey, "MSINFO", path)) {
+    path += kViewerInFolder;
+    if (platform.FileExists(path)) {
+      platform.StartProgram({path, {}});
+      return;
+    }
+  }
+  const ProgramCall viewer = platform.SystemViewer();
+  if (viewer.program.isEmpty()) {
+    platform.ShowMessage(this, kProgramTitle, kUnavailable, {Answer::Ok});
+  } else {
+    platform.StartProgram(viewer);
+  }
+}
 
 }  // namespace halvane

@@ -3,15 +3,17 @@
 #include <QAction>
 #include <QActionGroup>
 #include <QCloseEvent>
+#include <QLabel>
 #include <QMenu>
 #include <QMouseEvent>
 #include <QPushButton>
-#include <QStyle>
 #include <QTimer>
-#include <QToolButton>
 
 #include "core/job_state.h"
 #include "core/units.h"
+#include "shell/controls/link_label.h"
+#include "shell/controls/raised_button.h"
+#include "shell/controls/ribbon_button.h"
 #include "shell/frm_about.h"
 #include "shell/hand_main_look.h"
 #include "shell/layout.h"
@@ -33,10 +35,15 @@ constexpr auto kSaveQuestion = "Save data before exiting this program?";
 FrmHandMain::FrmHandMain() : fileCommands_(*this), Timer1_(new QTimer(this)) {
   setObjectName("frmHand_Main");
   setWindowTitle("Halvane Tools V1.0");
-  setMouseTracking(true);
+  HandMainLook::Arrange(*this);
+  SSSplash1_->setMouseTracking(true);
+  for (QWidget* area : {SSSplash1_, Picture1_, static_cast<QWidget*>(Label1_)}) {
+    area->installEventFilter(this);
+  }
+  connect(Hyperlink1_, &LinkLabel::clicked, this, &FrmHandMain::Hyperlink1_Click);
   MakeMenus();
   MakeButtons();
-  HandMainLook::Arrange(*this);
+  HandMainLook::PlaceButtons(*this);
   Timer1_->setObjectName("Timer1");
   Timer1_->setSingleShot(true);
   connect(Timer1_, &QTimer::timeout, this, &FrmHandMain::Timer1_Timer);
@@ -92,48 +99,44 @@ void FrmHandMain::MakeButtons() {
   for (const ToolRow& row : Tools()) {
     if (row.buttonCaption.empty()) continue;
     const int index = static_cast<int>(SSCommand2_.size());
-    auto* button = new QPushButton(ScreenText(row.buttonCaption), this);
-    button->setObjectName(ElementName("SSCommand2", index));
+    auto* button = new RaisedButton(ElementName("SSCommand2", index), this);
+    button->setText(ScreenText(row.buttonCaption));
     button->setToolTip(ScreenText(row.buttonTip));
-    connect(button, &QPushButton::clicked, this, [this, index] { SSCommand2_Click(index); });
+    connect(button, &RaisedButton::clicked, this, [this, index] { SSCommand2_Click(index); });
     SSCommand2_.push_back(button);
   }
   const std::array captions{"File", "Help"};
   const std::array tips{"File Menu", "Help Menu"};
   for (int i = 0; i < 2; ++i) {
     const auto at = static_cast<std::size_t>(i);
-    auto* ribbon = new QToolButton(this);
-    ribbon->setObjectName(ElementName("SSRibbon1", i));
-    ribbon->setText(captions.at(at));
+    auto* ribbon = new RibbonButton(ElementName("SSRibbon1", i), captions.at(at), this);
+    ribbon->SetOneLine();
     ribbon->setToolTip(tips.at(at));
-    ribbon->setCheckable(true);
-    ribbon->setFocusPolicy(Qt::StrongFocus);
-    connect(ribbon, &QToolButton::clicked, this,
+    connect(ribbon, &RibbonButton::clicked, this,
             [this, i](bool pressed) { SSRibbon1_Click(i, pressed); });
     SSRibbon1_.push_back(ribbon);
   }
   const std::array closeTips{"Close", "Minimize"};
-  const std::array icons{QStyle::SP_TitleBarCloseButton, QStyle::SP_TitleBarMinButton};
   for (int i = 0; i < 2; ++i) {
     const auto at = static_cast<std::size_t>(i);
-    auto* button = new QToolButton(this);
-    button->setObjectName(ElementName("SSCommand3", i));
+    auto* button = new RaisedButton(ElementName("SSCommand3", i), this);
     button->setToolTip(closeTips.at(at));
     button->setAccessibleName(closeTips.at(at));
-    button->setIcon(style()->standardIcon(icons.at(at)));
-    button->setFocusPolicy(Qt::StrongFocus);
-    connect(button, &QToolButton::clicked, this, [this, i] { SSCommand3_Click(i); });
+    connect(button, &RaisedButton::clicked, this, [this, i] { SSCommand3_Click(i); });
     SSCommand3_.push_back(button);
   }
   SSCommand1_ = new QPushButton("ssCommand1", this);
   SSCommand1_->setObjectName("SSCommand1");
   connect(SSCommand1_, &QPushButton::clicked, this, &FrmHandMain::SSCommand1_Click);
 
-  for (QWidget* control : findChildren<QAbstractButton*>()) control->hide();
+  for (QWidget* control : findChildren<QAbstractButton*>(Qt::FindDirectChildrenOnly)) {
+    control->hide();
+  }
 }
 
 void FrmHandMain::Timer1_Timer() {
   Picture3_->hide();
+  HandMainLook::ShowPictures(*this);
   for (QWidget* control : SSCommand2_) control->show();
   for (QWidget* control : SSRibbon1_) control->show();
   for (QWidget* control : SSCommand3_) control->show();
@@ -189,18 +192,52 @@ void FrmHandMain::SSRibbon1_Click(int index, bool pressed) {
 }
 
 void FrmHandMain::ReleaseRibbons() {
-  for (QToolButton* ribbon : SSRibbon1_) ribbon->setChecked(false);
+  for (RibbonButton* ribbon : SSRibbon1_) ribbon->setChecked(false);
 }
+
+void FrmHandMain::Drag(Qt::MouseButton button) { ThePlatform().StartWindowMove(*this, button); }
+
+bool FrmHandMain::eventFilter(QObject* watched, QEvent* event) {
+  const QEvent::Type type = event->type();
+  const bool press = type == QEvent::MouseButtonPress || type == QEvent::MouseButtonDblClick;
+  const bool release = type == QEvent::MouseButtonRelease;
+  if (!press && !release && type != QEvent::MouseMove) return QWidget::eventFilter(watched, event);
+  const Qt::MouseButton button = static_cast<QMouseEvent*>(event)->button();
+  if (watched == SSSplash1_) {
+    if (press) SSSplash1_MouseDown(button);
+    if (release) SSSplash1_Click();
+    if (type == QEvent::MouseMove) SSSplash1_MouseMove();
+  } else if (press && watched == Picture1_) {
+    Picture1_MouseDown(button);
+  } else if (press) {
+    Label1_MouseDown(button);
+  }
+  // What happens on one of these areas is not an event of the form below it as well.
+  return true;
+}
+
+void FrmHandMain::SSSplash1_MouseDown(Qt::MouseButton button) {
+  ReleaseRibbons();
+  // The hand covers the form, so it is what the window is dragged by.
+  Drag(button);
+}
+
+void FrmHandMain::SSSplash1_MouseMove() { ReleaseRibbons(); }
+
+void FrmHandMain::SSSplash1_Click() { ReleaseRibbons(); }
+
+void FrmHandMain::Picture1_MouseDown(Qt::MouseButton button) { Drag(button); }
+
+void FrmHandMain::Label1_MouseDown(Qt::MouseButton button) { Drag(button); }
 
 void FrmHandMain::mousePressEvent(QMouseEvent* event) {
   ReleaseRibbons();
-  QWidget::mousePressEvent(event);
+  Drag(event->button());
 }
 
-void FrmHandMain::mouseMoveEvent(QMouseEvent* event) {
-  ReleaseRibbons();
-  QWidget::mouseMoveEvent(event);
-}
+void FrmHandMain::mouseReleaseEvent(QMouseEvent* /*event*/) { ReleaseRibbons(); }
+
+void FrmHandMain::Hyperlink1_Click() { findChild<QAction*>("mnuContent")->trigger(); }
 
 void FrmHandMain::mnuNew_Click() { fileCommands_.New(); }
 

@@ -8,14 +8,17 @@
 #include "tools/tool_table.h"
 
 class QAction;
+class QLabel;
 class QMenu;
 class QPushButton;
 class QTimer;
-class QToolButton;
 
 namespace halvane {
 
 class HandMainLook;
+class LinkLabel;
+class RaisedButton;
+class RibbonButton;
 class ToolForm;
 
 /// The main window: opening phase, launch buttons, file and help menus, the way out. How it looks
@@ -27,6 +30,12 @@ class FrmHandMain : public QWidget {
   ~FrmHandMain() override;
 
   // In the order of the screen.
+  void SSSplash1_MouseDown(Qt::MouseButton button);
+  void SSSplash1_MouseMove();
+  void SSSplash1_Click();
+  void Picture1_MouseDown(Qt::MouseButton button);
+  void Label1_MouseDown(Qt::MouseButton button);
+  void Hyperlink1_Click();           ///< on the opening panel
   void SSCommand3_Click(int index);  ///< 0 close, 1 minimise
   void SSCommand2_Click(int index);  ///< launch buttons
   void SSRibbon1_Click(int index, bool pressed);
@@ -49,7 +58,8 @@ class FrmHandMain : public QWidget {
  protected:
   void closeEvent(QCloseEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
-  void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   friend class HandMainLook;
@@ -58,17 +68,22 @@ class FrmHandMain : public QWidget {
   void MakeMenus();
   void MakeButtons();
   void ReleaseRibbons();
+  /// Lets the window follow the mouse until that button is released.
+  void Drag(Qt::MouseButton button);
   void ShowUnits();
   void EnableShortcuts(bool enabled);
 
   FileCommands fileCommands_;
   QTimer* Timer1_;
+  QWidget* SSSplash1_ = nullptr;
   QWidget* Picture1_ = nullptr;
+  QLabel* Label1_ = nullptr;
   QWidget* Picture3_ = nullptr;
+  LinkLabel* Hyperlink1_ = nullptr;
   QPushButton* SSCommand1_ = nullptr;
-  std::vector<QPushButton*> SSCommand2_;
-  std::vector<QToolButton*> SSCommand3_;
-  std::vector<QToolButton*> SSRibbon1_;
+  std::vector<RaisedButton*> SSCommand2_;
+  std::vector<RaisedButton*> SSCommand3_;
+  std::vector<RibbonButton*> SSRibbon1_;
   QMenu* mnuPopUp1_ = nullptr;
   QMenu* mnuPopup2_ = nullptr;
   QAction* mnuMetric_ = nullptr;

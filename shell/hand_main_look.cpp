@@ -1,105 +1,161 @@
 #include "shell/hand_main_look.h"
 
-#include <QGridLayout>
+#include <QApplication>
 #include <QHBoxLayout>
+#include <QIcon>
 #include <QLabel>
-#include <QPushButton>
-#include <QToolButton>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <vector>
 
 #include "shell/controls/gradient_panel.h"
+#include "shell/controls/link_label.h"
+#include "shell/controls/raised_button.h"
+#include "shell/controls/ribbon_button.h"
+#include "shell/controls/splash_picture.h"
 #include "shell/frm_hand_main.h"
 #include "shell/layout.h"
+#include "shell/product_icon.h"
+#include "shell/program_title.h"
 
 namespace halvane {
 namespace {
 
+// Places in logical pixels of the picture. The palm is wide from 78 to 278 and narrows to the wrist
+// from 440 on.
 constexpr QSize kSize{306, 501};
-constexpr auto kShownTitle = "Halvane Tools 1.8B";
-constexpr int kButtonHeight = 44;
-constexpr double kProductNameScale = 1.9;
+constexpr QRect kTitleStrip{78, 206, 200, 28};
+constexpr QRect kPalm{78, 240, 200, 200};
+constexpr QRect kLaunchButtons{78, 240, 200, 165};
+constexpr QRect kRibbons{100, 410, 156, 62};
+constexpr int kStripButton = 20;
+constexpr int kStripPicture = 16;
+constexpr int kStripGap = 4;
+constexpr int kButtonGap = 5;
+constexpr int kRibbonPicture = 32;
 
-QLabel* AddLabel(QBoxLayout& layout, const QString& name, const QString& text, double scale) {
-  auto* label = new QLabel(text, layout.parentWidget());
-  label->setObjectName(name);
-  label->setAlignment(Qt::AlignCenter);
-  QFont font = label->font();
+constexpr auto kShownTitle = "Halvane Tools 1.8B";
+constexpr double kProductNameScale = 1.7;
+/// The five lines of the opening panel have room for so high a text each.
+constexpr int kLargestLine = 34;
+constexpr int kCaptionMargin = 8;
+
+/// Gives a text its font: `scale` of the usual one, or less where it would not fit into `room`.
+void FitFont(QWidget& widget, const QString& text, double scale, QSize room) {
+  QFont font = widget.font();
   font.setPointSizeF(font.pointSizeF() * scale);
   font.setBold(scale > 1);
-  label->setFont(font);
+  const QSize size = QFontMetrics(font).size(Qt::TextSingleLine, text);
+  const double fit = std::min({1.0, static_cast<double>(room.width()) / size.width(),
+                               static_cast<double>(room.height()) / size.height()});
+  if (fit < 1) font.setPointSizeF(font.pointSizeF() * fit);
+  widget.setFont(font);
+}
+
+QLabel* AddLabel(QBoxLayout& layout, const QString& name, const QString& text, double scale,
+                 QSize room) {
+  auto* label = new QLabel(text);
+  label->setObjectName(name);
+  label->setAlignment(Qt::AlignCenter);
   layout.addWidget(label);
+  FitFont(*label, text, scale, room);
   return label;
-}
-
-QWidget* MakeTitleStrip(QWidget& form) {
-  auto* strip = new GradientPanel("Picture1", &form);
-  auto* row = new QHBoxLayout(strip);
-  row->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
-  row->setSpacing(kGap);
-  AddLabel(*row, "Label1", kShownTitle, 1.1)->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-  row->addStretch();
-  return strip;
-}
-
-QWidget* MakeOpeningPanel(QWidget& form) {
-  auto* panel = new GradientPanel("Picture3", &form);
-  auto* column = new QVBoxLayout(panel);
-  column->addStretch(2);
-  AddLabel(*column, ElementName("lblProductName", 0), kShownTitle, kProductNameScale);
-  auto* maker = new QHBoxLayout;
-  column->addLayout(maker);
-  maker->addStretch();
-  AddLabel(*maker, ElementName("lblProductName", 1), "Ostrel", 1.3);
-  AddLabel(*maker, ElementName("lblProductName", 2), "tm", 0.8)->setAlignment(Qt::AlignTop);
-  maker->addStretch();
-  column->addStretch(3);
-  return panel;
 }
 
 }  // namespace
 
 void HandMainLook::Arrange(FrmHandMain& form) {
+  form.setWindowFlags(Qt::Window | Qt::FramelessWindowHint | Qt::WindowMinimizeButtonHint);
   form.setFixedSize(kSize);
-  form.Picture1_ = MakeTitleStrip(form);
-  form.Picture3_ = MakeOpeningPanel(form);
+  // Only X11 can cut a window to its outline; elsewhere nothing is seen of what is not painted.
+  form.setAttribute(Qt::WA_TranslucentBackground, QApplication::platformName() != "xcb");
+  form.SSSplash1_ =
+      new SplashPicture("SSSplash1", "main_window/hand", "main_window/hand_mask", &form);
+  form.SSSplash1_->setGeometry(QRect(QPoint(), kSize));
+  MakeTitleStrip(form);
+  MakeOpeningPanel(form);
+  // Else the link of the opening panel would have it.
+  form.setFocus();
+}
 
-  auto* grid = new QGridLayout(&form);
-  grid->setContentsMargins(0, 0, 0, 0);
-  grid->setSpacing(0);
-  grid->setRowStretch(1, 1);
-  grid->addWidget(form.Picture1_, 0, 0);
+void HandMainLook::MakeTitleStrip(FrmHandMain& form) {
+  form.Picture1_ = new GradientPanel("Picture1", &form);
+  form.Picture1_->setGeometry(kTitleStrip);
+  auto* row = new QHBoxLayout(form.Picture1_);
+  row->setContentsMargins(kStripGap, 0, kStripGap, 0);
+  const int buttons = 2 * (kStripButton + kStripGap) + 2 * kStripGap;
+  form.Label1_ = AddLabel(*row, "Label1", kShownTitle, 1.1, kTitleStrip.size() - QSize(buttons, 0));
+  form.Label1_->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+}
 
-  auto* strip = form.Picture1_->layout();
-  // Minimise stands left of Close, as on other windows.
-  strip->addWidget(form.SSCommand3_.at(1));
-  strip->addWidget(form.SSCommand3_.at(0));
+void HandMainLook::MakeOpeningPanel(FrmHandMain& form) {
+  auto* panel = new GradientPanel("Picture3", &form);
+  form.Picture3_ = panel;
+  panel->setGeometry(kPalm);
+  // The window is dragged by its strip and by the hand.
+  panel->setAttribute(Qt::WA_NoMousePropagation);
+  auto* column = new QVBoxLayout(panel);
+  const QSize line(kPalm.width() - 2 * kMargin, kLargestLine);
+  column->addStretch(2);
+  AddLabel(*column, ElementName("lblProductName", 0), kShownTitle, kProductNameScale, line);
+  auto* maker = new QHBoxLayout;
+  column->addLayout(maker);
+  maker->addStretch();
+  AddLabel(*maker, ElementName("lblProductName", 1), kMaker, 1.3,
+           {line.width() / 2, line.height()});
+  AddLabel(*maker, ElementName("lblProductName", 2), "tm", 0.8, {line.width() / 4, line.height()})
+      ->setAlignment(Qt::AlignTop);
+  maker->addStretch();
+  column->addStretch(2);
+  AddLabel(*column, "lblMaker", QString("Made by ") + kMaker, 1.0, line);
+  form.Hyperlink1_ = new LinkLabel("Hyperlink1", "How to use the program", panel);
+  FitFont(*form.Hyperlink1_, form.Hyperlink1_->text(), 1.0, line);
+  column->addWidget(form.Hyperlink1_, 0, Qt::AlignHCenter);
+  column->addStretch(1);
+}
 
-  auto* buttons = new QVBoxLayout;
-  buttons->setContentsMargins(5 * kMargin, 3 * kMargin, 5 * kMargin, 3 * kMargin);
-  buttons->setSpacing(kGap);
-  for (QPushButton* button : form.SSCommand2_) {
-    button->setMinimumHeight(kButtonHeight);
-    buttons->addWidget(button);
+void HandMainLook::PlaceButtons(FrmHandMain& form) {
+  const int count = static_cast<int>(form.SSCommand2_.size());
+  const int height = (kLaunchButtons.height() - (count - 1) * kButtonGap) / count;
+  int top = kLaunchButtons.top();
+  for (RaisedButton* button : form.SSCommand2_) {
+    FitFont(*button, button->text(), 1.0,
+            {kLaunchButtons.width() - 2 * kCaptionMargin, height - kCaptionMargin});
+    button->setGeometry(kLaunchButtons.left(), top, kLaunchButtons.width(), height);
+    top += height + kButtonGap;
   }
-  buttons->addStretch();
-  auto* ribbons = new QHBoxLayout;
-  ribbons->setSpacing(kGap);
-  for (QToolButton* ribbon : form.SSRibbon1_) {
-    ribbon->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    ribbons->addWidget(ribbon);
+  // File and Help side by side.
+  const int width = (kRibbons.width() - kButtonGap) / 2;
+  int left = kRibbons.left();
+  const QSize caption(width - kCaptionMargin,
+                      kRibbons.height() - kRibbonPicture - 3 * kCaptionMargin / 2);
+  for (RibbonButton* ribbon : form.SSRibbon1_) {
+    FitFont(*ribbon, ribbon->text(), 1.0, caption);
+    ribbon->setGeometry(left, kRibbons.top(), width, kRibbons.height());
+    left += width + kButtonGap;
   }
-  buttons->addLayout(ribbons);
-  grid->addLayout(buttons, 1, 0);
-  // The opening panel covers the place of the buttons.
-  grid->addWidget(form.Picture3_, 1, 0);
-  form.Picture3_->raise();
+  // Close stands at the end of the strip and Minimize left of it, as on other windows.
+  const int middle = kTitleStrip.top() + (kTitleStrip.height() - kStripButton) / 2;
+  left = kTitleStrip.left() + kTitleStrip.width();
+  for (RaisedButton* button : form.SSCommand3_) {
+    left -= kStripButton + kStripGap;
+    button->setIconSize({kStripPicture, kStripPicture});
+    button->setGeometry(left, middle, kStripButton, kStripButton);
+  }
 
   // The Tab key goes as one reads: title strip, tools, menus.
   std::vector<QWidget*> order{form.SSCommand3_.at(1), form.SSCommand3_.at(0)};
   order.insert(order.end(), form.SSCommand2_.begin(), form.SSCommand2_.end());
   order.insert(order.end(), form.SSRibbon1_.begin(), form.SSRibbon1_.end());
   for (std::size_t i = 1; i < order.size(); ++i) QWidget::setTabOrder(order[i - 1], order[i]);
+}
+
+void HandMainLook::ShowPictures(FrmHandMain& form) {
+  form.SSRibbon1_.at(0)->SetPicture("main_window/file", kRibbonPicture);
+  form.SSRibbon1_.at(1)->SetPicture("main_window/help", kRibbonPicture);
+  form.SSCommand3_.at(0)->setIcon(QIcon(":/assets/main_window/close.svg"));
+  form.SSCommand3_.at(1)->setIcon(QIcon(":/assets/main_window/minimize.svg"));
+  QApplication::setWindowIcon(ProductIcon());
 }
 
 }  // namespace halvane

@@ -4,11 +4,21 @@ namespace halvane {
 
 class FrmHandMain;
 
-/// How the main window looks: size, pictures and the places of its controls.
+/// How the main window looks: outline, pictures and the places of its controls, every one of which
+/// stands wholly inside the hand.
 class HandMainLook {
  public:
-  /// Makes the title strip and the opening panel and puts every control in its place.
+  /// Makes the hand, the title strip and the opening panel.
   static void Arrange(FrmHandMain& form);
+  /// Puts the buttons in their places.
+  static void PlaceButtons(FrmHandMain& form);
+  /// Gives the ribbons their pictures. Apart, since the opening phase shows none and the start of
+  /// the program is not to wait for them.
+  static void ShowPictures(FrmHandMain& form);
+
+ private:
+  static void MakeTitleStrip(FrmHandMain& form);
+  static void MakeOpeningPanel(FrmHandMain& form);
 };
 
 }  // namespace halvane

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
+#include <Qt>
 #include <vector>
 
 class QTextDocument;
@@ -11,9 +13,19 @@ namespace halvane {
 /// A button of a message box.
 enum class Answer { Yes, No, Cancel, Ok };
 
+/// A program and what it is started with.
+struct ProgramCall {
+  QString program;
+  QStringList arguments;
+
+  bool operator==(const ProgramCall&) const = default;
+};
+
+class Registry;
+
 /// Everything that reaches outside the program's own windows: messages, dialogs, printer,
-/// clipboard, folders, the end of the program. The one in use is `ThePlatform()`; tests put their
-/// double there.
+/// clipboard, folders, registry, other programs, the end of this one. The one in use is
+/// `ThePlatform()`; tests put their double there.
 class Platform {
  public:
   Platform() = default;
@@ -53,6 +65,17 @@ class Platform {
 
   /// The folder for the user's documents.
   virtual QString DocumentsFolder() = 0;
+
+  [[nodiscard]] virtual bool FileExists(const QString& path) = 0;
+  /// The system's registry; an empty one where there is none.
+  virtual Registry& TheRegistry() = 0;
+  /// Starts a program that runs on by itself, in a normal window; false when that failed.
+  virtual bool StartProgram(const ProgramCall& call) = 0;
+  /// The desktop's own viewer of system information; no program where none is installed.
+  virtual ProgramCall SystemViewer() = 0;
+
+  /// Lets the user drag a window by the mouse button that is held down on it, as by its title bar.
+  virtual void StartWindowMove(QWidget& window, Qt::MouseButton button) = 0;
 
   /// Ends the program: every event loop returns, with no further question. The caller returns at
   /// once.

@@ -2,19 +2,28 @@
 
 #include <QClipboard>
 #include <QCoreApplication>
+#include <QCursor>
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QMessageBox>
+#include <QMouseEvent>
 #include <QPageSetupDialog>
 #include <QPrintDialog>
 #include <QPrinter>
+#include <QProcess>
 #include <QSaveFile>
 #include <QStandardPaths>
 #include <QTextDocument>
+#include <QWidget>
+#include <QWindow>
 #include <array>
+
+#include "shell/platform_x11.h"
+#include "shell/registry_access.h"
+#include "shell/system_viewer.h"
 
 namespace halvane {
 namespace {
@@ -130,6 +139,35 @@ bool QtPlatform::CopyFile(const QString& source, const QString& target) {
 
 QString QtPlatform::DocumentsFolder() {
   return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+}
+
+bool QtPlatform::FileExists(const QString& path) { return QFileInfo::exists(path); }
+
+Registry& QtPlatform::TheRegistry() { return SystemRegistry(); }
+
+bool QtPlatform::StartProgram(const ProgramCall& call) {
+  return QProcess::startDetached(call.program, call.arguments);
+}
+
+ProgramCall QtPlatform::SystemViewer() {
+  const QStringList desktops = QString::fromLocal8Bit(qgetenv("XDG_CURRENT_DESKTOP")).split(':');
+  return FindSystemViewer(desktops, [](const QString& program) {
+    return !QStandardPaths::findExecutable(program).isEmpty();
+  });
+}
+
+void QtPlatform::StartWindowMove(QWidget& window, Qt::MouseButton button) {
+  QWindow* native = window.windowHandle();
+  if (native == nullptr) return;
+  if (!MoveX11Window(window, button)) {
+    native->startSystemMove();
+    return;
+  }
+  // The release goes to the window manager; without one, the pressed widget would keep the mouse.
+  const QPointF global = QCursor::pos();
+  QMouseEvent release(QEvent::MouseButtonRelease, native->mapFromGlobal(global), global, button,
+                      Qt::NoButton, Qt::NoModifier);
+  QCoreApplication::sendEvent(native, &release);
 }
 
 void QtPlatform::EndProgram(int exitStatus) { QCoreApplication::exit(exitStatus); }

@@ -27,6 +27,11 @@ class QtPlatform : public Platform {
   QString DataFolder() override;
   bool CopyFile(const QString& source, const QString& target) override;
   QString DocumentsFolder() override;
+  bool FileExists(const QString& path) override;
+  Registry& TheRegistry() override;
+  bool StartProgram(const ProgramCall& call) override;
+  ProgramCall SystemViewer() override;
+  void StartWindowMove(QWidget& window, Qt::MouseButton button) override;
   void EndProgram(int exitStatus) override;
 
   /// The printer that the two printer dialogs set up and `Print` prints on. Made at first use,

@@ -4,7 +4,7 @@
 
 namespace halvane {
 
-/// A panel that goes from full blue at its top to black at its bottom.
+/// A panel that goes from full blue at its top to black at its bottom, for white text.
 class GradientPanel : public QWidget {
   Q_OBJECT
  public:

@@ -8,7 +8,6 @@ namespace halvane {
 namespace {
 
 constexpr int kPadding = 4;
-constexpr int kPictureSize = 56;
 /// A button with a picture is so wide where there is room.
 constexpr int kPictureButtonWidth = 72;
 /// A caption wider than this many average characters wraps.
@@ -25,9 +24,9 @@ RibbonButton::RibbonButton(const QString& name, const QString& caption, QWidget*
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
 
-void RibbonButton::SetPicture(const QString& assetName) {
+void RibbonButton::SetPicture(const QString& assetName, int size) {
   setIcon(QIcon(":/assets/" + assetName + ".svg"));
-  setIconSize({kPictureSize, kPictureSize});
+  setIconSize({size, size});
 }
 
 void RibbonButton::SetOneLine() {
@@ -47,11 +46,11 @@ int RibbonButton::CaptionFlags() const {
 int RibbonButton::CaptionWidth() const {
   if (oneLine_) {
     const int line = fontMetrics().horizontalAdvance(ShownText()) + 1;
-    return icon().isNull() ? line : std::max(kPictureSize, line);
+    return icon().isNull() ? line : std::max(iconSize().width(), line);
   }
   if (!icon().isNull()) {
     // As narrow as picture and words allow, so that a row of pictures fits a small window.
-    int width = kPictureSize;
+    int width = iconSize().width();
     for (const QString& word : text().split(' ')) {
       width = std::max(width, fontMetrics().horizontalAdvance(word) + 1);
     }
@@ -70,7 +69,7 @@ QSize RibbonButton::sizeHint() const {
 QSize RibbonButton::minimumSizeHint() const {
   const int width = CaptionWidth();
   const QRect box = fontMetrics().boundingRect(0, 0, width, 10000, CaptionFlags(), ShownText());
-  const int picture = icon().isNull() ? 0 : kPictureSize + kPadding;
+  const int picture = icon().isNull() ? 0 : iconSize().width() + kPadding;
   // A caption in one line may come close to the edges.
   const int sides = oneLine_ ? kPadding : 2 * kPadding;
   return {std::max(width, box.width()) + sides, picture + box.height() + 2 * kPadding};
@@ -83,13 +82,17 @@ void RibbonButton::paintEvent(QPaintEvent* /*event*/) {
   const bool near = underMouse() && isEnabled() && !down;
   const QColor fill = palette().color(group, down ? QPalette::Highlight : QPalette::Button);
   painter.fillRect(rect(), near ? fill.lighter(108) : fill);
-  painter.setPen(palette().color(group, QPalette::Mid));
-  // Neighbours share one line.
-  painter.drawRect(rect().adjusted(0, 0, -1, -1));
+  // Lines of whole logical pixels, which end at the edge at every scale.
+  const QColor line = palette().color(group, QPalette::Mid);
+  painter.fillRect(0, 0, width(), 1, line);
+  painter.fillRect(0, height() - 1, width(), 1, line);
+  painter.fillRect(0, 0, 1, height(), line);
+  painter.fillRect(width() - 1, 0, 1, height(), line);
   painter.setPen(palette().color(group, down ? QPalette::HighlightedText : QPalette::ButtonText));
   QRect inside = rect().adjusted(kPadding, kPadding, -kPadding, -kPadding);
   if (!icon().isNull()) {
-    const QRect place((width() - kPictureSize) / 2, inside.top(), kPictureSize, kPictureSize);
+    const QRect place((width() - iconSize().width()) / 2, inside.top(), iconSize().width(),
+                      iconSize().width());
     // The accent of a picture would be lost on the highlight.
     if (down)
       painter.fillRect(place.adjusted(-2, -2, 2, 2), palette().color(group, QPalette::Base));

@@ -11,8 +11,8 @@ class RibbonButton : public QAbstractButton {
  public:
   RibbonButton(const QString& name, const QString& caption, QWidget* parent = nullptr);
 
-  /// Gives the button a picture by its asset name.
-  void SetPicture(const QString& assetName);
+  /// Gives the button a picture by its asset name, so many logical pixels wide and high.
+  void SetPicture(const QString& assetName, int size = kPictureSize);
   /// Keeps the caption in one line, however wide the button gets by it.
   void SetOneLine();
 
@@ -23,6 +23,8 @@ class RibbonButton : public QAbstractButton {
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  static constexpr int kPictureSize = 56;
+
   [[nodiscard]] QString ShownText() const;
   [[nodiscard]] int CaptionFlags() const;
   [[nodiscard]] int CaptionWidth() const;

@@ -5,7 +5,7 @@ import shutil
 import subprocess
 import time
 
-TOOLS = ("Xvfb", "openbox", "xdotool", "xclip")
+TOOLS = ("Xvfb", "openbox", "xdotool", "xclip", "xev", "convert")
 PATIENCE = 20  # seconds until something that has to happen counts as missing
 
 
@@ -27,19 +27,22 @@ def wait_until(condition, what):
 class Desktop:
     """Use as a context manager; everything started on it ends with it."""
 
-    def __init__(self, folder):
+    def __init__(self, folder, scale=1):
         self.folder = folder
         self.processes = []
         self.environment = dict(os.environ)
         for name in ("WAYLAND_DISPLAY", "QT_QPA_PLATFORM", "QT_SCALE_FACTOR", "QT_STYLE_OVERRIDE"):
             self.environment.pop(name, None)
+        self.environment["QT_SCALE_FACTOR"] = str(scale)
         # Nothing of the user's own is read or written.
         self.environment.update(HOME=folder, XDG_RUNTIME_DIR=folder, XDG_CONFIG_HOME=folder, LC_ALL="C.UTF-8")
 
     def __enter__(self):
         reading, writing = os.pipe()
+        # Without -noreset the screen would start anew when its last client leaves, which the tools of
+        # the test do again and again, and throw out whoever is just coming.
         self.start(
-            ["Xvfb", "-displayfd", str(writing), "-screen", "0", "1280x800x24", "-nolisten", "tcp"],
+            ["Xvfb", "-displayfd", str(writing), "-screen", "0", "1280x1200x24", "-nolisten", "tcp", "-noreset"],
             pass_fds=(writing,),
         )
         os.close(writing)
@@ -59,9 +62,9 @@ class Desktop:
                     process.kill()
                     process.wait()
 
-    def start(self, command, **options):
+    def start(self, command, stdout=subprocess.DEVNULL, **options):
         process = subprocess.Popen(
-            command, env=self.environment, cwd=self.folder, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, **options
+            command, env=self.environment, cwd=self.folder, stdout=stdout, stderr=subprocess.DEVNULL, **options
         )
         self.processes.append(process)
         return process
@@ -85,6 +88,27 @@ class Desktop:
             env=self.environment,
             check=True,
         )
+
+    def click_screen(self, x, y, button):
+        """Clicks at a place of the screen, whatever window is there."""
+        subprocess.run(
+            ["xdotool", "mousemove", str(x), str(y), "click", str(button)], env=self.environment, check=True
+        )
+
+    def place(self, window):
+        """(x, y, width, height) of a window on the screen."""
+        lines = self.output("xdotool", "getwindowgeometry", "--shell", window).split()
+        values = dict(line.split("=") for line in lines)
+        return tuple(int(values[name]) for name in ("X", "Y", "WIDTH", "HEIGHT"))
+
+    def drag(self, window, start, by, button):
+        """Holds a mouse button on a place of a window, moves the mouse and releases the button."""
+        x, y = self.place(window)[:2]
+        path = [(x + start[0] + by[0] * step // 4, y + start[1] + by[1] * step // 4) for step in range(5)]
+        steps = [["mousemove", *map(str, place), "sleep", "0.05"] for place in path]
+        steps.insert(1, ["mousedown", str(button), "sleep", "0.2"])
+        steps.append(["mouseup", str(button)])
+        subprocess.run(["xdotool", *sum(steps, [])], env=self.environment, check=True)
 
     def keys(self, *keys):
         subprocess.run(["xdotool", "key", "--delay", "40", *keys], env=self.environment, check=True)

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Drives the built program in real windows: desktop_test.py PROGRAM DATAFOLDER (describe | tasks | failure).
+"""Drives the built program in real windows: desktop_test.py PROGRAM DATAFOLDER (describe | tasks | failure | drag | outline | outline2x).
 
 Exit status 77 says that a tool is missing and the test was skipped.
 """
@@ -14,10 +14,14 @@ from desktop import Desktop, missing_tools, wait_until
 SKIPPED = 77
 
 # Places in the windows, in pixels from their upper left corner.
-OCRA_BUTTON = (153, 90)
-CTD_BUTTON = (153, 142)
-SI_BUTTON = (153, 194)
-CLOSE_BUTTON = (285, 20)
+OCRA_BUTTON = (178, 254)
+CTD_BUTTON = (178, 288)
+SI_BUTTON = (178, 322)
+CLOSE_BUTTON = (264, 220)
+TITLE = (110, 220)
+FINGERTIP = (151, 40)
+WHEEL = 5
+MASKS = {1: "hand_mask.png", 2: "hand_mask@2x.png"}
 INTENSITY_30_TO_49_PERCENT = (87, 470)
 REPORT_TAB = (190, 42)
 OCRA_ADD_TASK = (86, 657)
@@ -141,7 +145,90 @@ def end_on_a_failure(desktop, program, data):
     assert content_of(path) == bad
 
 
-CASES = {"describe": describe_a_job, "tasks": share_a_task, "failure": end_on_a_failure}
+def drag_the_window(desktop, program, _data):
+    """Every mouse button drags the window by its title and by the hand; it answers clicks afterwards."""
+    process = desktop.start([program])
+    main = desktop.window("Halvane Tools V1.0")
+    by = (60, -40)
+    for start in (TITLE, FINGERTIP):
+        for button in (1, 2, 3):
+            x, y = desktop.place(main)[:2]
+            desktop.drag(main, start, by, button)
+            by = (-by[0], -by[1])
+            place = (x - by[0], y - by[1])
+            wait_until(lambda: desktop.place(main)[:2] == place, f"the drag of {start} by button {button} to {place}")
+            # A window that still followed the mouse would follow it now.
+            subprocess.run(["xdotool", "mousemove_relative", "--", "15", "15"], env=desktop.environment, check=True)
+            assert desktop.place(main)[:2] == place, desktop.place(main)
+
+    def tool_opens():
+        desktop.click(main, *SI_BUTTON)
+        return desktop.output("xdotool", "search", "--onlyvisible", "--name", "^Strain Index$")
+
+    wait_until(tool_opens, "the tool after the drags")
+    process.terminate()
+    process.wait()
+
+
+def mask_rows(name):
+    """The rows of the outline's mask, True inside."""
+    assets = os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "..", "assets", "main_window")
+    pixels = subprocess.run(
+        ["convert", os.path.join(assets, name), "-depth", "8", "gray:-"], capture_output=True, check=True
+    ).stdout
+    width = 306 if "@" not in name else 612
+    return [[value >= 128 for value in pixels[at : at + width]] for at in range(0, len(pixels), width)]
+
+
+def window_below(desktop):
+    """A window that fills the screen below the main window, and the file of what the mouse does on it."""
+    events = os.path.join(desktop.folder, "events")
+    with open(events, "w", encoding="utf-8") as file:
+        desktop.start(["xev", "-geometry", "1280x1200+0+0", "-name", "below", "-event", "button"], stdout=file)
+    wait_until(lambda: desktop.output("xdotool", "search", "--onlyvisible", "--name", "^below$"), "the window below")
+    return events
+
+
+def click_through(desktop, program, _data):
+    """The window has the outline of the hand, to the screen's pixel: a click beside it reaches what is below."""
+    scale = int(desktop.environment["QT_SCALE_FACTOR"])
+    events = window_below(desktop)
+    process = desktop.start([program])
+    main = desktop.window("Halvane Tools V1.0")
+    left, top, width, height = desktop.place(main)
+    rows = mask_rows(MASKS[scale])
+    assert (width, height) == (len(rows[0]), len(rows)), (width, height)
+
+    def clicks_below():
+        with open(events, encoding="utf-8") as file:
+            return file.read().count("ButtonPress")
+
+    # The first pixel of the hand on rows across fingers, palm and wrist, and the one left of it. The button is the
+    # wheel, since any other raises the window that gets it.
+    for row in (60, 150, 300, 480):
+        y = row * scale
+        x = rows[y].index(True)
+        for place, below in ((x - 1, 1), (x, 0)):
+            expected = clicks_below() + below
+            desktop.click_screen(left + place, top + y, WHEEL)
+            # A click that is to stay above is followed by one that is to get through.
+            if not below:
+                desktop.click_screen(left + width + 5, top + y, WHEEL)
+                expected += 1
+            wait_until(lambda: clicks_below() >= expected, f"click {expected} at {place}, {y}")
+            assert clicks_below() == expected, (place, y, clicks_below(), expected)
+    process.terminate()
+    process.wait()
+
+
+CASES = {
+    "describe": describe_a_job,
+    "tasks": share_a_task,
+    "failure": end_on_a_failure,
+    "drag": drag_the_window,
+    "outline": click_through,
+    "outline2x": click_through,
+}
 
 
 def main():
@@ -150,7 +237,8 @@ def main():
     if missing:
         print("skipped: this machine lacks", ", ".join(missing))
         return SKIPPED
-    with tempfile.TemporaryDirectory() as folder, Desktop(folder) as desktop:
+    scale = 2 if case.endswith("2x") else 1
+    with tempfile.TemporaryDirectory() as folder, Desktop(folder, scale) as desktop:
         CASES[case](desktop, program, data)
     return 0
 

@@ -8,7 +8,6 @@
 #include <QTextBlock>
 #include <QVBoxLayout>
 
-#include "shell/controls/gradient_panel.h"
 #include "shell/controls/ribbon_button.h"
 #include "shell/controls/rich_text_box.h"
 #include "shell/controls/text_box.h"
@@ -108,16 +107,6 @@ TEST(RibbonButton, ShowsItsFocus) {
   const QImage without = ribbon.grab().toImage();
   ribbon.setFocus();
   EXPECT_NE(ribbon.grab().toImage(), without);
-}
-
-TEST(GradientPanel, GoesFromBlueAtTheTopToBlackHalfWayDown) {
-  GradientPanel panel("Picture1", nullptr);
-  panel.resize(10, 200);
-  const QImage picture = panel.grab().toImage();
-  EXPECT_GT(picture.pixelColor(5, 0).blue(), 250);
-  EXPECT_NEAR(picture.pixelColor(5, 50).blue(), 127, 4);
-  EXPECT_EQ(picture.pixelColor(5, 100).blue(), 0);
-  EXPECT_EQ(picture.pixelColor(5, 199), QColor(Qt::black));
 }
 
 /// A pane that shows what `write` appends.

@@ -15,7 +15,6 @@
 #include <QTabWidget>
 #include <QTest>
 #include <QTextEdit>
-#include <QToolButton>
 #include <QTreeView>
 #include <algorithm>
 
@@ -264,7 +263,7 @@ TEST_F(EveryWindow, KeyboardAloneOpensTheMenusOfTheMainWindow) {
        {std::pair{"SSRibbon1(0)", "mnuPopUp1"}, {"SSRibbon1(1)", "mnuPopup2"}}) {
     ModalSteps steps;
     steps.Then<QMenu>(menu, [](QMenu& popup) { QTest::keyClick(&popup, Qt::Key_Escape); });
-    auto& button = Find<QToolButton>(*window, ribbon);
+    auto& button = Find<QAbstractButton>(*window, ribbon);
     button.setFocus();
     QTest::keyClick(&button, Qt::Key_Space);
     EXPECT_TRUE(button.isChecked()) << ribbon;

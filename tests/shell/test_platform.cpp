@@ -38,6 +38,7 @@ TestPlatform::~TestPlatform() {
   EXPECT_TRUE(filesToOpen_.empty()) << filesToOpen_.front().toStdString() << " was not opened";
   EXPECT_TRUE(filesToSave_.empty()) << filesToSave_.front().toStdString() << " was not saved";
   EXPECT_TRUE(copies_.empty()) << "no file was copied";
+  EXPECT_TRUE(starts_.empty()) << "no program was started";
   EXPECT_TRUE(printerChoices_.empty()) << "no printer was asked for";
 }
 
@@ -91,6 +92,17 @@ bool TestPlatform::CopyFile(const QString& source, const QString& target) {
 }
 
 QString TestPlatform::DocumentsFolder() { return documentsFolder_; }
+
+bool TestPlatform::FileExists(const QString& path) { return files_.contains(path); }
+
+bool TestPlatform::StartProgram(const ProgramCall& call) {
+  started_.push_back(call);
+  return Next(starts_, false, "the start of " + call.program.toStdString());
+}
+
+void TestPlatform::StartWindowMove(QWidget& /*window*/, Qt::MouseButton button) {
+  moves_.push_back(button);
+}
 
 void TestPlatform::EndProgram(int exitStatus) { ends_.push_back(exitStatus); }
 

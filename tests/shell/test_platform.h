@@ -9,6 +9,7 @@
 
 #include "core/runtime_failure.h"
 #include "shell/platform.h"
+#include "tests/shell/made_up_registry.h"
 
 class QTextDocument;
 
@@ -47,6 +48,10 @@ class TestPlatform : public Platform {
     dataFolder_ = data;
   }
   void WillCopyFile(bool succeeds) { copies_.push_back(succeeds); }
+  /// One answer for each program that is to be started: whether the start succeeds.
+  void WillStartProgram(bool succeeds) { starts_.push_back(succeeds); }
+  void SetSystemViewer(const ProgramCall& viewer) { systemViewer_ = viewer; }
+  void AddFile(const QString& path) { files_.append(path); }
   void SetDocumentsFolder(const QString& folder) { documentsFolder_ = folder; }
 
   // What happened, in order.
@@ -61,6 +66,11 @@ class TestPlatform : public Platform {
   [[nodiscard]] const std::vector<int>& ends() const { return ends_; }
   /// "source -> target" of each file that was to be copied.
   [[nodiscard]] const QStringList& copied() const { return copied_; }
+  [[nodiscard]] const std::vector<ProgramCall>& started() const { return started_; }
+  /// The mouse button of each drag of a window.
+  [[nodiscard]] const std::vector<Qt::MouseButton>& moves() const { return moves_; }
+  /// The registry, to be filled.
+  [[nodiscard]] MadeUpRegistry& registry() { return registry_; }
   [[nodiscard]] int printerSetups() const { return printerSetups_; }
 
   Answer ShowMessage(QWidget* parent, const QString& title, const QString& text,
@@ -76,6 +86,11 @@ class TestPlatform : public Platform {
   QString DataFolder() override;
   bool CopyFile(const QString& source, const QString& target) override;
   QString DocumentsFolder() override;
+  [[nodiscard]] bool FileExists(const QString& path) override;
+  Registry& TheRegistry() override { return registry_; }
+  bool StartProgram(const ProgramCall& call) override;
+  ProgramCall SystemViewer() override { return systemViewer_; }
+  void StartWindowMove(QWidget& window, Qt::MouseButton button) override;
   void EndProgram(int exitStatus) override;
 
  private:
@@ -84,9 +99,13 @@ class TestPlatform : public Platform {
   std::deque<QString> filesToSave_;
   std::deque<bool> printerChoices_;
   std::deque<bool> copies_;
+  std::deque<bool> starts_;
   std::function<void()> duringMessage_;
   std::function<void()> whenPrinted_;
   std::function<void()> whenSetUp_;
+  MadeUpRegistry registry_;
+  ProgramCall systemViewer_;
+  QStringList files_;
   QString documentsFolder_;
   QString programFolder_;
   QString dataFolder_;
@@ -96,6 +115,8 @@ class TestPlatform : public Platform {
   QStringList printed_;
   QStringList clipboard_;
   QStringList copied_;
+  std::vector<ProgramCall> started_;
+  std::vector<Qt::MouseButton> moves_;
   std::vector<int> ends_;
   int printerSetups_ = 0;
 };

@@ -21,6 +21,8 @@ void LeaveAFileToSave() { TestPlatform().WillSave("b.qjt"); }
 void LeaveAPrinter() { TestPlatform().WillChoosePrinter(true); }
 void OpenUnasked() { TestPlatform().ChooseFileToOpen(nullptr, "*"); }
 void SaveUnasked() { TestPlatform().ChooseFileToSave(nullptr, "*"); }
+void LeaveAProgram() { TestPlatform().WillStartProgram(true); }
+void StartUnasked() { TestPlatform().StartProgram({"viewer", {}}); }
 void PrintUnasked() { TestPlatform().ChoosePrinter(nullptr); }
 
 TEST(TestPlatform, FailsATestThatQueuedNothing) {
@@ -28,6 +30,7 @@ TEST(TestPlatform, FailsATestThatQueuedNothing) {
   EXPECT_NONFATAL_FAILURE(OpenUnasked(), "nothing is queued for the file to open");
   EXPECT_NONFATAL_FAILURE(SaveUnasked(), "nothing is queued for the file to save");
   EXPECT_NONFATAL_FAILURE(PrintUnasked(), "nothing is queued for the printer");
+  EXPECT_NONFATAL_FAILURE(StartUnasked(), "nothing is queued for the start of viewer");
 }
 
 TEST(TestPlatform, RefusesAnAnswerThatWasNotOnOffer) {
@@ -39,6 +42,7 @@ TEST(TestPlatform, FailsATestThatLeavesAnswersOver) {
   EXPECT_NONFATAL_FAILURE(LeaveAFileToOpen(), "a.qjt was not opened");
   EXPECT_NONFATAL_FAILURE(LeaveAFileToSave(), "b.qjt was not saved");
   EXPECT_NONFATAL_FAILURE(LeaveAPrinter(), "no printer was asked for");
+  EXPECT_NONFATAL_FAILURE(LeaveAProgram(), "no program was started");
 }
 
 TEST(TestPlatform, IsInUseAsLongAsItLives) {
