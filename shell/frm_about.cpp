@@ -18,7 +18,7 @@ namespace halvane {
 namespace {
 
 constexpr double kTitleScale = 1.6;
-constexpr int kLeastWidth = 400;
+constexpr int kTextWidth = 320;
 constexpr int kLargeIcon = 64;
 constexpr int kSmallIcon = 24;
 
@@ -44,7 +44,9 @@ QLabel* AddLine(QBoxLayout& column, const QString& name, const QString& text) {
 }
 
 void AddWrapped(QBoxLayout& column, const QString& name, const QString& text) {
-  AddLine(column, name, text)->setWordWrap(true);
+  QLabel* label = AddLine(column, name, text);
+  label->setWordWrap(true);
+  label->setMinimumWidth(kTextWidth);
 }
 
 QLabel* MakeIcon(const QString& name, int size) {
@@ -68,7 +70,9 @@ FrmAbout::FrmAbout(QWidget* parent) : QDialog(parent) {
 
   auto* names = new QVBoxLayout;
   grid->addLayout(names, 0, 1);
+  names->setSpacing(kGap / 2);
   auto* series = new QHBoxLayout;
+  series->setSpacing(kGap);
   names->addLayout(series);
   series->addWidget(MakeIcon("Image1", kSmallIcon));
   AddLine(*series, "Label1", QString(kMaker) + " Series:");
@@ -80,16 +84,17 @@ FrmAbout::FrmAbout(QWidget* parent) : QDialog(parent) {
   title->setFont(font);
   AddLine(*names, "lblVersion", "Version " + QCoreApplication::applicationVersion());
   AddLine(*names, "lblMaker", QString(kMakerLine).arg(kMaker));
-  names->addSpacing(kGap);
+  names->addSpacing(kGap / 2);
   AddWrapped(*names, "lblContact(0)", kContact);
   AddWrapped(*names, "lblContact(1)", kContactReport);
-  names->addSpacing(kGap);
+  names->addSpacing(kGap / 2);
   AddWrapped(*names, "lblNotice", kNotice);
   grid->setColumnStretch(1, 1);
   grid->setRowStretch(0, 1);
 
   auto* buttons = new QHBoxLayout;
   grid->addLayout(buttons, 1, 0, 1, 2);
+  buttons->setSpacing(kGap);
   buttons->addStretch();
   auto* information = new QPushButton("&System Info...");
   information->setObjectName("cmdSysInfo");
@@ -104,7 +109,6 @@ FrmAbout::FrmAbout(QWidget* parent) : QDialog(parent) {
   ok->setFocus();
   connect(ok, &QPushButton::clicked, this, &FrmAbout::cmdOK_Click);
   connect(information, &QPushButton::clicked, this, &FrmAbout::cmdSysInfo_Click);
-  setMinimumWidth(kLeastWidth);
   layout()->setSizeConstraint(QLayout::SetFixedSize);
 }
 

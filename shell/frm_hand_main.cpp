@@ -11,6 +11,7 @@
 
 #include "core/job_state.h"
 #include "core/units.h"
+#include "help/help_commands.h"
 #include "shell/controls/link_label.h"
 #include "shell/controls/raised_button.h"
 #include "shell/controls/ribbon_button.h"
@@ -43,7 +44,6 @@ FrmHandMain::FrmHandMain() : fileCommands_(*this), Timer1_(new QTimer(this)) {
   connect(Hyperlink1_, &LinkLabel::clicked, this, &FrmHandMain::Hyperlink1_Click);
   MakeMenus();
   MakeButtons();
-  HandMainLook::PlaceButtons(*this);
   Timer1_->setObjectName("Timer1");
   Timer1_->setSingleShot(true);
   connect(Timer1_, &QTimer::timeout, this, &FrmHandMain::Timer1_Timer);
@@ -89,8 +89,7 @@ void FrmHandMain::MakeMenus() {
 
   mnuPopup2_ = new QMenu("Popup2", this);
   mnuPopup2_->setObjectName("mnuPopup2");
-  // The program has no help file yet.
-  AddMenuItem(*mnuPopup2_, "mnuContent", "Content...")->setEnabled(false);
+  AddMenuItem(*mnuPopup2_, "mnuContent", "Content...", this, &FrmHandMain::mnuContent_Click);
   mnuPopup2_->addSeparator();
   AddMenuItem(*mnuPopup2_, "mnuAbout", "About Ostrel...", this, &FrmHandMain::mnuAbout_Click);
 }
@@ -136,7 +135,7 @@ void FrmHandMain::MakeButtons() {
 
 void FrmHandMain::Timer1_Timer() {
   Picture3_->hide();
-  HandMainLook::ShowPictures(*this);
+  HandMainLook::ShowButtons(*this);
   for (QWidget* control : SSCommand2_) control->show();
   for (QWidget* control : SSRibbon1_) control->show();
   for (QWidget* control : SSCommand3_) control->show();
@@ -237,7 +236,7 @@ void FrmHandMain::mousePressEvent(QMouseEvent* event) {
 
 void FrmHandMain::mouseReleaseEvent(QMouseEvent* /*event*/) { ReleaseRibbons(); }
 
-void FrmHandMain::Hyperlink1_Click() { findChild<QAction*>("mnuContent")->trigger(); }
+void FrmHandMain::Hyperlink1_Click() { mnuContent_Click(); }
 
 void FrmHandMain::mnuNew_Click() { fileCommands_.New(); }
 
@@ -275,6 +274,8 @@ void FrmHandMain::mnuExit_Click() {
   }
   platform.EndProgram(0);
 }
+
+void FrmHandMain::mnuContent_Click() { ShowHelpContents(); }
 
 void FrmHandMain::mnuAbout_Click() { FrmAbout(this).exec(); }
 

@@ -50,6 +50,7 @@ class FrmHandMain : public QWidget {
   void mnuMetric_Click();
   void mnuEnglish_Click();
   void mnuExit_Click();
+  void mnuContent_Click();
   void mnuAbout_Click();
 
   /// Takes the focus off every button, so that none stays in its focused look.

@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <cmath>
 #include <vector>
 
 #include "shell/controls/gradient_panel.h"
@@ -39,17 +40,23 @@ constexpr double kProductNameScale = 1.7;
 /// The five lines of the opening panel have room for so high a text each.
 constexpr int kLargestLine = 34;
 constexpr int kCaptionMargin = 8;
+/// A font of another size is not wider by exactly as much.
+constexpr double kRounding = 0.97;
 
-/// Gives a text its font: `scale` of the usual one, or less where it would not fit into `room`.
-void FitFont(QWidget& widget, const QString& text, double scale, QSize room) {
-  QFont font = widget.font();
-  font.setPointSizeF(font.pointSizeF() * scale);
-  font.setBold(scale > 1);
+/// Gives a text `font` in `scale` of its size, or less where it would not fit into `room`. Measured
+/// at the size as it is, since each size that is measured takes time to load.
+void FitFont(QWidget& widget, const QString& text, QFont font, double scale, QSize room) {
   const QSize size = QFontMetrics(font).size(Qt::TextSingleLine, text);
-  const double fit = std::min({1.0, static_cast<double>(room.width()) / size.width(),
-                               static_cast<double>(room.height()) / size.height()});
-  if (fit < 1) font.setPointSizeF(font.pointSizeF() * fit);
+  const double fit = std::min(
+      {scale, kRounding * room.width() / size.width(), kRounding * room.height() / size.height()});
+  // Not when it changes nothing: another size is another font.
+  if (std::abs(fit - 1) > 0.01) font.setPointSizeF(font.pointSizeF() * fit);
   widget.setFont(font);
+}
+
+QFont Bold(QFont font) {
+  font.setBold(true);
+  return font;
 }
 
 QLabel* AddLabel(QBoxLayout& layout, const QString& name, const QString& text, double scale,
@@ -58,7 +65,7 @@ QLabel* AddLabel(QBoxLayout& layout, const QString& name, const QString& text, d
   label->setObjectName(name);
   label->setAlignment(Qt::AlignCenter);
   layout.addWidget(label);
-  FitFont(*label, text, scale, room);
+  FitFont(*label, text, Bold(label->font()), scale, room);
   return label;
 }
 
@@ -69,9 +76,7 @@ void HandMainLook::Arrange(FrmHandMain& form) {
   form.setFixedSize(kSize);
   // Only X11 can cut a window to its outline; elsewhere nothing is seen of what is not painted.
   form.setAttribute(Qt::WA_TranslucentBackground, QApplication::platformName() != "xcb");
-  form.SSSplash1_ =
-      new SplashPicture("SSSplash1", "main_window/hand", "main_window/hand_mask", &form);
-  form.SSSplash1_->setGeometry(QRect(QPoint(), kSize));
+  form.SSSplash1_ = new SplashPicture("SSSplash1", "hand", "hand_mask", kSize, &form);
   MakeTitleStrip(form);
   MakeOpeningPanel(form);
   // Else the link of the opening panel would have it.
@@ -84,7 +89,7 @@ void HandMainLook::MakeTitleStrip(FrmHandMain& form) {
   auto* row = new QHBoxLayout(form.Picture1_);
   row->setContentsMargins(kStripGap, 0, kStripGap, 0);
   const int buttons = 2 * (kStripButton + kStripGap) + 2 * kStripGap;
-  form.Label1_ = AddLabel(*row, "Label1", kShownTitle, 1.1, kTitleStrip.size() - QSize(buttons, 0));
+  form.Label1_ = AddLabel(*row, "Label1", kShownTitle, 1.0, kTitleStrip.size() - QSize(buttons, 0));
   form.Label1_->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
 }
 
@@ -103,15 +108,24 @@ void HandMainLook::MakeOpeningPanel(FrmHandMain& form) {
   maker->addStretch();
   AddLabel(*maker, ElementName("lblProductName", 1), kMaker, 1.3,
            {line.width() / 2, line.height()});
-  AddLabel(*maker, ElementName("lblProductName", 2), "tm", 0.8, {line.width() / 4, line.height()})
+  AddLabel(*maker, ElementName("lblProductName", 2), "tm", 1.0, {line.width() / 4, line.height()})
       ->setAlignment(Qt::AlignTop);
   maker->addStretch();
   column->addStretch(2);
   AddLabel(*column, "lblMaker", QString("Made by ") + kMaker, 1.0, line);
   form.Hyperlink1_ = new LinkLabel("Hyperlink1", "How to use the program", panel);
-  FitFont(*form.Hyperlink1_, form.Hyperlink1_->text(), 1.0, line);
+  FitFont(*form.Hyperlink1_, form.Hyperlink1_->text(), Bold(form.Hyperlink1_->font()), 1.0, line);
   column->addWidget(form.Hyperlink1_, 0, Qt::AlignHCenter);
   column->addStretch(1);
+}
+
+void HandMainLook::ShowButtons(FrmHandMain& form) {
+  PlaceButtons(form);
+  form.SSRibbon1_.at(0)->SetPicture("main_window/file", kRibbonPicture);
+  form.SSRibbon1_.at(1)->SetPicture("main_window/help", kRibbonPicture);
+  form.SSCommand3_.at(0)->setIcon(QIcon(":/assets/main_window/close.svg"));
+  form.SSCommand3_.at(1)->setIcon(QIcon(":/assets/main_window/minimize.svg"));
+  QApplication::setWindowIcon(ProductIcon());
 }
 
 void HandMainLook::PlaceButtons(FrmHandMain& form) {
@@ -119,7 +133,7 @@ void HandMainLook::PlaceButtons(FrmHandMain& form) {
   const int height = (kLaunchButtons.height() - (count - 1) * kButtonGap) / count;
   int top = kLaunchButtons.top();
   for (RaisedButton* button : form.SSCommand2_) {
-    FitFont(*button, button->text(), 1.0,
+    FitFont(*button, button->text(), button->font(), 1.0,
             {kLaunchButtons.width() - 2 * kCaptionMargin, height - kCaptionMargin});
     button->setGeometry(kLaunchButtons.left(), top, kLaunchButtons.width(), height);
     top += height + kButtonGap;
@@ -130,7 +144,7 @@ void HandMainLook::PlaceButtons(FrmHandMain& form) {
   const QSize caption(width - kCaptionMargin,
                       kRibbons.height() - kRibbonPicture - 3 * kCaptionMargin / 2);
   for (RibbonButton* ribbon : form.SSRibbon1_) {
-    FitFont(*ribbon, ribbon->text(), 1.0, caption);
+    FitFont(*ribbon, ribbon->text(), ribbon->font(), 1.0, caption);
     ribbon->setGeometry(left, kRibbons.top(), width, kRibbons.height());
     left += width + kButtonGap;
   }
@@ -148,14 +162,6 @@ void HandMainLook::PlaceButtons(FrmHandMain& form) {
   order.insert(order.end(), form.SSCommand2_.begin(), form.SSCommand2_.end());
   order.insert(order.end(), form.SSRibbon1_.begin(), form.SSRibbon1_.end());
   for (std::size_t i = 1; i < order.size(); ++i) QWidget::setTabOrder(order[i - 1], order[i]);
-}
-
-void HandMainLook::ShowPictures(FrmHandMain& form) {
-  form.SSRibbon1_.at(0)->SetPicture("main_window/file", kRibbonPicture);
-  form.SSRibbon1_.at(1)->SetPicture("main_window/help", kRibbonPicture);
-  form.SSCommand3_.at(0)->setIcon(QIcon(":/assets/main_window/close.svg"));
-  form.SSCommand3_.at(1)->setIcon(QIcon(":/assets/main_window/minimize.svg"));
-  QApplication::setWindowIcon(ProductIcon());
 }
 
 }  // namespace halvane

@@ -10,15 +10,14 @@ class HandMainLook {
  public:
   /// Makes the hand, the title strip and the opening panel.
   static void Arrange(FrmHandMain& form);
-  /// Puts the buttons in their places.
-  static void PlaceButtons(FrmHandMain& form);
-  /// Gives the ribbons their pictures. Apart, since the opening phase shows none and the start of
-  /// the program is not to wait for them.
-  static void ShowPictures(FrmHandMain& form);
+  /// Puts the buttons in their places and gives them their pictures. Apart, since the opening phase
+  /// shows no button and the start of the program is not to wait for them.
+  static void ShowButtons(FrmHandMain& form);
 
  private:
   static void MakeTitleStrip(FrmHandMain& form);
   static void MakeOpeningPanel(FrmHandMain& form);
+  static void PlaceButtons(FrmHandMain& form);
 };
 
 }  // namespace halvane

@@ -16,8 +16,10 @@ constexpr qsizetype kDoubleWordBytes = 4;
 QString DoubleWordText(const QByteArray& bytes) {
   if (bytes.size() > kDoubleWordBytes) throw RuntimeFailure(FailureKind::Overflow);
   std::uint32_t number = 0;
-  for (auto byte = bytes.crbegin(); byte != bytes.crend(); ++byte) {
-    number = number << 8U | static_cast<unsigned char>(*byte);
+  unsigned place = 0;
+  for (const char byte : bytes) {
+    number |= std::uint32_t{static_cast<unsigned char>(byte)} << place;
+    place += 8;
   }
   return QString::fromStdString(PlainText(static_cast<double>(number)));
 }

@@ -5,6 +5,7 @@
 #include <QMenuBar>
 #include <QVBoxLayout>
 
+#include "help/help_commands.h"
 #include "shell/controls/rich_text_box.h"
 #include "shell/frm_about.h"
 #include "shell/hand_frame.h"
@@ -28,6 +29,8 @@ ToolForm::ToolForm(Tool tool, const char* objectName, const IdentificationNames&
   setWindowTitle(ScreenText(row_.title));
   setWindowFlags(Qt::Window | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                  Qt::WindowMinMaxButtonsHint | Qt::WindowCloseButtonHint);
+  // Holds up the main window alone; the help beside it stays usable.
+  setWindowModality(Qt::WindowModal);
   setMinimumSize(kLeastSize);
   resize(kDefaultSize);
   body_ = new QVBoxLayout(this);
@@ -89,8 +92,7 @@ void ToolForm::MakeMenus() {
 
   QMenu& help = *bar->addMenu("&Help");
   help.setObjectName("mnuHelp");
-  // The program has no help file yet.
-  AddMenuItem(help, "mnuHelpContent", "&Content...")->setEnabled(false);
+  AddMenuItem(help, "mnuHelpContent", "&Content...", this, &ToolForm::mnuHelpContent_Click);
   // Has no action, which is wanted.
   AddMenuItem(help, "mnuHelpSearch", "&Search...");
   help.addSeparator();
@@ -158,6 +160,8 @@ void ToolForm::CopySelection() {
   const QString selected = pane_->SelectedText();
   if (!selected.isEmpty()) ThePlatform().SetClipboardText(selected);
 }
+
+void ToolForm::mnuHelpContent_Click() { ShowHelpTopic(ScreenText(row_.helpTopic)); }
 
 void ToolForm::mnuHelpAbout_Click() { FrmAbout(this).exec(); }
 

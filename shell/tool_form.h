@@ -44,6 +44,7 @@ class ToolForm : public QDialog {
   void mnuFileExit_Click();
   virtual void mnuEditSelect_Click();
   virtual void mnuEditCopy_Click();
+  void mnuHelpContent_Click();
   void mnuHelpAbout_Click();
 
  protected:

@@ -48,6 +48,7 @@ class CompileHelp(unittest.TestCase):
     def compiled(self, **places):
         done = self.run_script(**places)
         self.assertEqual((done.returncode, done.stderr), (0, ""))
+        self.assertEqual(list(self.folder.rglob("*.new")), [])
         return (places.get("output") or self.output).read_bytes()
 
     def replace(self, name, old, new):

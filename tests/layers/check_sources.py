@@ -49,6 +49,8 @@ def sources(root):
 
 
 def layer_of(path):
+    if rules.HELP_READER.fullmatch(path.as_posix()):
+        return "help reader"
     if path.parts[0] == "tools":
         return "forms" if path.name.startswith("frm_") else "logic"
     return {"core": "core", "reporter": "reporter"}.get(path.parts[0], "forms")
@@ -59,6 +61,9 @@ def may_include(path, included):
     own = re.fullmatch(r'"([a-z0-9_]+)/(?:[a-z0-9_]+/)*([a-z0-9_.]+)"', included)
     if own:
         is_form = own[1] == "tools" and own[2].startswith("frm_")
+        is_window = own[1] == "help" and not rules.HELP_READER.fullmatch(included.strip('"'))
+        if layer == "help reader" and is_window:
+            return False
         return own[1] in rules.LAYERS[layer] and (layer == "forms" or not is_form)
     system = re.fullmatch(r"<([^>]+)>", included)
     if not system:
@@ -67,6 +72,8 @@ def may_include(path, included):
         return True
     if system[1] in rules.POSIX_HEADERS:
         return bool(rules.POSIX_FILE.fullmatch(path.name))
+    if system[1] == rules.HELP_UNPACKER.get(path.as_posix()):
+        return True
     return layer == "reporter" and bool(rules.REPORTER_LIBRARIES.match(system[1]))
 
 

@@ -30,18 +30,25 @@ POSIX_FILE = re.compile(r"\w+_posix\.cpp")
 
 REPORTER_LIBRARIES = re.compile(r"(CLI|nlohmann)/")
 
+# The reader of help files is headless; the rest of help/ is the window that shows them.
+HELP_READER = re.compile(r"help/(help_(archive|contents|file|markup)|verify_help_file)\.(h|cpp)")
+# One file knows the unpacker.
+HELP_UNPACKER = {"help/help_archive.cpp": "mspack.h"}
+
 # The sources of the program; tests and generators are no layer.
 FOLDERS = ("core", "tools", "shell", "help", "reporter")
 
 # Layer: the folders whose headers it may include. The headless ones have nothing but the standard
-# library beside them, the reporter its two packages too, the forms anything of Qt.
+# library beside them, the reporter its two packages and the reader of help files its unpacker too,
+# the forms anything of Qt.
 LAYERS = {
     "core": ("core",),
     "logic": ("core", "tools"),
+    "help reader": ("core", "help"),
     "forms": ("core", "tools", "shell", "help"),
     "reporter": ("core", "tools", "reporter"),
 }
-HEADLESS_LAYERS = ("core", "logic", "reporter")
+HEADLESS_LAYERS = ("core", "logic", "help reader", "reporter")
 
 # (name, pattern): what reaches outside the program's own windows.
 RAW_CALLS = tuple(

@@ -3,7 +3,6 @@
 // form_pictures FOLDER [JOBFILE], with QT_SCALE_FACTOR=2 for twice the size, HALVANE_DARK=1 for the
 // dark palette and HALVANE_LEAST=1 for the least size of each tool.
 #include <QDir>
-#include <QPalette>
 #include <QPdfWriter>
 #include <QTabWidget>
 #include <QTest>
@@ -20,6 +19,7 @@
 #include "shell/layout.h"
 #include "shell/tool_form.h"
 #include "shell/tool_forms.h"
+#include "tests/shell/dark_palette.h"
 
 namespace {
 
@@ -31,15 +31,6 @@ void Draw(QWidget& form, const QString& path) {
     std::cerr << "cannot write " << path.toStdString() << "\n";
     std::exit(1);
   }
-}
-
-QPalette DarkPalette() {
-  const QColor window(45, 45, 48);
-  QPalette dark(window, window);
-  dark.setColor(QPalette::Base, QColor(30, 30, 32));
-  dark.setColor(QPalette::Highlight, QColor(42, 130, 218));
-  dark.setColor(QPalette::HighlightedText, Qt::white);
-  return dark;
 }
 
 void PrintReport(const QWidget& form, const QString& folder) {
@@ -83,7 +74,7 @@ int main(int argc, char** argv) {
   }
   const QString folder = QString::fromLocal8Bit(argv[1]);
   QDir().mkpath(folder);
-  if (qEnvironmentVariableIsSet("HALVANE_DARK")) QApplication::setPalette(DarkPalette());
+  halvane::TakeDarkPaletteIfAsked();
   halvane::FrmHandMain window;
   window.show();
   Draw(window, folder + "/frmHand_Main-opening.png");

@@ -163,22 +163,5 @@ TEST_F(MainWindowMouse, ItemOfTheMenuLeavesTheRibbonPressed) {
   EXPECT_EQ(Ribbons(), "PR");
 }
 
-TEST_F(MainWindowMouse, LinkOnTheOpeningPanelOpensTheHelpContents) {
-  FrmHandMain opening;
-  ShowActive(opening);
-  auto& contents = Find<QAction>(opening, "mnuContent");
-  // Whatever the item does, the link does the same.
-  contents.disconnect();
-  contents.setEnabled(true);
-  int opened = 0;
-  QObject::connect(&contents, &QAction::triggered, &contents, [&] { ++opened; });
-  auto& link = Find<QAbstractButton>(opening, "Hyperlink1");
-  EXPECT_EQ(link.text(), "How to use the program");
-  QTest::mouseClick(&link, Qt::LeftButton);
-  QTest::keyClick(&link, Qt::Key_Return);
-  QTest::keyClick(&link, Qt::Key_Space);
-  EXPECT_EQ(opened, 3);
-}
-
 }  // namespace
 }  // namespace halvane

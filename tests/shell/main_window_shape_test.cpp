@@ -99,6 +99,22 @@ TEST_F(MainWindowShape, NothingIsPaintedOutsideTheOutline) {
   EXPECT_EQ(different, 0);
 }
 
+TEST_F(MainWindowShape, FingersAreThoseOfThePicture) {
+  FrmHandMain window;
+  ShowActive(window);
+  const QImage shown = window.grab().toImage();
+  const QImage picture(":/assets/main_window/hand.png");
+  const QImage mask = Mask("hand_mask.png");
+  const int strip = Find<QWidget>(window, "Picture1").y();
+  int different = 0;
+  for (int y = 0; y < strip; ++y) {
+    for (int x = 0; x < 306; ++x) {
+      if (Inside(mask, x, y) && shown.pixel(x, y) != picture.pixel(x, y)) ++different;
+    }
+  }
+  EXPECT_EQ(different, 0);
+}
+
 TEST_F(MainWindowShape, EveryControlStandsWellInsideTheOutline) {
   FrmHandMain opening;
   ShowActive(opening);
