@@ -28,8 +28,9 @@ def made_from(svg):
     return "sha256 of the SVG: " + hashlib.sha256(svg.encode()).hexdigest()
 
 
-def read(data):
-    """Width, height and rows of RGBA bytes of a PNG with 8 bits a channel, not interlaced."""
+def stored(data):
+    """Width, height, bits a channel, colour type, palette, its alpha, and rows of bytes as they are
+    stored, of a PNG that is not interlaced."""
     if data[:8] != SIGNATURE:
         sys.exit("no PNG")
     packed, position, palette, clear = b"", 8, b"", b""
@@ -50,6 +51,12 @@ def read(data):
     samples = {GREY: 1, RGB: 3, PALETTE: 1, 4: 2, RGBA: 4}[colour]
     stride = (width * samples * depth + 7) // 8
     rows = _unfilter(zlib.decompress(packed), height, stride, max(1, samples * depth // 8))
+    return width, height, depth, colour, palette, clear, rows
+
+
+def read(data):
+    """Width, height and rows of RGBA bytes."""
+    width, height, depth, colour, palette, clear, rows = stored(data)
     return width, height, [_rgba(row, width, depth, colour, palette, clear) for row in rows]
 
 
