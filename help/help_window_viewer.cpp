@@ -1,6 +1,7 @@
 #include "help/help_window_viewer.h"
 
 #include <QCoreApplication>
+#include <QRegularExpression>
 #include <QWindow>
 
 namespace halvane {
@@ -32,8 +33,10 @@ HelpWindow& HelpWindowViewer::Window() {
 
 void HelpWindowViewer::Show(QWidget* owner, const QString& file, HelpCommand command,
                             const QString& topic) {
-  // The name of a help window; there is one window for all.
-  const QString path = file.section('>', 0, 0);
+  // The name of a help window follows the file's ending; there is one window for all.
+  static const QRegularExpression windowName("(?<=chm)>.*$",
+                                             QRegularExpression::CaseInsensitiveOption);
+  const QString path = QString(file).remove(windowName);
   HelpWindow& window = Window();
   if (command == HelpCommand::DisplayTopic) {
     window.ShowTopic(path, topic);

@@ -1,6 +1,7 @@
 #include "help/help_window.h"
 
 #include <QAbstractButton>
+#include <QDir>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -144,6 +145,16 @@ TEST_F(HelpViewing, AnotherFileReplacesAllOfTheFirst) {
   EXPECT_EQ(window().windowTitle(), "Big - Help");
   EXPECT_FALSE(tree().isVisible());
   EXPECT_FALSE(Find<QAction>(window(), "HelpBack").isEnabled());
+}
+
+TEST_F(HelpViewing, OnlyTheNameOfAHelpWindowIsTakenOffTheFile) {
+  ASSERT_TRUE(QDir(File("")).mkdir("a>b"));
+  const QString file = File("a>b/c.CHM");
+  ASSERT_TRUE(QFile::copy(HALVANE_HELP_DATA "/large_entry.chm", file));
+  for (const char* name : {"", ">main", ">chm"}) {
+    viewer.Show(nullptr, file + name, HelpCommand::DisplayTopic, "a.htm");
+    EXPECT_EQ(page().toPlainText().trimmed(), "a") << name;
+  }
 }
 
 TEST_F(HelpViewing, AFileInstalledMeanwhileIsReadAnew) {

@@ -57,6 +57,10 @@ class InstalledProgram(unittest.TestCase):
                   "share/halvane-tools/QJT Tools 1.chm",
                   "share/metainfo/halvane-tools.metainfo.xml",
                   "share/mime/packages/halvane-tools.xml"}
+        # The help pages send their readers there.
+        wanted.add("share/doc/halvane-tools/job-file.md")
+        wanted.update(f"share/doc/halvane-tools/samples/{name}.qjt"
+                      for name in ("board-assembly", "packing-line", "parcel-sorting"))
         for icon in ICONS:
             wanted.add(f"share/icons/hicolor/scalable/{icon}.svg")
             wanted.update(f"share/icons/hicolor/{size}x{size}/{icon}.png" for size in SIZES)
