@@ -86,7 +86,7 @@ void ToolWithReport(benchmark::State& state, Tool tool) {
   FillJob(kTasks, 1);
   for (auto _ : state) {
     RichText report;
-    if (!RowOf(tool).writeReport(report)) state.SkipWithError("has no report");
+    if (!RowOf(tool).WriteReport(report)) state.SkipWithError("has no report");
     benchmark::DoNotOptimize(report);
   }
 }

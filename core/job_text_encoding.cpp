@@ -40,20 +40,6 @@ std::optional<char> ByteOf(char32_t codePoint) {
   return static_cast<char>(0x80 + (found - kUpperControls.begin()));
 }
 
-void AppendUtf8(std::string& text, char32_t codePoint) {
-  if (codePoint < 0x80) {
-    text += static_cast<char>(codePoint);
-  } else if (codePoint < 0x800) {
-    text += static_cast<char>(0xC0 | (codePoint >> 6));
-    text += static_cast<char>(0x80 | (codePoint & 0x3F));
-  } else {
-    // Windows-1252 reaches no further than the Basic Multilingual Plane.
-    text += static_cast<char>(0xE0 | (codePoint >> 12));
-    text += static_cast<char>(0x80 | ((codePoint >> 6) & 0x3F));
-    text += static_cast<char>(0x80 | (codePoint & 0x3F));
-  }
-}
-
 struct Decoded {
   char32_t codePoint;
   std::size_t length;
@@ -102,6 +88,27 @@ std::optional<std::string> ToWindows1252(std::string_view text) {
 }
 
 }  // namespace
+
+void AppendUtf8(std::string& text, char32_t codePoint) {
+  const auto tail = [&](unsigned shift) {
+    text += static_cast<char>(0x80U | ((codePoint >> shift) & 0x3FU));
+  };
+  if (codePoint < 0x80) {
+    text += static_cast<char>(codePoint);
+  } else if (codePoint < 0x800) {
+    text += static_cast<char>(0xC0U | (codePoint >> 6U));
+    tail(0);
+  } else if (codePoint < 0x10000) {
+    text += static_cast<char>(0xE0U | (codePoint >> 12U));
+    tail(6);
+    tail(0);
+  } else {
+    text += static_cast<char>(0xF0U | (codePoint >> 18U));
+    tail(12);
+    tail(6);
+    tail(0);
+  }
+}
 
 bool IsUtf8(std::string_view bytes) {
   while (!bytes.empty()) {

@@ -8,6 +8,9 @@ namespace halvane {
 /// Whether `bytes` is well-formed UTF-8 (shortest forms, no surrogates).
 bool IsUtf8(std::string_view bytes);
 
+/// Appends a character, which has to be no surrogate, as UTF-8.
+void AppendUtf8(std::string& text, char32_t codePoint);
+
 /// How many characters (code points) the UTF-8 `text` has.
 std::size_t CharacterCount(std::string_view text);
 

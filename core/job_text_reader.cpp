@@ -11,16 +11,9 @@ namespace {
 /// How much of a field a message shows, in bytes.
 constexpr std::size_t kShownLength = 40;
 
-std::string Shown(std::string_view found) {
-  if (found.size() <= kShownLength) return std::string(found);
-  std::size_t end = kShownLength;
-  while (end > 0 && (static_cast<unsigned char>(found[end]) & 0xC0U) == 0x80U) --end;
-  return std::string(found.substr(0, end)) + "...";
-}
-
 std::string Where(int line, const FieldName& name, std::string_view found) {
   std::string where = "line " + std::to_string(line) + ", field " + name.text();
-  if (!found.empty()) where += ": \"" + Shown(found) + "\"";
+  if (!found.empty()) where += ": \"" + ShownField(found) + "\"";
   return where;
 }
 
@@ -61,6 +54,13 @@ std::size_t SeparatorFrom(std::string_view text, std::size_t from) {
 }
 
 }  // namespace
+
+std::string ShownField(std::string_view found) {
+  if (found.size() <= kShownLength) return std::string(found);
+  std::size_t end = kShownLength;
+  while (end > 0 && (static_cast<unsigned char>(found[end]) & 0xC0U) == 0x80U) --end;
+  return std::string(found.substr(0, end)) + "...";
+}
 
 JobReadFailure::JobReadFailure(FailureKind kind, int line, const FieldName& name,
                                std::string_view found)

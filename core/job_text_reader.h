@@ -9,6 +9,9 @@
 
 namespace halvane {
 
+/// The text of a field as messages show it: a long one is cut, which "..." behind it tells.
+std::string ShownField(std::string_view found);
+
 /// A job file whose text could not be taken: where, which field, and what stood there.
 class JobReadFailure : public RuntimeFailure {
  public:

@@ -7,6 +7,8 @@
 #include <cstring>
 #include <utility>
 
+#include "core/ascii.h"
+
 namespace halvane {
 namespace {
 
@@ -132,13 +134,11 @@ constexpr std::size_t kSecondIdentification = 0x28;
 constexpr char kWritten = 0x10;
 constexpr char kRight = 0x11;
 
-char Lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
-
 }  // namespace
 
 bool HelpArchive::FoldedLess::operator()(std::string_view a, std::string_view b) const {
   return std::lexicographical_compare(a.begin(), a.end(), b.begin(), b.end(), [](char x, char y) {
-    return static_cast<unsigned char>(Lower(x)) < static_cast<unsigned char>(Lower(y));
+    return static_cast<unsigned char>(LowerCase(x)) < static_cast<unsigned char>(LowerCase(y));
   });
 }
 

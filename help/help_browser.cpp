@@ -86,6 +86,8 @@ void HelpBrowser::SetZoom(int percent) {
   emit zoomChanged();
 }
 
+void HelpBrowser::ZoomBy(int steps) { SetZoom(zoom_ + steps * kZoomStep); }
+
 bool HelpBrowser::FindText(const QString& text, bool backward, bool& wrapped) {
   wrapped = false;
   if (text.isEmpty()) return false;
@@ -133,7 +135,7 @@ void HelpBrowser::wheelEvent(QWheelEvent* event) {
     return;
   }
   const int turned = event->angleDelta().y();
-  if (turned != 0) SetZoom(zoom_ + (turned > 0 ? kZoomStep : -kZoomStep));
+  if (turned != 0) ZoomBy(turned > 0 ? 1 : -1);
   event->accept();
 }
 

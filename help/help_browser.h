@@ -27,6 +27,8 @@ class HelpBrowser : public QTextBrowser {
   void ShowPage(const QUrl& url);
   /// In percent of the size of the program's text, held within the bounds.
   void SetZoom(int percent);
+  /// By so many steps, negative ones for smaller.
+  void ZoomBy(int steps);
   [[nodiscard]] int zoom() const { return zoom_; }
 
   /// Selects the next place where `text` stands, the one before when `backward`, beyond the end of

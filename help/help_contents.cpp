@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "core/ascii.h"
 #include "help/help_markup.h"
 
 namespace halvane {

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <utility>
 
+#include "core/ascii.h"
 #include "core/job_text_encoding.h"
 #include "help/help_markup.h"
 

@@ -5,6 +5,9 @@
 #include <cstddef>
 #include <optional>
 
+#include "core/ascii.h"
+#include "core/job_text_encoding.h"
+
 namespace halvane {
 namespace {
 
@@ -42,27 +45,6 @@ constexpr std::array<std::string_view, 96> kLatin1{
 constexpr std::size_t kLongestEntity = 10;
 constexpr char32_t kLastCodePoint = 0x10FFFF;
 
-void AppendUtf8(std::string& text, char32_t codePoint) {
-  const auto tail = [&](unsigned shift) {
-    text += static_cast<char>(0x80U | ((codePoint >> shift) & 0x3FU));
-  };
-  if (codePoint < 0x80) {
-    text += static_cast<char>(codePoint);
-  } else if (codePoint < 0x800) {
-    text += static_cast<char>(0xC0U | (codePoint >> 6U));
-    tail(0);
-  } else if (codePoint < 0x10000) {
-    text += static_cast<char>(0xE0U | (codePoint >> 12U));
-    tail(6);
-    tail(0);
-  } else {
-    text += static_cast<char>(0xF0U | (codePoint >> 18U));
-    tail(12);
-    tail(6);
-    tail(0);
-  }
-}
-
 std::optional<char32_t> NumberedEntity(std::string_view digits) {
   unsigned base = 10;
   if (digits.starts_with('x') || digits.starts_with('X')) {
@@ -73,7 +55,7 @@ std::optional<char32_t> NumberedEntity(std::string_view digits) {
   char32_t value = 0;
   for (const char c : digits) {
     const std::string_view known = "0123456789abcdef";
-    const std::size_t digit = known.find(LowerCase({&c, 1}));
+    const std::size_t digit = known.find(LowerCase(c));
     if (digit >= base) return std::nullopt;
     value = value * base + static_cast<char32_t>(digit);
     if (value > kLastCodePoint) return std::nullopt;
@@ -144,14 +126,6 @@ std::string_view HelpTag::operator[](std::string_view attribute) const {
     if (each.name == attribute) return each.value;
   }
   return {};
-}
-
-std::string LowerCase(std::string_view text) {
-  std::string result(text);
-  for (char& c : result) {
-    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
-  }
-  return result;
 }
 
 bool NextTag(std::string_view& text, HelpTag& tag) {

@@ -28,7 +28,4 @@ bool NextTag(std::string_view& text, HelpTag& tag);
 /// Western Europe. Any other stays as it is written.
 std::string WithoutEntities(std::string_view text);
 
-/// ASCII letters in lower case.
-std::string LowerCase(std::string_view text);
-
 }  // namespace halvane

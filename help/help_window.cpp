@@ -22,7 +22,6 @@ namespace {
 constexpr auto kTitle = "Halvane Tools Help";
 constexpr QSize kDefaultSize{1120, 700};
 constexpr int kTreeWidth = 280;
-constexpr int kZoomStep = 10;
 constexpr int kPlainZoom = 100;
 
 /// The file's own title, told apart from those of the program's other windows.
@@ -121,14 +120,14 @@ void HelpWindow::MakeCommands() {
   AddToBar(bar, AddCommand("HelpPrint", tr("Print"), Qt::CTRL | Qt::Key_P, [this] { PrintPage(); }),
            HelpIcon::Print);
   bar.addSeparator();
-  QAction* larger = AddCommand("HelpLarger", tr("Larger"), Qt::CTRL | Qt::Key_Plus,
-                               [this] { page_->SetZoom(page_->zoom() + kZoomStep); });
+  QAction* larger =
+      AddCommand("HelpLarger", tr("Larger"), Qt::CTRL | Qt::Key_Plus, [this] { page_->ZoomBy(1); });
   // The plus key needs no Shift on every keyboard.
   larger->setShortcuts({Qt::CTRL | Qt::Key_Plus, Qt::CTRL | Qt::Key_Equal});
   AddToBar(bar, larger, HelpIcon::ZoomIn);
   AddToBar(bar,
            AddCommand("HelpSmaller", tr("Smaller"), Qt::CTRL | Qt::Key_Minus,
-                      [this] { page_->SetZoom(page_->zoom() - kZoomStep); }),
+                      [this] { page_->ZoomBy(-1); }),
            HelpIcon::ZoomOut);
 
   AddCommand("HelpPlainSize", tr("Plain size"), Qt::CTRL | Qt::Key_0,

@@ -1,6 +1,6 @@
 #include "reporter/check_command.h"
 
-#include "core/job_text_encoding.h"
+#include "core/job_text_reader.h"
 #include "core/number_text.h"
 #include "reporter/json_text.h"
 #include "reporter/output.h"
@@ -9,9 +9,6 @@
 namespace halvane {
 namespace {
 
-/// How much of a text a line shows, in characters.
-constexpr std::size_t kShownLength = 40;
-
 std::string_view NameOf(JobVerdict verdict) {
   switch (verdict) {
     case JobVerdict::Refused: return "refused";
@@ -19,12 +16,6 @@ std::string_view NameOf(JobVerdict verdict) {
     case JobVerdict::Good: break;
   }
   return "good";
-}
-
-std::string Shown(std::string_view found) {
-  std::string shown = FirstCharacters(PrintableText(found), kShownLength);
-  if (CharacterCount(found) > kShownLength) shown += "...";
-  return shown;
 }
 
 void AppendProblem(std::string& out, const JobProblem& problem) {
@@ -46,7 +37,7 @@ void AppendCheckText(std::string& out, std::string_view file, const JobCheck& ch
     out += PrintableText(file) + ":" + PlainText(problem.line) + ": ";
     out += problem.isWarning ? "warning" : NameOf(check.verdict);
     if (!problem.field.empty()) out += ": " + problem.field;
-    if (!problem.found.empty()) out += ": \"" + Shown(problem.found) + "\"";
+    if (!problem.found.empty()) out += ": \"" + PrintableText(ShownField(problem.found)) + "\"";
     out += ": " + PrintableText(problem.message);
     out += kPlatformLineEnd;
   }

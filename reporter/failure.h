@@ -5,7 +5,6 @@
 #include <string>
 
 #include "core/runtime_failure.h"
-#include "core/units.h"
 
 namespace halvane {
 
@@ -29,10 +28,6 @@ std::optional<ReportFailure> Try(const Action& action) {
     return FailureFrom(RuntimeFailure(FailureKind::OutOfMemory));
   }
 }
-
-/// Makes `Module1` a freshly started program in which `units` are chosen and that has opened the
-/// job file `file`: nothing of another file comes through. Gives what stopped it.
-std::optional<ReportFailure> OpenAfresh(const std::string& file, LengthUnit units);
 
 /// The tool has no report on the job, which is no failure.
 extern const ReportFailure kNoReport;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/ascii.h"
 #include "core/runtime_failure.h"
 #include "reporter/folder_reader.h"
 
@@ -15,9 +16,8 @@ constexpr std::size_t kMostNames = 4096;
 bool IsJobFileName(std::string_view name) {
   if (name.size() <= kJobFileEnd.size()) return false;
   const std::string_view end = name.substr(name.size() - kJobFileEnd.size());
-  return std::ranges::equal(end, kJobFileEnd, [](char c, char wanted) {
-    return c == wanted || (c >= 'A' && c <= 'Z' && c - 'A' + 'a' == wanted);
-  });
+  return std::ranges::equal(end, kJobFileEnd,
+                            [](char c, char wanted) { return LowerCase(c) == wanted; });
 }
 
 /// Whether a name, with or without a slash behind it, comes before or behind `other`; false where

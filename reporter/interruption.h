@@ -2,13 +2,9 @@
 
 namespace halvane {
 
-/// From its making on, the first Ctrl-C is only noted, so that what is done can be written; a
-/// second one ends the program at once. A program that was started to ignore Ctrl-C goes on
-/// ignoring it.
-class InterruptionWatch {
- public:
-  InterruptionWatch();
-};
+/// From here on the first Ctrl-C is only noted, so that what is done can be written; a second one
+/// ends the program at once. A program that was started to ignore Ctrl-C goes on ignoring it.
+void WatchForInterruption();
 
 /// Whether the user has pressed Ctrl-C.
 bool IsInterrupted();

@@ -11,7 +11,7 @@ extern "C" void NoteInterruption(int /*signal*/) { interrupted = 1; }
 
 }  // namespace
 
-InterruptionWatch::InterruptionWatch() {
+void WatchForInterruption() {
   struct sigaction present {};
   if (sigaction(SIGINT, nullptr, &present) == 0 && present.sa_handler == SIG_IGN) return;
   struct sigaction wanted {};

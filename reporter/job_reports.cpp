@@ -2,7 +2,7 @@
 
 #include <optional>
 
-#include "core/job_state.h"
+#include "reporter/opened_job.h"
 
 namespace halvane {
 
@@ -13,29 +13,23 @@ std::vector<std::string> AppendReports(std::string& out, ReportWriter& writer,
     writer.FileFailed(out, file, tools, *failure);
     return {Complaint(file, *failure)};
   }
-  // Lives on, so that the arrays keep their memory from job to job.
-  static JobState opened;
-  if (tools.size() > 1) opened = Module1;
-
   std::vector<std::string> complaints;
-  for (std::size_t i = 0; i < tools.size(); ++i) {
-    const ToolRow* const tool = tools[i];
-    if (i > 0) Module1 = opened;
+  ForEachTool(tools, [&](const ToolRow& tool, std::size_t /*place*/) {
     RichText report;
     bool hasReport = false;
     const auto failure = Try([&]() -> std::optional<ReportFailure> {
-      hasReport = tool->writeReport(report);
+      hasReport = tool.WriteReport(report);
       return std::nullopt;
     });
     if (!failure && !hasReport) {
-      writer.NoReport(out, file, *tool, kNoReport);
+      writer.NoReport(out, file, tool, kNoReport);
     } else if (failure) {
-      writer.ToolFailed(out, file, *tool, *failure);
-      complaints.push_back(Complaint(file, tool->key, *failure));
+      writer.ToolFailed(out, file, tool, *failure);
+      complaints.push_back(Complaint(file, tool.key, *failure));
     } else {
-      writer.Report(out, file, *tool, report, tool->workingValues());
+      writer.Report(out, file, tool, report, tool.workingValues());
     }
-  }
+  });
   return complaints;
 }
 

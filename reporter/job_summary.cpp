@@ -1,6 +1,7 @@
 #include "reporter/job_summary.h"
 
 #include "core/job_state.h"
+#include "reporter/opened_job.h"
 
 namespace halvane {
 namespace {
@@ -38,19 +39,15 @@ std::vector<std::string> Summarise(JobSummary& summary, const std::string& file,
   summary.job = Module1.JobName.AsText();
   summary.workstation = Module1.JobWorkstationId;
 
-  // Lives on, so that the arrays keep their memory from job to job.
-  static JobState opened;
-  if (tools.size() > 1) opened = Module1;
   std::vector<std::string> complaints;
   summary.cells.resize(tools.size());
-  for (std::size_t i = 0; i < tools.size(); ++i) {
-    if (i > 0) Module1 = opened;
-    SummaryCell& cell = summary.cells[i];
-    cell.reason = ReadHeadline(cell.headline, *tools[i]->headline);
+  ForEachTool(tools, [&](const ToolRow& tool, std::size_t place) {
+    SummaryCell& cell = summary.cells[place];
+    cell.reason = ReadHeadline(cell.headline, *tool.headline);
     if (cell.reason && cell.reason->kind != kNoReport.kind) {
-      complaints.push_back(Complaint(file, tools[i]->key, *cell.reason));
+      complaints.push_back(Complaint(file, tool.key, *cell.reason));
     }
-  }
+  });
   return complaints;
 }
 

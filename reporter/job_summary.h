@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "core/units.h"
 #include "reporter/failure.h"
 #include "tools/tool_table.h"
 

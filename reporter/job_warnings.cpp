@@ -4,16 +4,12 @@
 #include <map>
 #include <tuple>
 
-#include "core/job_text_encoding.h"
 #include "reporter/choices.h"
 #include "reporter/field_notes.h"
 #include "tools/ocra/ocra_controls.h"
 
 namespace halvane {
 namespace {
-
-/// How much of a text a message shows, in characters.
-constexpr std::size_t kShownLength = 40;
 
 JobProblem Warning(const FieldNotes& notes, const FieldNote& note, std::string message) {
   return {true, notes.LineOf(note), note.name.text(), std::string(note.found), std::move(message)};
@@ -32,10 +28,10 @@ void WarnOfCopies(std::vector<JobProblem>& warnings, const FieldNotes& notes) {
   for (const FieldNote& note : notes.notes()) {
     const FieldNote*& before = seen[{note.name.field, note.name.first, note.name.second}];
     if (before != nullptr && !IsSame(before->value, note.value)) {
-      warnings.push_back(
-          Warning(notes, note,
-                  "differs from the copy on line " + PlainText(notes.LineOf(*before)) + ", \"" +
-                      FirstCharacters(before->found, kShownLength) + "\"; the later copy counts"));
+      warnings.push_back(Warning(notes, note,
+                                 "differs from the copy on line " +
+                                     PlainText(notes.LineOf(*before)) + ", \"" +
+                                     ShownField(before->found) + "\"; the later copy counts"));
     }
     before = &note;
   }

@@ -133,11 +133,13 @@ std::vector<const ToolRow*> ToolsOf(std::span<const ToolRow> tools,
   return rows;
 }
 
-/// A summary has its tools in the order of the manual page, the upper limb before the whole body.
+/// The cells of a summary, the upper limb before the whole body.
+constexpr std::array kOrderOfSummary{Tool::Ocra, Tool::Ctd,  Tool::StrainIndex,
+                                     Tool::Rula, Tool::Reba, Tool::Hal};
+
 void PutInOrderOfSummary(std::vector<const ToolRow*>& rows) {
-  const auto reba = std::ranges::find(rows, Tool::Reba, &ToolRow::tool);
-  const auto rula = std::ranges::find(rows, Tool::Rula, &ToolRow::tool);
-  if (reba < rula && rula != rows.end()) std::iter_swap(reba, rula);
+  std::ranges::stable_sort(
+      rows, {}, [](const ToolRow* row) { return std::ranges::find(kOrderOfSummary, row->tool); });
 }
 
 ReportFormat FormatOf(const Given& given) {

@@ -135,7 +135,7 @@ int RunReporter(std::vector<std::string> arguments) {
   StandardOutput output;
   try {
     if (const auto* notice = std::get_if<Notice>(&asked)) return WriteNotice(output, *notice);
-    const InterruptionWatch watch;
+    WatchForInterruption();
     return JobRun(output, std::get<Options>(asked)).Do();
   } catch (const OutputFailure& failure) {
     Complain(std::string("standard output: ") + failure.what());

@@ -22,7 +22,6 @@ constexpr int kTextWidth = 320;
 constexpr int kLargeIcon = 64;
 constexpr int kSmallIcon = 24;
 
-constexpr auto kMakerLine = "Made by %1";
 constexpr auto kContact = "How to use the program: Help, Content...";
 constexpr auto kContactReport =
     "To report an error, send the job file and the version above to whoever gave you the program.";
@@ -83,7 +82,7 @@ FrmAbout::FrmAbout(QWidget* parent) : QDialog(parent) {
   font.setBold(true);
   title->setFont(font);
   AddLine(*names, "lblVersion", "Version " + QCoreApplication::applicationVersion());
-  AddLine(*names, "lblMaker", QString(kMakerLine).arg(kMaker));
+  AddLine(*names, "lblMaker", kMadeBy);
   names->addSpacing(kGap / 2);
   AddWrapped(*names, "lblContact(0)", kContact);
   AddWrapped(*names, "lblContact(1)", kContactReport);

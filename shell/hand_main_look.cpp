@@ -112,7 +112,7 @@ void HandMainLook::MakeOpeningPanel(FrmHandMain& form) {
       ->setAlignment(Qt::AlignTop);
   maker->addStretch();
   column->addStretch(2);
-  AddLabel(*column, "lblMaker", QString("Made by ") + kMaker, 1.0, line);
+  AddLabel(*column, "lblMaker", kMadeBy, 1.0, line);
   form.Hyperlink1_ = new LinkLabel("Hyperlink1", "How to use the program", panel);
   FitFont(*form.Hyperlink1_, form.Hyperlink1_->text(), Bold(form.Hyperlink1_->font()), 1.0, line);
   column->addWidget(form.Hyperlink1_, 0, Qt::AlignHCenter);

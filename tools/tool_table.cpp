@@ -24,64 +24,34 @@
 namespace halvane {
 namespace {
 
-bool WriteOcraReport(RichText& RichTextBox1) {
-  kOcraHeadline.compute();
-  OcraReport(RichTextBox1);
-  return true;
-}
-
-bool WriteCtdReport(RichText& RichTextBox1) {
-  if (!kCtdHeadline.compute()) return false;
-  CTDprint(RichTextBox1);
-  return true;
-}
-
-bool WriteStrainIndexReport(RichText& RichTextBox1) {
-  kSiHeadline.compute();
-  SI_Report(RichTextBox1);
-  return true;
-}
-
-bool WriteRebaReport(RichText& RichTextBox1) {
-  kRebaHeadline.compute();
-  REBA_Report(RichTextBox1);
-  return true;
-}
-
-bool WriteRulaReport(RichText& RichTextBox1) {
-  kRulaHeadline.compute();
-  RULA_Report(RichTextBox1);
-  return true;
-}
-
-bool WriteHalReport(RichText& RichTextBox1) {
-  kHalHeadline.compute();
-  HAL_Print(RichTextBox1);
-  return true;
-}
-
 constexpr std::array kTools{
     ToolRow{Tool::Ocra, "ocra", "OCRA", "Occupational Repetitive Actions Index",
             "Occupational Repetitive Actions Index",
-            "Occupational Repetitive Actions Index (OCRA)2.htm", WriteOcraReport, OcraWorkingValues,
-            &kOcraHeadline},
+            "Occupational Repetitive Actions Index (OCRA)2.htm", &kOcraHeadline, OcraReport,
+            OcraWorkingValues},
     ToolRow{Tool::Ctd, "ctd", "CTD Risk Index", "Cumulative Trauma Disorders Risk Assessment Model",
-            "Cumulative Trauma Disorders Risk Assessment Model", "CTD2.htm", WriteCtdReport,
-            CtdWorkingValues, &kCtdHeadline},
+            "Cumulative Trauma Disorders Risk Assessment Model", "CTD2.htm", &kCtdHeadline,
+            CTDprint, CtdWorkingValues},
     ToolRow{Tool::StrainIndex, "si", "SI", "Strain Index", "Strain Index", "Strain Index2.htm",
-            WriteStrainIndexReport, SiWorkingValues, &kSiHeadline},
+            &kSiHeadline, SI_Report, SiWorkingValues},
     ToolRow{Tool::Reba, "reba", "REBA", "Rapid Entire Body Assessment",
             "Rapid Entire Body Assessment", "REBA (Rapid Entire Body Assessment)2.htm",
-            WriteRebaReport, RebaWorkingValues, &kRebaHeadline},
+            &kRebaHeadline, REBA_Report, RebaWorkingValues},
     // The form's title differs from the button's tip, which is wanted.
     ToolRow{Tool::Rula, "rula", "RULA", "Rapid Upper Limb Assessment",
             "Repetitive Upper Limb Assessment", "RULA (Rapid Upper Limb Assessment)2.htm",
-            WriteRulaReport, RulaWorkingValues, &kRulaHeadline},
+            &kRulaHeadline, RULA_Report, RulaWorkingValues},
     ToolRow{Tool::Hal, "hal", "", "", "ACGIH: Hand Activity Level",
-            "ACGIH Hand Activity Level2.htm", WriteHalReport, HalWorkingValues, &kHalHeadline},
+            "ACGIH Hand Activity Level2.htm", &kHalHeadline, HAL_Print, HalWorkingValues},
 };
 
 }  // namespace
+
+bool ToolRow::WriteReport(RichText& RichTextBox1) const {
+  if (!headline->compute()) return false;
+  print(RichTextBox1);
+  return true;
+}
 
 std::span<const ToolRow> Tools() { return kTools; }
 

@@ -22,13 +22,16 @@ struct ToolRow {
   std::string_view title;          ///< of the tool's form
   std::string_view helpTopic;      ///< page of the help file
 
+  /// How it computes, and its line in a summary.
+  const ToolHeadline* headline;
+  /// Writes the report of the last computation.
+  void (*print)(RichText& RichTextBox1);
+  /// The working values that a computation leaves.
+  std::vector<WorkingValue> (*workingValues)();
+
   /// Does what opening the tool and its report tab does, form load included, on the present job,
   /// without a screen. False, with nothing written, for a job that the tool has no report on.
-  bool (*writeReport)(RichText& RichTextBox1);
-  /// The working values that it leaves.
-  std::vector<WorkingValue> (*workingValues)();
-  /// Its line in a summary.
-  const ToolHeadline* headline;
+  bool WriteReport(RichText& RichTextBox1) const;
 };
 
 /// All tools; a row stands at the number of its `Tool`.

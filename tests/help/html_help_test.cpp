@@ -49,6 +49,12 @@ class HtmlHelp : public ShellTest {
  protected:
   HtmlHelp() { platform.SetFolders("/program", "/data"); }
 
+  /// Takes a help file that is there.
+  void Use(const char* file) {
+    platform.AddFile(file);
+    help.CHMFile = file;
+  }
+
   RecordingViewer viewer;
   HTMLHelp help;
 };
@@ -59,24 +65,21 @@ using Messages = std::vector<ShownMessage>;
 constexpr auto kKey = "Software\\Microsoft\\Windows\\HTML Help";
 
 TEST_F(HtmlHelp, ShowsATopicForNobody) {
-  platform.AddFile("/a/b.chm");
-  help.CHMFile = "/a/b.chm";
+  Use("/a/b.chm");
   help.HHTopicURL = "CTD2.htm";
   help.HHDisplayTopicURL(nullptr);
   EXPECT_EQ(viewer.calls, (Calls{{nullptr, "/a/b.chm", 0, "CTD2.htm"}}));
 }
 
 TEST_F(HtmlHelp, ShowsTheContentsWithoutATopic) {
-  platform.AddFile("/a/b.chm");
-  help.CHMFile = "/a/b.chm";
+  Use("/a/b.chm");
   help.HHTopicURL = "CTD2.htm";
   help.HHDisplayContents(nullptr);
   EXPECT_EQ(viewer.calls, (Calls{{nullptr, "/a/b.chm", 1, ""}}));
 }
 
 TEST_F(HtmlHelp, TheWindowAskingOwnsTheViewerOnlyWhenItIsToStayOnTop) {
-  platform.AddFile("/a/b.chm");
-  help.CHMFile = "/a/b.chm";
+  Use("/a/b.chm");
   QWidget window;
   help.HHDisplayContents(&window);
   help.HHShowOnTop = true;
@@ -88,8 +91,7 @@ TEST_F(HtmlHelp, TheWindowAskingOwnsTheViewerOnlyWhenItIsToStayOnTop) {
 }
 
 TEST_F(HtmlHelp, TheNameOfAHelpWindowFollowsTheFile) {
-  platform.AddFile("/a/b.chm");
-  help.CHMFile = "/a/b.chm";
+  Use("/a/b.chm");
   help.HHWindow = "  ";
   help.HHDisplayContents(nullptr);
   help.HHWindow = "main";
@@ -104,8 +106,7 @@ TEST_F(HtmlHelp, TheEndingDecidesWhetherItIsAHelpFile) {
   };
   for (const Row& row : {Row{"/a/b.CHM", true}, Row{"/a/b.Chm", true}, Row{"/a/bchm", true},
                          Row{"/a/b.hlp", false}, Row{"/a/b.chm2", false}, Row{"", false}}) {
-    platform.AddFile(row.file);
-    help.CHMFile = row.file;
+    Use(row.file);
     viewer.calls.clear();
     const std::size_t before = platform.messages().size();
     if (!row.isHelp) platform.WillAnswer(Answer::Ok);
@@ -151,8 +152,7 @@ TEST_F(HtmlHelp, AFileWithoutAFolderAndNotListedIsBesideTheProgram) {
 TEST_F(HtmlHelp, AFileWithAFolderIsNotLookedUp) {
   platform.registry().Put(kKey, "b.chm", {kRegistryString, std::string("/listed\0", 8)});
   for (const char* file : {"/a/b.chm", "C:\\a\\b.chm"}) {
-    platform.AddFile(file);
-    help.CHMFile = file;
+    Use(file);
     help.HHDisplayContents(nullptr);
     EXPECT_EQ(viewer.calls.back().file, file);
   }
@@ -160,8 +160,7 @@ TEST_F(HtmlHelp, AFileWithAFolderIsNotLookedUp) {
 }
 
 TEST_F(HtmlHelp, AFailureOfTheViewerEndsSilently) {
-  platform.AddFile("/a/b.chm");
-  help.CHMFile = "/a/b.chm";
+  Use("/a/b.chm");
   viewer.failing = true;
   EXPECT_NO_THROW(help.HHDisplayContents(nullptr));
   EXPECT_EQ(viewer.calls.size(), 1U);

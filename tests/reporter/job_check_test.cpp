@@ -144,6 +144,9 @@ TEST_F(JobCheckTest, CopiesThatDifferAreToldWithTheLineOfTheOther) {
       {"action frequency", JobWithTask({{2, "12,0"}}),
        "67: warning: OcraActionFrequency(1): \"0\": differs from the copy on line 66, \"12\"; the "
        "later copy counts"},
+      {"long text", JobWithTask({{2, "\"" + std::string(41, 'x') + "\",0"}}),
+       "67: warning: OcraActionFrequency(1): \"0\": differs from the copy on line 66, \"" +
+           std::string(40, 'x') + "...\"; the later copy counts"},
       {"work time", JobWithTask({{3, "0,0.1,0,0,0,0,0"}}),
        "69: warning: CtdWorkTime(1): \"0\": differs from the copy on line 67, \"0.1\"; the later "
        "copy counts"},

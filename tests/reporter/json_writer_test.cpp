@@ -166,7 +166,7 @@ TEST(ReportJson, ParsedBackGivesTheReportAgain) {
   Module1.JobFileName = SourcePath("docs/samples/board-assembly.qjt");
   ASSERT_EQ(OpenJobFile(), OpenOutcome::Opened);
   RichText report;
-  RowOf(Tool::StrainIndex).writeReport(report);
+  RowOf(Tool::StrainIndex).WriteReport(report);
 
   const Json parsed = Json::parse(LineOf(report))["report"];
   EXPECT_EQ(parsed["text"], report.text());

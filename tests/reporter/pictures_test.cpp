@@ -15,7 +15,7 @@ TEST(ReportPictures, EveryPictureOfAReportIsInTheProgram) {
   for (const ToolRow& row : Tools()) {
     Module1 = JobState{};
     RichText report;
-    row.writeReport(report);
+    row.WriteReport(report);
     for (const std::string& name : report.pictures()) {
       ++count;
       EXPECT_EQ(PictureSvg(name), BytesOf(SourcePath("assets/" + name + ".svg"))) << name;

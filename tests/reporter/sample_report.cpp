@@ -5,42 +5,44 @@
 namespace halvane {
 namespace {
 
+bool ComputeNothing() { return true; }
+bool HasNoReport() { return false; }
+
+const ToolHeadline kPlain{{}, 1, ComputeNothing, nullptr};
+const ToolHeadline kWithoutReport{{}, 1, HasNoReport, nullptr};
+
 /// Writes the job's name and changes the job, as tools do.
-bool WriteGoodReport(RichText& RichTextBox1) {
+void WriteGoodReport(RichText& RichTextBox1) {
   RichTextBox1.Append("Job: ", Module1.JobName.AsText());
   Module1.JobName = "changed by the tool";
   Module1.SiDutyRating = static_cast<Integer>(Module1.SiDutyRating + 1);
-  return true;
 }
 
 std::vector<WorkingValue> GoodValues() { return {{"SiDutyRating", Module1.SiDutyRating}}; }
 
-bool Fail(RichText& RichTextBox1) {
+void Fail(RichText& RichTextBox1) {
   RichTextBox1.Append("half of a report");
   throw RuntimeFailure(FailureKind::DivisionByZero);
 }
 
-bool WriteUnits(RichText& RichTextBox1) {
-  RichTextBox1.Append(PlainText(Module1.Units));
-  return true;
-}
+void WriteUnits(RichText& RichTextBox1) { RichTextBox1.Append(PlainText(Module1.Units)); }
 
 std::vector<WorkingValue> NoValues() { return {}; }
 
-bool WriteNothing(RichText& /*RichTextBox1*/) { return false; }
+void WriteNothing(RichText& /*RichTextBox1*/) {}
 
 }  // namespace
 
 const std::array<ToolRow, 2> kTestTools{
-    ToolRow{Tool::StrainIndex, "good", "", "", "Good <Tool>", "", WriteGoodReport, GoodValues,
-            nullptr},
-    ToolRow{Tool::Ocra, "failing", "", "", "Failing Tool", "", Fail, GoodValues, nullptr},
+    ToolRow{Tool::StrainIndex, "good", "", "", "Good <Tool>", "", &kPlain, WriteGoodReport,
+            GoodValues},
+    ToolRow{Tool::Ocra, "failing", "", "", "Failing Tool", "", &kPlain, Fail, GoodValues},
 };
 
-const ToolRow kSilentTool{Tool::Ctd, "silent",     "",       "",     "Silent Tool",
-                          "",        WriteNothing, NoValues, nullptr};
-const ToolRow kUnitsTool{Tool::Ctd, "units",    "",       "",     "Units Tool",
-                         "",        WriteUnits, NoValues, nullptr};
+const ToolRow kSilentTool{Tool::Ctd, "silent",        "",           "",      "Silent Tool",
+                          "",        &kWithoutReport, WriteNothing, NoValues};
+const ToolRow kUnitsTool{Tool::Ctd, "units", "",         "",      "Units Tool",
+                         "",        &kPlain, WriteUnits, NoValues};
 
 RichText OneLine(std::string_view text, Alignment alignment, const std::vector<int>& tabStops) {
   RichText report;

@@ -22,7 +22,7 @@ class PostureForms : public PostureFormTest, public testing::WithParamInterface<
   /// The scores in the report are those of the job as it is.
   void ExpectReportOfTheJob() const {
     RichText report;
-    ASSERT_TRUE(tool.writeReport(report));
+    ASSERT_TRUE(tool.WriteReport(report));
     ASSERT_GT(report.text().size(), 400U);
     EXPECT_EQ(Report(), QString::fromStdString(report.text()).replace("\r\n", "\n"));
   }

@@ -224,7 +224,7 @@ TEST(Headlines, OddJobsComeToWhatTheReportComesTo) {
       const std::string report = OutcomeOf(
           [&row] {
             RichText pane;
-            return row.writeReport(pane);
+            return row.WriteReport(pane);
           },
           row);
       Module1 = job;

@@ -47,7 +47,7 @@ TEST(ToolTable, EachToolHasItsRow) {
     EXPECT_EQ(row.buttonTip, expected.buttonTip) << expected.key;
     EXPECT_EQ(row.title, expected.title) << expected.key;
     EXPECT_EQ(row.helpTopic, expected.helpTopic) << expected.key;
-    EXPECT_NE(row.writeReport, nullptr) << expected.key;
+    EXPECT_NE(row.print, nullptr) << expected.key;
     EXPECT_NE(row.workingValues, nullptr) << expected.key;
     EXPECT_NE(row.headline, nullptr) << expected.key;
   }
@@ -56,7 +56,7 @@ TEST(ToolTable, EachToolHasItsRow) {
 TEST(ToolTable, StrainIndexReportLoadsTheFormFirst) {
   Module1 = JobState{};
   RichText pane;
-  RowOf(Tool::StrainIndex).writeReport(pane);
+  RowOf(Tool::StrainIndex).WriteReport(pane);
   EXPECT_NE(pane.text().find("Strain Index Score: 0.3"), std::string::npos);
   // The form's load chose the hand and pressed the ribbons, with their marks on the job.
   EXPECT_EQ(Module1.JobDirty, kTrue);
@@ -69,7 +69,7 @@ TEST(ToolTable, StrainIndexReportOfASavedHandThatIsNoneFails) {
   Module1 = JobState{};
   Module1.Hand = 2;
   RichText pane;
-  EXPECT_EQ(FailureOf([&] { RowOf(Tool::StrainIndex).writeReport(pane); }), "SubscriptOutOfRange");
+  EXPECT_EQ(FailureOf([&] { RowOf(Tool::StrainIndex).WriteReport(pane); }), "SubscriptOutOfRange");
   EXPECT_EQ(pane.text(), "");
 }
 
@@ -77,7 +77,7 @@ TEST(ToolTable, HalReportLoadsTheFormFirstAndLeavesTheJobClean) {
   Module1 = JobState{};
   Module1.HalActivityLevel = "3.0";
   RichText pane;
-  EXPECT_TRUE(RowOf(Tool::Hal).writeReport(pane));
+  EXPECT_TRUE(RowOf(Tool::Hal).WriteReport(pane));
   EXPECT_TRUE(pane.text().ends_with("Action Level: 3.73\r\nThreshold Limit Value: 5.60"));
   EXPECT_EQ(Module1.HalForceMode, kTrue);
   EXPECT_EQ(Module1.JobDirty, kFalse);
@@ -91,14 +91,14 @@ TEST(ToolTable, HalReportOfASavedHandThatIsNoneFails) {
   Module1 = JobState{};
   Module1.Hand = 2;
   RichText pane;
-  EXPECT_EQ(FailureOf([&] { RowOf(Tool::Hal).writeReport(pane); }), "SubscriptOutOfRange");
+  EXPECT_EQ(FailureOf([&] { RowOf(Tool::Hal).WriteReport(pane); }), "SubscriptOutOfRange");
   EXPECT_EQ(pane.text(), "");
 }
 
 TEST(ToolTable, RebaReportLoadsTheFormFirst) {
   Module1 = JobState{};
   RichText pane;
-  EXPECT_TRUE(RowOf(Tool::Reba).writeReport(pane));
+  EXPECT_TRUE(RowOf(Tool::Reba).WriteReport(pane));
   EXPECT_NE(pane.text().find("REBA Grand Score: 1\r\n"), std::string::npos);
   EXPECT_EQ(Module1.JobDirty, kTrue);
   EXPECT_EQ(Module1.RebaControlState.at(15), 1);
@@ -109,14 +109,14 @@ TEST(ToolTable, RebaReportOfASavedControlThatIsNoneFails) {
   Module1 = JobState{};
   Module1.RebaControlState.at(12) = 6;
   RichText pane;
-  EXPECT_EQ(FailureOf([&] { RowOf(Tool::Reba).writeReport(pane); }), "SubscriptOutOfRange");
+  EXPECT_EQ(FailureOf([&] { RowOf(Tool::Reba).WriteReport(pane); }), "SubscriptOutOfRange");
   EXPECT_EQ(pane.text(), "");
 }
 
 TEST(ToolTable, RebaGivesItsWorkingValues) {
   Module1 = JobState{};
   RichText pane;
-  RowOf(Tool::Reba).writeReport(pane);
+  RowOf(Tool::Reba).WriteReport(pane);
   const std::vector<WorkingValue> values = RowOf(Tool::Reba).workingValues();
   ASSERT_EQ(values.size(), 23U);
   EXPECT_EQ(values.back().name, "RebaGrandScore");

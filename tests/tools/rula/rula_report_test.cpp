@@ -27,7 +27,7 @@ class RulaReport : public testing::Test {
   void SetUp() override { Module1 = JobState{}; }
   /// What opening the tool and its report tab does.
   std::string Open() {
-    EXPECT_TRUE(RowOf(Tool::Rula).writeReport(pane_));
+    EXPECT_TRUE(RowOf(Tool::Rula).WriteReport(pane_));
     return pane_.text();
   }
   /// The report of results that are put in place.
@@ -315,7 +315,7 @@ TEST_F(RulaReport, PaneStaysOpenAndStartsWithoutWhatWasInIt) {
 
 TEST_F(RulaReport, SavedChoiceThatIsNoneWritesNothing) {
   Module1.RulaControlState.at(9) = 4;
-  EXPECT_EQ(FailureOf([this] { RowOf(Tool::Rula).writeReport(pane_); }), "SubscriptOutOfRange");
+  EXPECT_EQ(FailureOf([this] { RowOf(Tool::Rula).WriteReport(pane_); }), "SubscriptOutOfRange");
   EXPECT_EQ(pane_.text(), "");
 }
 

@@ -1,0 +1,19 @@
+#include "reporter/opened_job.h"
+
+#include "core/job_file.h"
+
+namespace halvane {
+
+std::optional<ReportFailure> OpenAfresh(const std::string& file, LengthUnit units) {
+  return Try([&file, units]() -> std::optional<ReportFailure> {
+    // Assigned from one that lives on, so that the arrays keep their memory from job to job.
+    static const JobState fresh;
+    Module1 = fresh;
+    Module1.Units = static_cast<Integer>(units);
+    Module1.JobFileName = file;
+    if (OpenJobFile() == OpenOutcome::Opened) return std::nullopt;
+    return ReportFailure{"NotAJobFile", "Not a job file: its first field is not \"qjt\""};
+  });
+}
+
+}  // namespace halvane

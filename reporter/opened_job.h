@@ -1,0 +1,31 @@
+#pragma once
+
+#include <optional>
+#include <span>
+#include <string>
+
+#include "core/job_state.h"
+#include "core/units.h"
+#include "reporter/failure.h"
+#include "tools/tool_table.h"
+
+namespace halvane {
+
+/// Makes `Module1` a freshly started program in which `units` are chosen and that has opened the
+/// job file `file`: nothing of another file comes through. Gives what stopped it.
+std::optional<ReportFailure> OpenAfresh(const std::string& file, LengthUnit units);
+
+/// Runs `action` with each tool and its place in `tools`, `Module1` being the job each time as it
+/// stands when this is called: nothing that one tool stores comes through to the next.
+template <typename Action>
+void ForEachTool(std::span<const ToolRow* const> tools, const Action& action) {
+  // Lives on, so that the arrays keep their memory from job to job.
+  static JobState opened;
+  if (tools.size() > 1) opened = Module1;
+  for (std::size_t i = 0; i < tools.size(); ++i) {
+    if (i > 0) Module1 = opened;
+    action(*tools[i], i);
+  }
+}
+
+}  // namespace halvane
