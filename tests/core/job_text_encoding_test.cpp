@@ -140,5 +140,17 @@ TEST(JobTextEncoding, AnyBytesGiveWellFormedTextThatSurvivesWritingAndReading) {
   }
 }
 
+TEST(Utf8, CharactersAreAppendedInTheirShortestForm) {
+  std::string text;
+  for (const char32_t character :
+       {U'\x7F', U'\x80', U'\x7FF', U'\x800', U'\xFFFF', U'\x10000', U'\x1F600', U'\x10FFFF'}) {
+    AppendUtf8(text, character);
+    text += ' ';
+  }
+  EXPECT_EQ(text,
+            "\x7F \xC2\x80 \xDF\xBF \xE0\xA0\x80 \xEF\xBF\xBF \xF0\x90\x80\x80 "
+            "\xF0\x9F\x98\x80 \xF4\x8F\xBF\xBF ");
+}
+
 }  // namespace
 }  // namespace halvane
