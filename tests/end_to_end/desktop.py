@@ -5,12 +5,16 @@ import shutil
 import subprocess
 import time
 
-TOOLS = ("Xvfb", "openbox", "xdotool", "xclip", "xev", "convert")
+TOOLS = ("Xvfb", "openbox", "xdotool", "xclip", "xev", "xprop", "convert", "import")
 PATIENCE = 20  # seconds until something that has to happen counts as missing
+LEFT, RIGHT = 1, 3
+WHEEL_UP, WHEEL_DOWN = 4, 5
 
 
-def missing_tools():
-    return [tool for tool in TOOLS if shutil.which(tool) is None]
+def missing_tools(manager="none"):
+    """The programs that the machine lacks, that window manager among them."""
+    needed = TOOLS if manager == "none" else (*TOOLS, manager)
+    return [tool for tool in needed if shutil.which(tool) is None]
 
 
 def wait_until(condition, what):
@@ -27,8 +31,10 @@ def wait_until(condition, what):
 class Desktop:
     """Use as a context manager; everything started on it ends with it."""
 
-    def __init__(self, folder, scale=1):
+    def __init__(self, folder, scale=1, manager="openbox"):
+        """`manager` is the window manager's command; None for a screen without one."""
         self.folder = folder
+        self.manager = manager
         self.processes = []
         self.environment = dict(os.environ)
         for name in ("WAYLAND_DISPLAY", "QT_QPA_PLATFORM", "QT_SCALE_FACTOR", "QT_STYLE_OVERRIDE"):
@@ -48,9 +54,24 @@ class Desktop:
         os.close(writing)
         with os.fdopen(reading) as pipe:
             self.environment["DISPLAY"] = ":" + pipe.readline().strip()
-        self.start(["openbox"])
-        wait_until(lambda: self.output("xprop", "-root", "_NET_SUPPORTING_WM_CHECK").count("0x"), "the window manager")
+        if self.manager:
+            self.start([self.manager])
+            wait_until(self._is_managed, "the window manager")
         return self
+
+    def _is_managed(self):
+        """Whether a window manager is at work, also one that tells nothing of itself: only one may ask for this."""
+        if self.output("xprop", "-root", "_NET_SUPPORTING_WM_CHECK").count("0x"):
+            return True
+        # A manager frames each window, so that the window is no child of the root any more.
+        if not hasattr(self, "probe"):
+            self.probe = self.start(["xev", "-name", "probe", "-geometry", "50x50+0+0"])
+        place = self.output("xwininfo", "-name", "probe", "-tree")
+        framed = "Parent window id" in place and "(the root window)" not in place.split("Parent window id")[1].split("\n")[0]
+        if framed:
+            self.probe.terminate()
+            self.probe.wait()
+        return framed
 
     def __exit__(self, *_):
         for process in reversed(self.processes):
@@ -72,20 +93,93 @@ class Desktop:
     def output(self, *command):
         return subprocess.run(command, env=self.environment, capture_output=True, text=True, check=False).stdout
 
+    def visible(self, title):
+        """The visible windows with this title."""
+        return self.output("xdotool", "search", "--onlyvisible", "--name", f"^{title}$").split()
+
+    def focused(self):
+        """The window that has the keyboard."""
+        if self.manager == "openbox":
+            return self.output("xdotool", "getactivewindow").strip()
+        return self.output("xdotool", "getwindowfocus").strip()
+
+    def active(self, *titles):
+        """Title and window of the one of these that has the focus; None while another has it."""
+        focused = self.focused()
+        for title in titles:
+            if focused in self.visible(title):
+                return title, focused
+        return None
+
     def window(self, title):
         """The visible window with this title, once it is there and has the focus."""
+        return wait_until(lambda: self.active(title), f"the window '{title}'")[1]
 
-        def active():
-            found = self.output("xdotool", "search", "--onlyvisible", "--name", f"^{title}$").split()
-            focused = self.output("xdotool", "getactivewindow").strip()
-            return focused if focused in found else None
+    def shown(self, title):
+        """The visible window with this title, once it is there, whatever has the focus."""
+        return wait_until(lambda: self.visible(title), f"the window '{title}'")[0]
 
-        return wait_until(active, f"the window '{title}'")
+    def gone(self, title):
+        wait_until(lambda: not self.visible(title), f"the end of the window '{title}'")
 
-    def click(self, window, x, y):
-        subprocess.run(
-            ["xdotool", "mousemove", "--window", window, str(x), str(y), "click", "1"],
+    def xdotool(self, *words):
+        subprocess.run(["xdotool", *map(str, words)], env=self.environment, check=True)
+
+    def click(self, window, x, y, button=LEFT, times=1):
+        repeat = ["--repeat", times, "--delay", 60] if times > 1 else []
+        self.xdotool("mousemove", "--window", window, x, y, "click", *repeat, button)
+
+    def wheel(self, window, x, y, button, steps=3):
+        self.click(window, x, y, button, steps)
+
+    def rest_mouse(self):
+        """Takes the mouse where it is over no window of the program."""
+        self.xdotool("mousemove", 1279, 1199)
+
+    def minimise(self, window):
+        self.xdotool("windowminimize", window)
+
+    def activate(self, window):
+        """Gives a window the keyboard, as a click in a list of windows does."""
+        if self.manager == "openbox":
+            self.xdotool("windowactivate", "--sync", window)
+        else:
+            self.xdotool("windowmap", window, "windowfocus", window)
+
+    def picture(self, window, place=None):
+        """The pixels of a window or of a part (x, y, width, height) of it, as bytes of red, green and blue."""
+        crop = ["-crop", "{2}x{3}+{0}+{1}".format(*place), "+repage"] if place else []
+        return subprocess.run(
+            ["import", "-silent", "-window", window, *crop, "-depth", "8", "rgb:-"],
             env=self.environment,
+            capture_output=True,
+            check=True,
+        ).stdout
+
+    def keydown(self, *keys):
+        for key in keys:
+            self.xdotool("keydown", key)
+
+    def keyup(self, *keys):
+        for key in keys:
+            self.xdotool("keyup", key)
+
+    def hold(self, key, seconds):
+        """Presses a key and releases it after a while, whatever happens to windows and focus meanwhile."""
+        self.keydown(key)
+        time.sleep(seconds)
+        self.keyup(key)
+
+    def clipboard(self):
+        return self.output("xclip", "-selection", "clipboard", "-o")
+
+    def set_clipboard(self, text):
+        subprocess.run(
+            ["xclip", "-selection", "clipboard"],
+            env=self.environment,
+            input=text.encode(),
+            stdout=subprocess.DEVNULL,
+            stderr=subprocess.DEVNULL,
             check=True,
         )
 

@@ -1,0 +1,128 @@
+#!/usr/bin/env python3
+"""Keys whose press and release are apart: keys_test.py PROGRAM DATAFOLDER CASE. A release counts in the box that had
+the press, and in no other. Exit status 77 says that a tool is missing and the test was skipped."""
+
+import os
+import sys
+
+from program import CTD, MESSAGE, OCRA, REBA, RULA, SI, Program, run, write_job
+
+OCRA_ANALYST = (207, 39)
+OCRA_ADD_TASK = (86, 657)
+OCRA_DURATION = (437, 271)
+OCRA_FREQUENCY = (799, 271)
+CTD_ADD_TASK = (51, 668)
+
+# So long is a key down that a hand presses without haste, and one that it forgets.
+PRESSED = 0.12
+FORGOTTEN = 0.5
+
+
+def save_with_enter(desktop, program, *tools):
+    """The release of the Enter that closed Save As is no typing: the job is as it was saved."""
+    run_ = Program(desktop, program)
+    for number, tool in enumerate(tools):
+        run_.open(tool)
+        desktop.keys("alt+f")
+        desktop.keys("Down", "Down", "Down", "Return")
+        desktop.window("Save As")
+        desktop.type(os.path.join(desktop.folder, f"job {number}.qjt"))
+        desktop.hold("Return", PRESSED)
+        desktop.window(tool.title)
+        assert os.path.exists(os.path.join(desktop.folder, f"job {number}.qjt"))
+        run_.leave()
+        assert not run_.job_is_changed(), f"{tool.title}: the job counts as changed after Save As"
+    run_.end()
+
+
+def leave_the_menu(desktop, program):
+    """Opening the menu and leaving it by Escape changes nothing."""
+    run_ = Program(desktop, program)
+    for tool in (OCRA, CTD):
+        run_.open(tool)
+        for keys in (("alt+f", "Escape", "Escape"), ("alt+h", "Escape", "Escape"), ("F10", "Escape")):
+            for key in keys:
+                desktop.keys(key)
+        run_.leave()
+        assert not run_.job_is_changed(), f"{tool.title}: the job counts as changed after a look at its menus"
+    run_.end()
+
+
+def overlapping_keys(desktop, program):
+    """The digits of fast typing are all stored, though Tab is pressed while the last one is still down."""
+    run_ = Program(desktop, program)
+    tool = run_.open(OCRA)
+    desktop.click(tool, *OCRA_ADD_TASK)
+    desktop.click(tool, *OCRA_DURATION)
+    desktop.keydown("4")
+    desktop.keyup("4")
+    desktop.keydown("8")
+    desktop.keydown("Tab")
+    desktop.keyup("8")
+    desktop.keyup("Tab")
+    # Now in the frequency, left by the mouse.
+    desktop.keydown("3")
+    desktop.keyup("3")
+    desktop.keydown("5")
+    desktop.click(tool, *OCRA_ANALYST)
+    desktop.keyup("5")
+    job = run_.saved_job()
+    assert (job.ocra_duration(1), job.ocra_frequency(1)) == ("48", "35"), job.task(1)
+    run_.end()
+
+
+def new_with_a_held_key(desktop, program):
+    """The N that answered the question of New is held until the new job is on screen; nothing comes of it."""
+    run_ = Program(desktop, program)
+    for tool, add in ((CTD, CTD_ADD_TASK), (OCRA, OCRA_ADD_TASK)):
+        window = run_.open(tool)
+        desktop.click(window, *add)
+        desktop.keys("alt+f")
+        desktop.keys("n")
+        desktop.window(MESSAGE)
+        desktop.hold("n", FORGOTTEN)
+        run_.assert_alive(tool.title)
+        job = run_.saved_job()
+        assert (job.task_count, job.analyst) == ("0", ""), job.lines[:4]
+        os.remove(os.path.join(desktop.folder, "saved.qjt"))
+        run_.leave()
+        # The next New is asked from a job that has no file name.
+        desktop.keys("ctrl+n")
+    run_.end()
+
+
+def open_with_enter(desktop, program):
+    """The Enter that closed Open is released when a job without tasks has taken the place of forty."""
+    many = os.path.join(desktop.folder, "forty.qjt")
+    none = os.path.join(desktop.folder, "none.qjt")
+    write_job(many, 40)
+    write_job(none, 0)
+    with open(none, "rb") as file:
+        before = file.read()
+    run_ = Program(desktop, program)
+    run_.open_job(many)
+    run_.open(CTD)
+    desktop.keys("alt+f")
+    desktop.keys("Down", "Return")
+    desktop.window("Open")
+    desktop.type(none)
+    desktop.hold("Return", PRESSED)
+    run_.assert_alive(CTD.title)
+    run_.leave()
+    assert not run_.job_is_changed()
+    with open(none, "rb") as file:
+        assert file.read() == before
+    run_.end()
+
+
+CASES = {
+    "save_with_enter": lambda desktop, program: save_with_enter(desktop, program, OCRA, CTD),
+    "save_with_enter_no_tasks": lambda desktop, program: save_with_enter(desktop, program, SI, REBA, RULA),
+    "leave_the_menu": leave_the_menu,
+    "overlapping_keys": overlapping_keys,
+    "new_with_a_held_key": new_with_a_held_key,
+    "open_with_enter": open_with_enter,
+}
+
+if __name__ == "__main__":
+    sys.exit(run(CASES))

@@ -1,0 +1,169 @@
+"""The built program as a user handles it: its windows, menus and questions, and the job files that it writes."""
+
+import csv
+import os
+import sys
+import tempfile
+
+from desktop import Desktop, missing_tools, wait_until
+
+SKIPPED = 77
+MAIN = "Halvane Tools V1.0"
+MESSAGE = "Halvane Tools"
+
+# Places in the windows, in pixels from their upper left corner.
+CLOSE_BUTTON = (264, 220)
+FINGERTIP = (151, 40)
+
+
+class Tool:
+    """A tool's launch button, title and the places of its tabs."""
+
+    def __init__(self, button, title, *tabs):
+        self.button = button
+        self.title = title
+        self.tabs = tabs
+
+
+OCRA = Tool((178, 254), "Occupational Repetitive Actions Index", (90, 72), (242, 72), (372, 72))
+CTD = Tool((178, 288), "Cumulative Trauma Disorders Risk Assessment Model", (304, 42), (448, 42), (572, 42))
+SI = Tool((178, 322), "Strain Index", (75, 42), (190, 42))
+REBA = Tool((178, 356), "Rapid Entire Body Assessment", (75, 42), (190, 42))
+RULA = Tool((178, 390), "Repetitive Upper Limb Assessment", (75, 42), (190, 42))
+TOOLS = (OCRA, CTD, SI, REBA, RULA)
+
+
+class Program:
+    """A run of the program, its main window idle."""
+
+    def __init__(self, desktop, program):
+        self.desktop = desktop
+        self.process = desktop.start([program])
+        self.main = desktop.shown(MAIN)
+        # The buttons come when the opening panel goes, whose blue stands where their grey will be.
+        wait_until(self._has_buttons, "the end of the opening panel")
+
+    def _has_buttons(self):
+        red, _green, blue = self.desktop.picture(self.main, (240, SI.button[1], 1, 1))
+        return red == blue
+
+    def open(self, tool):
+        """Opens a tool from the main window and gives its window."""
+        self.desktop.click(self.main, *tool.button)
+        window = self.desktop.window(tool.title)
+        # The launch button has the mouse over it no more, so that nothing of the tool has it by chance.
+        self.desktop.rest_mouse()
+        return window
+
+    def leave(self):
+        """Closes the open tool by its menu."""
+        self.desktop.keys("alt+f")
+        self.desktop.keys("Up", "Return")
+        self.desktop.window(MAIN)
+
+    def save_as(self, path):
+        """Saves the job of an open tool that has no file name yet."""
+        self.desktop.keys("alt+f")
+        self.desktop.keys("Down", "Down", "Down", "Return")
+        self.desktop.window("Save As")
+        self.desktop.type(path)
+        self.desktop.keys("Return")
+        wait_until(lambda: os.path.exists(path) and os.path.getsize(path) > 0, "the saved file")
+        self.desktop.gone("Save As")
+
+    def saved_job(self):
+        """The job of an open tool, saved under a name of its own and read."""
+        path = os.path.join(self.desktop.folder, "saved.qjt")
+        self.save_as(path)
+        return Job(path)
+
+    def open_job(self, path):
+        """Opens a job from the idle main window."""
+        self.desktop.keys("ctrl+o")
+        self.desktop.window("Open")
+        self.desktop.type(path)
+        self.desktop.keys("Return")
+        self.desktop.gone("Open")
+        self.desktop.window(MAIN)
+
+    def job_is_changed(self):
+        """Whether the program, asked from its idle main window to open another job, wants to save this one."""
+        self.desktop.keys("ctrl+o")
+        title, _ = wait_until(lambda: self.desktop.active("Open", MESSAGE), "the question or the dialog of Open")
+        self.desktop.keys("Escape")
+        self.desktop.window(MAIN)
+        return title == MESSAGE
+
+    def assert_alive(self, title):
+        """The program goes on: no message, this window in front."""
+        found, _ = wait_until(lambda: self.desktop.active(title, MESSAGE), f"'{title}' or a message")
+        assert self.process.poll() is None and found == title, f"the program ended with {self.process.poll()}, {found}"
+
+    def end(self):
+        self.process.terminate()
+        self.process.wait()
+
+
+class Job:
+    """A job file, field by field."""
+
+    def __init__(self, path):
+        with open(path, encoding="utf-8", errors="surrogateescape", newline="") as file:
+            self.lines = list(csv.reader(file))
+
+    task_count = property(lambda self: self.lines[1][0])
+    cycle_time = property(lambda self: self.lines[2][1])
+    hours_per_day = property(lambda self: self.lines[2][0])
+    analyst = property(lambda self: self.lines[3][0])
+    name = property(lambda self: self.lines[3][1])
+    workstation = property(lambda self: self.lines[3][2])
+    hand = property(lambda self: self.lines[3][3])
+    recovery_hours = property(lambda self: self.lines[63][0])
+
+    def answer(self, listing):
+        return self.lines[49 + listing][0]
+
+    def task(self, number):
+        """The 15 lines of a task."""
+        start = 64 + 15 * (number - 1)
+        return self.lines[start : start + 15]
+
+    def task_name(self, number):
+        return self.task(number)[0][0]
+
+    def ocra_duration(self, number):
+        return self.task(number)[1][1]
+
+    def ocra_frequency(self, number):
+        return self.task(number)[1][0]
+
+    def ocra_rating(self, number):
+        return self.task(number)[2][0]
+
+    def work_time(self, number):
+        return self.task(number)[4][0]
+
+
+def write_job(path, tasks):
+    """Writes a job of so many tasks, named "Task 1" and so on, all else as in a new one."""
+    lines = ['"qjt",1,0,0,0', str(tasks), "8,0,0", '"","","",0,8', "0,0,0,0"]
+    lines += ["0"] * 43 + ["0,0,0,0,0,0,0"] + ["3"] * 14 + ["0,0,0,0,0,0"]
+    for number in range(1, tasks + 1):
+        lines += [f'"Task {number}",1', "0,0", "0,0,0,0,0,0,0", "0,0,0,0", "0,0,0,0,0,0", "0,0,0,0", ",,,,,,,0"]
+        lines += ["0,0"] * 8
+    with open(path, "w", encoding="ascii", newline="") as file:
+        file.write("".join(line + "\r\n" for line in lines))
+
+
+def run(cases):
+    """Runs the case that the command line names: PROGRAM DATAFOLDER CASE [WINDOWMANAGER | none]."""
+    program, _data, case, *manager = sys.argv[1:]
+    manager = manager[0] if manager else "openbox"
+    missing = missing_tools(manager)
+    if missing:
+        print("skipped: this machine lacks", ", ".join(missing))
+        return SKIPPED
+    with tempfile.TemporaryDirectory() as folder:
+        with Desktop(folder, manager=None if manager == "none" else manager) as desktop:
+            cases[case](desktop, program)
+    return 0
