@@ -1,0 +1,97 @@
+// What has to hold after everything that the monkey does.
+#include <QApplication>
+
+#include "shell/controls/text_box.h"
+#include "tests/monkey/allowed_failures.h"
+#include "tests/monkey/monkey.h"
+
+namespace halvane {
+
+Monkey::Before Monkey::LookBefore() { return {Module1, Hands::KeyTarget()}; }
+
+const WatchedBox* Monkey::Watched(const QObject* widget) const {
+  for (const WatchedBox& watched : boxes_) {
+    if (watched.box == widget) return &watched;
+  }
+  return nullptr;
+}
+
+void Monkey::Stored(const QObject* box, const char* why) {
+  const WatchedBox* watched = Watched(box);
+  if (watched == nullptr) return;
+  notStored_.erase(box);
+  texts_[box] = watched->box->text();
+  const QString wrong = watched->wrong();
+  if (!wrong.isEmpty()) trace_.Find(wrong + why);
+  if (Module1.JobDirty != kTrue) trace_.Find("the job does not count as changed" + QString(why));
+}
+
+void Monkey::LookAtRelease(const Before& before, const HeldKey& key) {
+  if (failure_ || closedWith_ || key.wasLeft || before.target == nullptr) return;
+  const QWidget* target = before.target;
+  if (qobject_cast<const TextBox*>(target) == nullptr || !target->isVisible()) return;
+  const bool sameShowing = key.showing == showing_;
+  const bool pressedInBox = sameShowing && qobject_cast<TextBox*>(key.pressedIn) != nullptr;
+  const bool isTab = key.key.code == Qt::Key_Tab || key.key.code == Qt::Key_Backtab;
+  if (pressedInBox && key.pressedIn == target) {
+    Stored(target, " after a key was pressed and released in it");
+  } else if (!pressedInBox && !isTab && !(before.job == Module1)) {
+    // A box that was pasted into by the mouse is as it was: no release stored it.
+    trace_.Find(QString("the release of %1 in %2 changed the job, though its press was elsewhere")
+                    .arg(key.key.name, target->objectName()));
+  }
+}
+
+void Monkey::LookAtFocus(const QPointer<QWidget>& focusBefore) {
+  if (QApplication::activePopupWidget() != nullptr) {
+    hands_.LeaveHeldKeys();
+    return;
+  }
+  if (focusBefore == nullptr || focusBefore == QApplication::focusWidget()) return;
+  for (const HeldKey& key : hands_.held()) {
+    if (key.wasLeft || key.showing != showing_ || key.pressedIn != focusBefore) continue;
+    Stored(focusBefore, " after the focus left it with a key down");
+  }
+  hands_.LeaveHeldKeys();
+}
+
+void Monkey::LookAtBoxes() {
+  for (const WatchedBox& watched : boxes_) {
+    const QString text = watched.box->text();
+    if (QString& known = texts_[watched.box]; known != text) {
+      // The program itself filled the box.
+      known = text;
+      notStored_.erase(watched.box);
+    }
+    if (notStored_.contains(watched.box)) continue;
+    const QString wrong = watched.wrong();
+    if (!wrong.isEmpty()) trace_.Find(wrong);
+  }
+}
+
+void Monkey::LookAtFailure() {
+  const Situation situation{tool_, IsOdd(), platform_.savedInABadPlace()};
+  if (!IsAllowed(*failure_, situation)) {
+    trace_.Find("the program ends: " + QString::fromStdString(RuntimeFailure(*failure_).what()));
+  }
+  StartProgram();
+}
+
+void Monkey::LookAfter(const QPointer<QWidget>& focusBefore) {
+  if (failure_) return LookAtFailure();
+  if (closedWith_) {
+    if (*closedWith_ != ToolForm::Reload) BetweenShowings();
+    if (!failure_) ShowForm();
+    if (failure_) return LookAtFailure();
+  } else {
+    LookAtFocus(focusBefore);
+  }
+  LookAtBoxes();
+  const QString wrong = WrongControl(tool_, *form_, IsOdd());
+  if (!wrong.isEmpty()) trace_.Find(wrong);
+  const double tasks = Module1.TaskCount.AsDouble();
+  if (tasks < mostTasks_) trace_.Find("the task count went back");
+  mostTasks_ = tasks;
+}
+
+}  // namespace halvane
