@@ -120,6 +120,12 @@ class BoxList {
 
 using Field = std::optional<TaggedField>;
 
+/// A computation that needs a duration above 0 leaves 0 for one below; its box stays as typed.
+QString WrongDuration(const TextBox& box, const TaggedField& field) {
+  if (field.AsDouble() == 0 && ReadsAsOrZero(box.text()) <= 0) return {};
+  return WrongNumber(box, field);
+}
+
 void AddOcraBoxes(BoxList& list, const TaskTree* tree) {
   const auto ofTask = [tree](auto field) {
     return [tree, field]() -> Field {
@@ -140,8 +146,8 @@ void AddCtdBoxes(BoxList& list, const TaskTree* tree) {
       return task && NamesRibbons(*task) ? Field(TaggedField(field(*task))) : Field();
     };
   };
-  list.Add("Text2(0)", WrongNumber, [] { return Module1.JobDurationPerDay; });
-  list.Add("Text2(1)", WrongNumber, [] { return TaggedField(Module1.JobCycleTime); });
+  list.Add("Text2(0)", WrongDuration, [] { return Module1.JobDurationPerDay; });
+  list.Add("Text2(1)", WrongDuration, [] { return TaggedField(Module1.JobCycleTime); });
   list.Add("Text1(2)", WrongNumber, ofTask([](int task) { return Module1.CtdWorkTime.at(task); }));
   list.Add("Text1(5)", WrongNumber, ofTask([](int task) { return Module1.CtdRepetitions.at(task); }));
   list.Add("Text1(6)", WrongNumber, ofTask([](int task) { return Module1.CtdHandSpan.at(task); }));

@@ -80,6 +80,7 @@ void Monkey::ShowForm() {
     return;
   }
   mostTasks_ = Module1.TaskCount.AsDouble();
+  showsAnotherJob_ = false;
   notStored_.clear();
   texts_.clear();
   for (const WatchedBox& watched : boxes_) texts_[watched.box] = watched.box->text();

@@ -282,6 +282,8 @@ void Monkey::DragSlider() {
 }
 
 void Monkey::LeaveAndComeBack() {
+  // A popup has keyboard and mouse to itself; nobody leaves it for another window.
+  if (QApplication::activePopupWidget() != nullptr) return;
   if (!form_->isActiveWindow() || form_->isMinimized()) {
     trace_.Add("the form is active again");
     if (form_->isMinimized()) form_->showNormal();

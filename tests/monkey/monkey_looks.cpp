@@ -27,7 +27,7 @@ void Monkey::Stored(const QObject* box, const char* why) {
 }
 
 void Monkey::LookAtRelease(const Before& before, const HeldKey& key) {
-  if (failure_ || closedWith_ || key.wasLeft || before.target == nullptr) return;
+  if (failure_ || closedWith_ || showsAnotherJob_ || key.wasLeft || before.target == nullptr) return;
   const QWidget* target = before.target;
   if (qobject_cast<const TextBox*>(target) == nullptr || !target->isVisible()) return;
   const bool sameShowing = key.showing == showing_;
@@ -47,7 +47,7 @@ void Monkey::LookAtFocus(const QPointer<QWidget>& focusBefore) {
     hands_.LeaveHeldKeys();
     return;
   }
-  if (focusBefore == nullptr || focusBefore == QApplication::focusWidget()) return;
+  if (showsAnotherJob_ || focusBefore == nullptr || focusBefore == QApplication::focusWidget()) return;
   for (const HeldKey& key : hands_.held()) {
     if (key.wasLeft || key.showing != showing_ || key.pressedIn != focusBefore) continue;
     Stored(focusBefore, " after the focus left it with a key down");
@@ -80,12 +80,16 @@ void Monkey::LookAtFailure() {
 void Monkey::LookAfter(const QPointer<QWidget>& focusBefore) {
   if (failure_) return LookAtFailure();
   if (closedWith_) {
-    if (*closedWith_ != ToolForm::Reload) BetweenShowings();
+    const bool isReload = *closedWith_ == ToolForm::Reload;
+    if (!isReload) BetweenShowings();
     if (!failure_) ShowForm();
     if (failure_) return LookAtFailure();
+    platform_.TakeHasOpened();
   } else {
     LookAtFocus(focusBefore);
   }
+  if (platform_.TakeHasOpened()) showsAnotherJob_ = true;
+  if (showsAnotherJob_) return;
   LookAtBoxes();
   const QString wrong = WrongControl(tool_, *form_, IsOdd());
   if (!wrong.isEmpty()) trace_.Find(wrong);

@@ -25,7 +25,10 @@ RandomPlatform::~RandomPlatform() { SetHelpViewer(nullptr); }
 void RandomPlatform::Forget() {
   openedAnOddJob_ = false;
   savedInABadPlace_ = false;
+  hasOpened_ = false;
 }
+
+bool RandomPlatform::TakeHasOpened() { return std::exchange(hasOpened_, false); }
 
 Answer RandomPlatform::ShowMessage(QWidget* parent, const QString& /*title*/, const QString& text,
                                    const std::vector<Answer>& buttons) {
@@ -46,12 +49,13 @@ QString RandomPlatform::ChooseFileToOpen(QWidget* parent, const QString& /*filte
   if (job.isOdd && !dice_.OneIn(3)) job = jobs_.front();
   trace_.Add("opens " + job.path.section('/', -1));
   openedAnOddJob_ = job.isOdd;
+  hasOpened_ = true;
+  savedInABadPlace_ = false;
   return job.path;
 }
 
 QString RandomPlatform::ChooseFileToSave(QWidget* parent, const QString& /*filter*/) {
   dialog_(parent);
-  savedInABadPlace_ = false;
   if (dice_.OneIn(5)) {
     trace_.Add("no file to save");
     return {};

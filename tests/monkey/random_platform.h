@@ -26,7 +26,9 @@ class RandomPlatform : public TestPlatform, public HelpViewer {
   [[nodiscard]] bool openedAnOddJob() const { return openedAnOddJob_; }
   /// Whether the last place that the user chose to save at can take no file.
   [[nodiscard]] bool savedInABadPlace() const { return savedInABadPlace_; }
-  /// Forgets both, for a program that starts anew.
+  /// Whether the user has chosen a file to open since this was asked last.
+  bool TakeHasOpened();
+  /// Forgets all this, for a program that starts anew.
   void Forget();
 
   Answer ShowMessage(QWidget* parent, const QString& title, const QString& text,
@@ -52,6 +54,7 @@ class RandomPlatform : public TestPlatform, public HelpViewer {
   std::function<void(QWidget*)> dialog_ = [](QWidget*) {};
   bool openedAnOddJob_ = false;
   bool savedInABadPlace_ = false;
+  bool hasOpened_ = false;
 };
 
 }  // namespace halvane
