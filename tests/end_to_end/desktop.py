@@ -35,6 +35,8 @@ class Desktop:
         """`manager` is the window manager's command; None for a screen without one."""
         self.folder = folder
         self.manager = manager
+        # Without a manager, and with an old one, the keys go to the window below the mouse.
+        self.keys_follow_mouse = manager in (None, "twm")
         self.processes = []
         self.environment = dict(os.environ)
         for name in ("WAYLAND_DISPLAY", "QT_QPA_PLATFORM", "QT_SCALE_FACTOR", "QT_STYLE_OVERRIDE"):
@@ -54,6 +56,11 @@ class Desktop:
         os.close(writing)
         with os.fdopen(reading) as pipe:
             self.environment["DISPLAY"] = ":" + pipe.readline().strip()
+        if self.manager == "twm":
+            # As it comes, it asks for a place of every window, and for fonts that not every screen has.
+            fonts = [f'{what}Font "fixed"' for what in ("Title", "Resize", "Menu", "Icon", "IconManager")]
+            with open(os.path.join(self.folder, ".twmrc"), "w", encoding="ascii") as file:
+                file.write("\n".join(["RandomPlacement", "NoGrabServer", *fonts, ""]))
         if self.manager:
             self.start([self.manager])
             wait_until(self._is_managed, "the window manager")
@@ -83,9 +90,9 @@ class Desktop:
                     process.kill()
                     process.wait()
 
-    def start(self, command, stdout=subprocess.DEVNULL, **options):
+    def start(self, command, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, **options):
         process = subprocess.Popen(
-            command, env=self.environment, cwd=self.folder, stdout=stdout, stderr=subprocess.DEVNULL, **options
+            command, env=self.environment, cwd=self.folder, stdout=stdout, stderr=stderr, **options
         )
         self.processes.append(process)
         return process
@@ -99,15 +106,16 @@ class Desktop:
 
     def focused(self):
         """The window that has the keyboard."""
-        if self.manager == "openbox":
-            return self.output("xdotool", "getactivewindow").strip()
-        return self.output("xdotool", "getwindowfocus").strip()
+        return self.output("xdotool", "getactivewindow").strip()
 
     def active(self, *titles):
         """Title and window of the one of these that has the focus; None while another has it."""
-        focused = self.focused()
+        focused = None if self.keys_follow_mouse else self.focused()
         for title in titles:
-            if focused in self.visible(title):
+            visible = self.visible(title)
+            if self.keys_follow_mouse and visible:
+                return title, visible[0]
+            if focused in visible:
                 return title, focused
         return None
 
@@ -132,19 +140,22 @@ class Desktop:
     def wheel(self, window, x, y, button, steps=3):
         self.click(window, x, y, button, steps)
 
-    def rest_mouse(self):
-        """Takes the mouse where it is over no window of the program."""
-        self.xdotool("mousemove", 1279, 1199)
+    def rest_mouse(self, window, harmless):
+        """Takes the mouse where it touches no control; to a `harmless` place of the window if that gives it the keys."""
+        if self.keys_follow_mouse:
+            self.xdotool("mousemove", "--window", window, *harmless)
+        else:
+            self.xdotool("mousemove", 1279, 1199)
 
     def minimise(self, window):
         self.xdotool("windowminimize", window)
 
     def activate(self, window):
         """Gives a window the keyboard, as a click in a list of windows does."""
-        if self.manager == "openbox":
-            self.xdotool("windowactivate", "--sync", window)
+        if self.keys_follow_mouse:
+            self.xdotool("windowmap", window)
         else:
-            self.xdotool("windowmap", window, "windowfocus", window)
+            self.xdotool("windowactivate", "--sync", window)
 
     def picture(self, window, place=None):
         """The pixels of a window or of a part (x, y, width, height) of it, as bytes of red, green and blue."""
@@ -171,7 +182,7 @@ class Desktop:
         self.keyup(key)
 
     def clipboard(self):
-        return self.output("xclip", "-selection", "clipboard", "-o")
+        return self.output("xclip", "-selection", "clipboard", "-o", "-t", "UTF8_STRING")
 
     def set_clipboard(self, text):
         subprocess.run(
@@ -208,4 +219,4 @@ class Desktop:
         subprocess.run(["xdotool", "key", "--delay", "40", *keys], env=self.environment, check=True)
 
     def type(self, text):
-        subprocess.run(["xdotool", "type", "--delay", "25", text], env=self.environment, check=True)
+        subprocess.run(["xdotool", "type", "--delay", "25", "--", text], env=self.environment, check=True)

@@ -5,13 +5,17 @@ the press, and in no other. Exit status 77 says that a tool is missing and the t
 import os
 import sys
 
-from program import CTD, MESSAGE, OCRA, REBA, RULA, SI, Program, run, write_job
+from desktop import wait_until
+from program import CTD, MESSAGE, OCRA, REBA, RULA, SI, Job, Program, run, write_job
 
 OCRA_ANALYST = (207, 39)
 OCRA_ADD_TASK = (86, 657)
 OCRA_DURATION = (437, 271)
 OCRA_FREQUENCY = (799, 271)
 CTD_ADD_TASK = (51, 668)
+CTD_WORK_TIME = (1025, 162)
+FILE_MENU = (19, 9)
+SAVE_AS = (62, 76)
 
 # So long is a key down that a hand presses without haste, and one that it forgets.
 PRESSED = 0.12
@@ -54,12 +58,7 @@ def overlapping_keys(desktop, program):
     tool = run_.open(OCRA)
     desktop.click(tool, *OCRA_ADD_TASK)
     desktop.click(tool, *OCRA_DURATION)
-    desktop.keydown("4")
-    desktop.keyup("4")
-    desktop.keydown("8")
-    desktop.keydown("Tab")
-    desktop.keyup("8")
-    desktop.keyup("Tab")
+    overlap(desktop, "48")
     # Now in the frequency, left by the mouse.
     desktop.keydown("3")
     desktop.keyup("3")
@@ -68,6 +67,59 @@ def overlapping_keys(desktop, program):
     desktop.keyup("5")
     job = run_.saved_job()
     assert (job.ocra_duration(1), job.ocra_frequency(1)) == ("48", "35"), job.task(1)
+    run_.end()
+
+
+def overlapping_keys_brothers(desktop, program):
+    """The same on the Strain Index and in the CTD boxes of a task."""
+    run_ = Program(desktop, program)
+    run_.open(SI)
+    desktop.keys("Tab", "Tab", "Tab", "Tab", "Tab")  # into the duration of all exertions
+    overlap(desktop, "12")
+    window = run_.leave_for(CTD)
+    desktop.click(window, *CTD_ADD_TASK)
+    desktop.click(window, *CTD_WORK_TIME)
+    overlap(desktop, "34")
+    job = run_.saved_job()
+    assert (job.lines[48][0], job.work_time(1)) == ("12", "34"), (job.lines[48], job.task(1))
+    run_.end()
+
+
+def overlap(desktop, digits):
+    """Types digits one by one, and Tab while the last one is still down."""
+    for digit in digits[:-1]:
+        desktop.hold(digit, 0.02)
+    desktop.keydown(digits[-1])
+    desktop.keydown("Tab")
+    desktop.keyup(digits[-1])
+    desktop.keyup("Tab")
+
+
+def key_down_elsewhere(desktop, program):
+    """A digit that is down when another window takes the keyboard is stored; its release there goes nowhere."""
+    run_ = Program(desktop, program)
+    window = run_.open(OCRA)
+    desktop.click(window, *OCRA_ADD_TASK)
+    desktop.click(window, *OCRA_DURATION)
+    desktop.start(["xev", "-name", "neighbour", "-geometry", "100x100+1150+1050"])
+    neighbour = desktop.shown("neighbour")
+    desktop.activate(window)
+    desktop.window(OCRA.title)
+    desktop.type("4")
+    desktop.keydown("8")
+    desktop.activate(neighbour)
+    desktop.window("neighbour")
+    desktop.keyup("8")
+    # The menu is taken by the mouse, since a key would be a release in the box.
+    desktop.click(window, *FILE_MENU)
+    desktop.click(window, *SAVE_AS)
+    desktop.window("Save As")
+    path = os.path.join(desktop.folder, "elsewhere.qjt")
+    desktop.type(path)
+    desktop.keys("Return")
+    wait_until(lambda: os.path.exists(path) and os.path.getsize(path) > 0, "the saved file")
+    job = Job(path)
+    assert job.ocra_duration(1) == "48", job.task(1)
     run_.end()
 
 
@@ -120,6 +172,8 @@ CASES = {
     "save_with_enter_no_tasks": lambda desktop, program: save_with_enter(desktop, program, SI, REBA, RULA),
     "leave_the_menu": leave_the_menu,
     "overlapping_keys": overlapping_keys,
+    "overlapping_keys_brothers": overlapping_keys_brothers,
+    "key_down_elsewhere": key_down_elsewhere,
     "new_with_a_held_key": new_with_a_held_key,
     "open_with_enter": open_with_enter,
 }

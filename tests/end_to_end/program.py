@@ -14,6 +14,7 @@ MESSAGE = "Halvane Tools"
 # Places in the windows, in pixels from their upper left corner.
 CLOSE_BUTTON = (264, 220)
 FINGERTIP = (151, 40)
+BOTTOM = (560, 695)  # of a tool, below its tabs
 
 
 class Tool:
@@ -38,7 +39,9 @@ class Program:
 
     def __init__(self, desktop, program):
         self.desktop = desktop
-        self.process = desktop.start([program])
+        self.said = os.path.join(desktop.folder, "standard error")
+        with open(self.said, "wb") as file:
+            self.process = desktop.start([program], stderr=file)
         self.main = desktop.shown(MAIN)
         # The buttons come when the opening panel goes, whose blue stands where their grey will be.
         wait_until(self._has_buttons, "the end of the opening panel")
@@ -51,8 +54,8 @@ class Program:
         """Opens a tool from the main window and gives its window."""
         self.desktop.click(self.main, *tool.button)
         window = self.desktop.window(tool.title)
-        # The launch button has the mouse over it no more, so that nothing of the tool has it by chance.
-        self.desktop.rest_mouse()
+        # So that nothing of the tool has the mouse over it by chance.
+        self.desktop.rest_mouse(window, BOTTOM)
         return window
 
     def leave(self):
@@ -60,6 +63,11 @@ class Program:
         self.desktop.keys("alt+f")
         self.desktop.keys("Up", "Return")
         self.desktop.window(MAIN)
+
+    def leave_for(self, tool):
+        """Closes the open tool and opens another one, whose window it gives."""
+        self.leave()
+        return self.open(tool)
 
     def save_as(self, path):
         """Saves the job of an open tool that has no file name yet."""
@@ -76,6 +84,16 @@ class Program:
         path = os.path.join(self.desktop.folder, "saved.qjt")
         self.save_as(path)
         return Job(path)
+
+    def save(self):
+        """Saves the job of an open tool that has a file name."""
+        self.desktop.keys("alt+f")
+        self.desktop.keys("Down", "Down", "Return")
+
+    def job_with(self, condition):
+        """The job that `saved_job` saved before and `save` now, once it is so; else nothing."""
+        job = Job(os.path.join(self.desktop.folder, "saved.qjt"))
+        return job if len(job.lines) >= 64 and condition(job) else None
 
     def open_job(self, path):
         """Opens a job from the idle main window."""
@@ -94,14 +112,25 @@ class Program:
         self.desktop.window(MAIN)
         return title == MESSAGE
 
+    def copied_report(self):
+        """The report of the open tool, whose report tab shows, after Select All and Copy Output."""
+        self.desktop.set_clipboard("")
+        self.desktop.keys("alt+e", "Return")
+        self.desktop.keys("alt+e", "Down", "Return")
+        return wait_until(self.desktop.clipboard, "the copied report")
+
     def assert_alive(self, title):
         """The program goes on: no message, this window in front."""
         found, _ = wait_until(lambda: self.desktop.active(title, MESSAGE), f"'{title}' or a message")
         assert self.process.poll() is None and found == title, f"the program ended with {self.process.poll()}, {found}"
 
     def end(self):
+        """Ends the program, which has to have said nothing: the toolkit's warnings are somebody's mistakes."""
         self.process.terminate()
         self.process.wait()
+        with open(self.said, encoding="utf-8") as file:
+            said = file.read()
+        assert said == "", said
 
 
 class Job:
