@@ -134,7 +134,8 @@ void AddOcraBoxes(BoxList& list, const TaskTree* tree) {
     };
   };
   list.Add("Text2(1)", WrongNumber, [] { return TaggedField(Module1.JobCycleTime); });
-  list.Add("Text1(2)", WrongNumber, ofTask([](int task) { return Module1.OcraTaskDuration.at(task); }));
+  list.Add("Text1(2)", WrongNumber,
+           ofTask([](int task) { return Module1.OcraTaskDuration.at(task); }));
   list.Add("Text1(5)", WrongNumber,
            ofTask([](int task) { return Module1.OcraActionFrequency.at(task); }));
 }
@@ -149,15 +150,15 @@ void AddCtdBoxes(BoxList& list, const TaskTree* tree) {
   list.Add("Text2(0)", WrongDuration, [] { return Module1.JobDurationPerDay; });
   list.Add("Text2(1)", WrongDuration, [] { return TaggedField(Module1.JobCycleTime); });
   list.Add("Text1(2)", WrongNumber, ofTask([](int task) { return Module1.CtdWorkTime.at(task); }));
-  list.Add("Text1(5)", WrongNumber, ofTask([](int task) { return Module1.CtdRepetitions.at(task); }));
+  list.Add("Text1(5)", WrongNumber,
+           ofTask([](int task) { return Module1.CtdRepetitions.at(task); }));
   list.Add("Text1(6)", WrongNumber, ofTask([](int task) { return Module1.CtdHandSpan.at(task); }));
   list.Add("Text5", WrongNumber, ofTask([](int task) { return Module1.CtdForceMvc.at(task); }));
   for (int slot = 0; slot < kPostureSlots; ++slot) {
     const auto shownIn = [&](const QString& name, auto field) {
       const auto* box = list.form().findChild<TextBox*>(name);
-      return [box, value = ofTask(field)]() -> Field {
-        return box->isVisible() ? value() : Field();
-      };
+      return
+          [box, value = ofTask(field)]() -> Field { return box->isVisible() ? value() : Field(); };
     };
     const QString load = ElementName("Text3", slot);
     list.Add(load, WrongNumber,
@@ -191,8 +192,8 @@ QString Compare(const QString& control, double shown, double held) {
 QString WrongOcraControl(const Look& look) {
   for (int list = 0; list < kOcraListCount; ++list) {
     const QString name = ElementName("Combo1", list);
-    const QString wrong = Compare(name, look.The<QComboBox>(name)->currentIndex(),
-                                  Module1.OcraComboChoice.at(list));
+    const QString wrong =
+        Compare(name, look.The<QComboBox>(name)->currentIndex(), Module1.OcraComboChoice.at(list));
     if (!wrong.isEmpty()) return wrong;
   }
   const std::array<double, 5> ticks{
@@ -220,8 +221,8 @@ QString WrongCtdControl(const Look& look) {
   if (!task || !NamesRibbons(*task)) return {};
   for (std::size_t group = 0; group < kCtdGroups.size(); ++group) {
     const QString array = ScreenText(kCtdGroups[group].objectName);
-    const QString wrong = Compare(array, look.On(array, 0, 9),
-                                  CtdCodeOf(static_cast<CtdGroup>(group), *task));
+    const QString wrong =
+        Compare(array, look.On(array, 0, 9), CtdCodeOf(static_cast<CtdGroup>(group), *task));
     if (!wrong.isEmpty()) return wrong;
   }
   return {};
@@ -257,10 +258,10 @@ struct StateRibbons {
 };
 
 template <std::size_t N, typename State>
-QString WrongRibbons(const Look& look, const std::array<StateRibbons, N>& rows, const State& state) {
+QString WrongRibbons(const Look& look, const std::array<StateRibbons, N>& rows,
+                     const State& state) {
   for (const StateRibbons& row : rows) {
-    const QString wrong =
-        Compare(row.array, look.On(row.array, 0, row.count), state.at(row.state));
+    const QString wrong = Compare(row.array, look.On(row.array, 0, row.count), state.at(row.state));
     if (!wrong.isEmpty()) return wrong;
   }
   return {};

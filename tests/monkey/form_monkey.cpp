@@ -92,7 +92,8 @@ int Report(const halvane::ToolRow& tool, qulonglong seed) {
 
 int main(int argc, char** argv) {
   const QStringList words(argv + 1, argv + argc);
-  const halvane::ToolRow* tool = words.size() == 3 || words.size() == 4 ? ToolOf(words[0]) : nullptr;
+  const halvane::ToolRow* tool =
+      words.size() == 3 || words.size() == 4 ? ToolOf(words[0]) : nullptr;
   bool isSeed = false;
   bool isCount = false;
   const qulonglong seed = words.value(1).toULongLong(&isSeed);

@@ -46,7 +46,8 @@ void Hands::LetTimePass() {
   auto* dispatcher = QAbstractEventDispatcher::instance();
   const auto add = [&](QObject* object) {
     for (const auto& timer : dispatcher->registeredTimers(object)) {
-      if (timer.interval <= kLongestTimer) timers.push_back({object, timer.timerId, timer.interval});
+      if (timer.interval <= kLongestTimer)
+        timers.push_back({object, timer.timerId, timer.interval});
     }
   };
   QList<QObject*> roots{dispatcher, qApp};
@@ -58,8 +59,9 @@ void Hands::LetTimePass() {
     for (QObject* child : root->findChildren<QObject*>()) add(child);
   }
   // The order of the windows is that of their addresses.
-  std::stable_sort(timers.begin(), timers.end(),
-                   [](const Timer& a, const Timer& b) { return std::pair(a.interval, a.id) < std::pair(b.interval, b.id); });
+  std::stable_sort(timers.begin(), timers.end(), [](const Timer& a, const Timer& b) {
+    return std::pair(a.interval, a.id) < std::pair(b.interval, b.id);
+  });
   for (const Timer& timer : timers) {
     if (timer.object == nullptr) continue;
     const auto running = dispatcher->registeredTimers(timer.object);
@@ -80,7 +82,8 @@ QWidget* Hands::KeyTarget() {
 void Hands::Press(const Key& key) {
   QWindow* window = QGuiApplication::focusWindow();
   if (window == nullptr) return;
-  QWidget* target = QApplication::activePopupWidget() == nullptr ? QApplication::focusWidget() : nullptr;
+  QWidget* target =
+      QApplication::activePopupWidget() == nullptr ? QApplication::focusWidget() : nullptr;
   held_.push_back({key, target, showing_});
   qt_handleKeyEvent(window, QEvent::KeyPress, key.code, key.modifiers, key.text);
   Settle();

@@ -1,4 +1,5 @@
-// The life of the form: a program that starts, a form that is loaded, shown, closed and shown again.
+// The life of the form: a program that starts, a form that is loaded, shown, closed and shown
+// again.
 #include "tests/monkey/monkey.h"
 
 #include <QAbstractButton>

@@ -86,7 +86,8 @@ class Monkey {
   std::optional<int> closedWith_;
   double mostTasks_ = 0;
   int showing_ = 0;
-  /// A file was opened and failed half way: the job is a part of it, and the form shows the old one.
+  /// A file was opened and failed half way: the job is a part of it, and the form shows the old
+  /// one.
   bool showsAnotherJob_ = false;
 };
 

@@ -20,8 +20,8 @@
 namespace halvane {
 namespace {
 
-constexpr std::array<const char*, 12> kTexts{"480", "1e400", "-3.5", "0", "Line \"4\"", "包装",
-                                             "  7 ", ".5", "1e308", "x", "100", "1E-310"};
+constexpr std::array<const char*, 12> kTexts{"480",  "1e400", "-3.5",  "0", "Line \"4\"", "包装",
+                                             "  7 ", ".5",    "1e308", "x", "100",        "1E-310"};
 
 const std::array<Key, 30> kKeys{{
     {Qt::Key_4, {}, "4", "4"},
@@ -250,8 +250,8 @@ void Monkey::UseTaskList() {
   }
   // More adding than deleting while there are few.
   const int index = dice_.Below(tree->topLevelItemCount() < 2 ? 2 : 3);
-  auto* button =
-      form_->findChild<QAbstractButton*>(QString("SSCommand1(%1)").arg(index == 1 ? dice_.Below(3) : index));
+  auto* button = form_->findChild<QAbstractButton*>(
+      QString("SSCommand1(%1)").arg(index == 1 ? dice_.Below(3) : index));
   if (!button->isVisible()) return;
   trace_.Add("task button " + button->objectName());
   hands_.Click(*button, button->rect().center());

@@ -27,7 +27,8 @@ void Monkey::Stored(const QObject* box, const char* why) {
 }
 
 void Monkey::LookAtRelease(const Before& before, const HeldKey& key) {
-  if (failure_ || closedWith_ || showsAnotherJob_ || key.wasLeft || before.target == nullptr) return;
+  if (failure_ || closedWith_ || showsAnotherJob_ || key.wasLeft || before.target == nullptr)
+    return;
   const QWidget* target = before.target;
   if (qobject_cast<const TextBox*>(target) == nullptr || !target->isVisible()) return;
   const bool sameShowing = key.showing == showing_;
@@ -47,7 +48,8 @@ void Monkey::LookAtFocus(const QPointer<QWidget>& focusBefore) {
     hands_.LeaveHeldKeys();
     return;
   }
-  if (showsAnotherJob_ || focusBefore == nullptr || focusBefore == QApplication::focusWidget()) return;
+  if (showsAnotherJob_ || focusBefore == nullptr || focusBefore == QApplication::focusWidget())
+    return;
   for (const HeldKey& key : hands_.held()) {
     if (key.wasLeft || key.showing != showing_ || key.pressedIn != focusBefore) continue;
     Stored(focusBefore, " after the focus left it with a key down");

@@ -14,13 +14,12 @@ constexpr int kPlainJobs = 12;
 constexpr int kOddJobs = 24;
 constexpr int kLongName = 40000;
 
-constexpr std::array<const char*, 8> kNames{"",     "Line 4",  "M. Ruiz", "包装线",
-                                            "Größe", "a,b",     " blank ", "W7"};
+constexpr std::array<const char*, 8> kNames{"",      "Line 4", "M. Ruiz", "包装线",
+                                            "Größe", "a,b",    " blank ", "W7"};
 constexpr std::array kNumbers{0.0, 1.0, 0.5, 8.0, 12.25, 60.0, 100.0, 480.0, 0.1, -3.0};
 constexpr std::array kOddNumbers{1e308,  -1e308, 1e-310,   1e15,    123456789.123456,
                                  -0.001, 1e200,  3.333333, 40000.0, -32769.0};
-constexpr std::array<const char*, 6> kOddTexts{"1e400", "abc", "7 of 9", "two\r\nlines", "-",
-                                               "1E"};
+constexpr std::array<const char*, 6> kOddTexts{"1e400", "abc", "7 of 9", "two\r\nlines", "-", "1E"};
 
 double Number(Dice& dice) { return dice.Of(kNumbers); }
 
@@ -93,7 +92,8 @@ void SpoilJob(Dice& dice) {
 
 std::string WithAnotherByte(std::string bytes, Dice& dice) {
   constexpr std::array kBytes{'"', ',', '\r', 'x', '9', '-', '\0', '\xE4'};
-  if (dice.OneIn(3)) bytes.resize(static_cast<std::size_t>(dice.Below(static_cast<int>(bytes.size()))));
+  if (dice.OneIn(3))
+    bytes.resize(static_cast<std::size_t>(dice.Below(static_cast<int>(bytes.size()))));
   if (!bytes.empty()) dice.Of(bytes) = dice.Of(kBytes);
   return bytes;
 }
