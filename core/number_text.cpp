@@ -127,6 +127,14 @@ double ReadsAs(std::string_view text) {
   return length == 0 ? 0 : ValueOf(text.substr(0, length));
 }
 
+double TypedNumber(std::string_view text) {
+  try {
+    return ReadsAs(text);
+  } catch (const RuntimeFailure&) {
+    return 0;
+  }
+}
+
 std::optional<double> WholeTextAsNumber(std::string_view text) {
   text = WithoutLeadingBlanks(text);
   const std::size_t length = NumberLength(text);

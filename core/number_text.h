@@ -21,6 +21,10 @@ enum class Pattern {
 /// where digits follow it. Throws `Overflow` for a number beyond a double.
 double ReadsAs(std::string_view text);
 
+/// The number that text typed into a box stands for: as `ReadsAs`, but 0 for a number beyond a
+/// double too, as for text that is none. A slip of the finger must not end the program.
+double TypedNumber(std::string_view text);
+
 /// The number that the whole of `text` is, blanks and tabs around it aside; nothing when it is no
 /// number or when other text follows. Throws `Overflow` for a number beyond a double.
 std::optional<double> WholeTextAsNumber(std::string_view text);

@@ -1,5 +1,7 @@
 #include "core/task_list.h"
 
+#include <algorithm>
+
 #include "core/job_state.h"
 #include "core/job_text_encoding.h"
 
@@ -12,6 +14,20 @@ std::vector<int> ActiveTasks() {
     if (Module1.TaskActive.at(task).AsDouble() == 1) tasks.push_back(task);
   }
   return tasks;
+}
+
+bool AnyActiveTask() {
+  const double last =
+      std::min<double>(Module1.TaskCount.AsDouble(), Module1.TaskActive.upperBound());
+  for (int task = 1; task <= last; ++task) {
+    if (Module1.TaskActive.at(task).AsDouble() == 1) return true;
+  }
+  return false;
+}
+
+std::optional<int> TaskOnScreen() {
+  if (!AnyActiveTask()) return std::nullopt;
+  return ToInteger(Module1.CurrentTask.AsDouble());
 }
 
 int AddTaskRecord() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -8,6 +9,14 @@ namespace halvane {
 
 /// Numbers of the tasks that exist, in order: those of 1 to `TaskCount` whose `TaskActive` is 1.
 std::vector<int> ActiveTasks();
+
+/// Whether a task exists; looks no further than the first, and not beyond the tasks' arrays, which
+/// a file with an impossible `TaskCount` leaves shorter than the count.
+bool AnyActiveTask();
+
+/// The task that the inputs of a form write to: `CurrentTask`, nothing while no task exists. What
+/// `CurrentTask` then holds is left over from another task or job.
+std::optional<int> TaskOnScreen();
 
 /// Raises `TaskCount` by one and makes the record of the new task; gives its number. Throws as
 /// `NewTaskRecord` does.

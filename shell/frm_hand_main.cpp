@@ -129,6 +129,8 @@ void FrmHandMain::MakeButtons() {
   connect(SSCommand1_, &QPushButton::clicked, this, &FrmHandMain::SSCommand1_Click);
 
   for (QWidget* control : findChildren<QAbstractButton*>(Qt::FindDirectChildrenOnly)) {
+    // The mouse leaves no button in its focused look.
+    control->setFocusPolicy(Qt::TabFocus);
     control->hide();
   }
 }
@@ -153,8 +155,31 @@ void FrmHandMain::ParkFocus() {
   SSCommand1_->setFocus();
   SSCommand1_->setEnabled(false);
   SSCommand1_->hide();
-  // The toolkit hands the focus of a hidden button to its neighbour.
-  if (QWidget* holder = focusWidget()) holder->clearFocus();
+  setFocus();
+}
+
+bool FrmHandMain::event(QEvent* event) {
+  const bool handled = QWidget::event(event);
+  // The message, dialog or tool in front of the window has gone.
+  if (event->type() == QEvent::WindowUnblocked) ParkFocus();
+  return handled;
+}
+
+void FrmHandMain::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  if (event->type() != QEvent::WindowStateChange) return;
+  const auto before = static_cast<QWindowStateChangeEvent*>(event)->oldState();
+  if (before.testFlag(Qt::WindowMinimized) && !isMinimized()) ParkFocus();
+}
+
+void FrmHandMain::keyPressEvent(QKeyEvent* event) {
+  const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  auto* button = qobject_cast<QAbstractButton*>(focusWidget());
+  if (isReturn && button != nullptr && !event->isAutoRepeat()) {
+    button->click();
+  } else {
+    QWidget::keyPressEvent(event);
+  }
 }
 
 void FrmHandMain::SSCommand1_Click() { ThePlatform().EndProgram(0); }

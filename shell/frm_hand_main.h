@@ -53,11 +53,16 @@ class FrmHandMain : public QWidget {
   void mnuContent_Click();
   void mnuAbout_Click();
 
-  /// Takes the focus off every button, so that none stays in its focused look.
+  /// Takes the focus off every button, so that none stays in its focused look. The window itself
+  /// holds it then, else the toolkit would give it to the first button when the window becomes the
+  /// active one.
   void ParkFocus();
 
  protected:
+  bool event(QEvent* event) override;
+  void changeEvent(QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;

@@ -5,6 +5,7 @@
 #include <new>
 
 #include "core/rescue_copy.h"
+#include "shell/held_keys.h"
 #include "shell/platform.h"
 #include "shell/program_title.h"
 
@@ -32,6 +33,7 @@ HalvaneApplication::HalvaneApplication(int& argc, char** argv) : QApplication(ar
   setApplicationName("halvane-tools");
   setApplicationVersion(HALVANE_VERSION);
   setDesktopFileName("halvane-tools");
+  installEventFilter(new HeldKeys(this));
 }
 
 bool HalvaneApplication::notify(QObject* receiver, QEvent* event) {

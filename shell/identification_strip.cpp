@@ -30,9 +30,10 @@ IdentificationStrip::IdentificationStrip(const IdentificationNames& names, QWidg
   stores(workstation_, [](std::string text) { Module1.JobWorkstationId = std::move(text); });
 }
 
-TextBox* IdentificationStrip::AddBox(const QString& label, const QString& name) {
-  auto* box = new TextBox(name, this);
+TextBox* IdentificationStrip::AddBox(const QString& label, const IdentificationBox& names) {
+  auto* box = new TextBox(names.box, this);
   auto* caption = new QLabel(label, this);
+  caption->setObjectName(names.label);
   caption->setBuddy(box);
   layout()->addWidget(caption);
   layout()->addWidget(box);
@@ -57,6 +58,10 @@ void IdentificationStrip::StoreJob() {
   Module1.JobWorkstationId = workstation_->text().toStdString();
 }
 
-void IdentificationStrip::FocusFirst() { analyst_->setFocus(); }
+void IdentificationStrip::FocusFirst() {
+  analyst_->setFocus();
+  // In a window that is not yet the active one the focus comes later, with the window.
+  analyst_->selectAll();
+}
 
 }  // namespace halvane

@@ -6,11 +6,17 @@ namespace halvane {
 
 class TextBox;
 
+/// A box of the strip: its name and that of its label.
+struct IdentificationBox {
+  const char* box;
+  const char* label = "";
+};
+
 /// Names of the strip's controls on one form.
 struct IdentificationNames {
-  const char* analyst;
-  const char* jobName;
-  const char* workstation;
+  IdentificationBox analyst;
+  IdentificationBox jobName;
+  IdentificationBox workstation;
   const char* handOptions;  ///< control array of the two options
 };
 
@@ -33,7 +39,7 @@ class IdentificationStrip : public QWidget {
   void typed();
 
  private:
-  TextBox* AddBox(const QString& label, const QString& name);
+  TextBox* AddBox(const QString& label, const IdentificationBox& names);
 
   TextBox* analyst_;
   TextBox* jobName_;

@@ -31,6 +31,23 @@ class WrappedCaption : public QLabel {
   QCheckBox& box_;
 };
 
+class WheelGuard : public QObject {
+ public:
+  explicit WheelGuard(QWidget& input) : QObject(&input), input_(input) {}
+
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() != QEvent::Wheel || input_.hasFocus()) {
+      return QObject::eventFilter(watched, event);
+    }
+    // Refused, it goes on to what is behind.
+    event->ignore();
+    return true;
+  }
+
+ private:
+  QWidget& input_;
+};
+
 }  // namespace
 
 Frame MakeFrame(const QString& caption, QWidget* parent) {
@@ -68,11 +85,13 @@ TextBox* MakeNumberBox(const QString& boxName, const QString& name, QWidget* par
 }
 
 TextBox* AddNumberWithUnit(QGridLayout& grid, const QString& boxName, const QString& name,
-                           const QString& unit) {
+                           const QString& unit, const QString& unitName) {
   TextBox* box = MakeNumberBox(boxName, name, grid.parentWidget());
   const int row = grid.rowCount();
   grid.addWidget(box, row, 0);
-  grid.addWidget(new QLabel(unit, grid.parentWidget()), row, 1);
+  auto* label = new QLabel(unit, grid.parentWidget());
+  label->setObjectName(unitName);
+  grid.addWidget(label, row, 1);
   grid.setColumnStretch(1, 1);
   return box;
 }
@@ -97,6 +116,12 @@ void SetUpSlider(QSlider& slider, const QString& name, int highest, int pageStep
   slider.setPageStep(pageStep);
   slider.setTickPosition(QSlider::TicksBelow);
   slider.setTickInterval(highest / 10);
+  KeepWheelOff(slider);
+}
+
+void KeepWheelOff(QWidget& input) {
+  input.setFocusPolicy(Qt::StrongFocus);
+  input.installEventFilter(new WheelGuard(input));
 }
 
 QLabel* MakeReadout(const QString& widest, QWidget* parent) {

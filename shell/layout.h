@@ -36,9 +36,9 @@ TextBox* AddNumberAt(QGridLayout& grid, int row, int column, const QString& labe
 
 /// A box for a number that has no label; `name` is its accessible name.
 TextBox* MakeNumberBox(const QString& boxName, const QString& name, QWidget* parent);
-/// Adds such a box with its unit behind it.
+/// Adds such a box with its unit behind it; `unitName` is the name of the unit's label.
 TextBox* AddNumberWithUnit(QGridLayout& grid, const QString& boxName, const QString& name,
-                           const QString& unit);
+                           const QString& unit, const QString& unitName = {});
 
 /// Adds a tick box whose long caption wraps beside it.
 QCheckBox* AddWrappedCheck(QGridLayout& grid, const QString& boxName, const QString& caption);
@@ -46,6 +46,10 @@ QCheckBox* AddWrappedCheck(QGridLayout& grid, const QString& boxName, const QStr
 /// Makes `slider` a level one from 0 to `highest`, a tick at each tenth of it; an arrow key moves
 /// it by 1, a page key or a click beside its handle by `pageStep`.
 void SetUpSlider(QSlider& slider, const QString& name, int highest, int pageStep);
+
+/// Keeps the mouse wheel from changing an input that does not have the focus, and from giving it
+/// the focus: the wheel then scrolls what is behind it. For lists and sliders.
+void KeepWheelOff(QWidget& input);
 
 /// A number that is read and not typed, large; with room for `widest`.
 QLabel* MakeReadout(const QString& widest, QWidget* parent);

@@ -41,10 +41,9 @@ void DeleteCurrentTask(TaskTree& tree, QWidget& form) {
   Module1.TaskActive.at(CurrentTask()) = kDeleted;
 }
 
-void RenameSelectedTask(const TaskTree& tree, const QString& name) {
+void RenameTask(const TaskTree& tree, int task, const QString& name) {
   Module1.JobDirty = kTrue;
-  const int task = tree.SelectedTask();
-  Module1.CurrentTask = static_cast<Integer>(task);
+  Module1.CurrentTask = static_cast<Integer>(tree.SelectedTask());
   Module1.TaskNames.at(task) = name.toStdString();
 }
 

@@ -16,7 +16,7 @@ bool TakeTaskToDelete(const TaskTree& tree, QWidget& form);
 /// Asks, then removes the selected node and marks the current task as deleted.
 void DeleteCurrentTask(TaskTree& tree, QWidget& form);
 
-/// Makes the selected task the current one and gives it a name.
-void RenameSelectedTask(const TaskTree& tree, const QString& name);
+/// Gives a task the name that was typed for it, and makes the selected task the current one.
+void RenameTask(const TaskTree& tree, int task, const QString& name);
 
 }  // namespace halvane

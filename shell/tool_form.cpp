@@ -110,7 +110,18 @@ void ToolForm::load() {
 }
 
 void ToolForm::ShowReport() {
-  writeReport(report_);
+  WriteAndShow([this] { writeReport(report_); });
+}
+
+template <typename Write>
+void ToolForm::WriteAndShow(const Write& write) {
+  try {
+    write();
+  } catch (...) {
+    // What was appended before the failure stands in the pane.
+    pane_->ShowReport(report_);
+    throw;
+  }
   pane_->ShowReport(report_);
 }
 
@@ -130,8 +141,7 @@ void ToolForm::mnuPrint_Click() {
   Silently([this] {
     fileCommands_.SetCancelIsFailure();
     if (!ThePlatform().ChoosePrinter(this)) return;
-    printReport(report_);
-    pane_->ShowReport(report_);
+    WriteAndShow([this] { printReport(report_); });
     pane_->SelectAll();
     ThePlatform().Print(*pane_->document());
     pane_->Select(0, 0);

@@ -85,6 +85,9 @@ class ToolForm : public QDialog {
 
  private:
   void MakeMenus();
+  /// Runs what writes the report, and shows what it has written however that ends.
+  template <typename Write>
+  void WriteAndShow(const Write& write);
 
   const ToolRow& row_;
   const IdentificationNames& names_;

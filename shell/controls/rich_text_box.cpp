@@ -1,10 +1,10 @@
 #include "shell/controls/rich_text_box.h"
 
 #include <QAbstractTextDocumentLayout>
+#include <QMimeData>
 #include <QPalette>
 #include <QTextBlock>
 #include <QTextCursor>
-#include <QTextDocumentFragment>
 #include <algorithm>
 
 #include "shell/controls/report_pictures.h"
@@ -44,6 +44,10 @@ RichTextBox::RichTextBox(QWidget* parent) : QTextEdit(parent) {
   setReadOnly(true);
   setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   setTabChangesFocus(true);
+  // What is pasted takes the look of the report.
+  setAcceptRichText(false);
+  // The wheel scrolls and leaves the focus where it is.
+  setFocusPolicy(Qt::StrongFocus);
   QPalette paper = palette();
   paper.setColor(QPalette::Base, Qt::white);
   paper.setColor(QPalette::Text, Qt::black);
@@ -58,7 +62,14 @@ RichTextBox::RichTextBox(QWidget* parent) : QTextEdit(parent) {
                                                 new ReportPictures(document()));
 }
 
+void RichTextBox::OpenToTyping() {
+  setReadOnly(false);
+  setUndoRedoEnabled(true);
+}
+
 void RichTextBox::ShowReport(const RichText& report) {
+  // A report is nothing that the user could undo.
+  setUndoRedoEnabled(false);
   document()->clear();
   QTextCursor cursor(document());
   // One layout of the whole instead of one for each piece.
@@ -81,6 +92,7 @@ void RichTextBox::ShowReport(const RichText& report) {
     }
   }
   cursor.endEditBlock();
+  setUndoRedoEnabled(!isReadOnly());
   Select(0, 0);
   ensureCursorVisible();
 }
@@ -95,6 +107,18 @@ void RichTextBox::Select(int start, int length) {
 
 void RichTextBox::SelectAll() { Select(0, document()->characterCount() - 1); }
 
-QString RichTextBox::SelectedText() const { return textCursor().selection().toPlainText(); }
+QString RichTextBox::SelectedText() const {
+  QString text = textCursor().selectedText();
+  text.replace(QChar::ParagraphSeparator, '\n');
+  text.replace(QChar::LineSeparator, '\n');
+  text.remove(QChar::ObjectReplacementCharacter);
+  return text;
+}
+
+QMimeData* RichTextBox::createMimeDataFromSelection() const {
+  auto* text = new QMimeData;
+  text->setText(SelectedText());
+  return text;
+}
 
 }  // namespace halvane

@@ -2,10 +2,12 @@
 
 #include <QApplication>
 #include <QIcon>
+#include <QLineEdit>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QSignalBlocker>
 #include <QStyledItemDelegate>
+#include <limits>
 
 #include "core/job_state.h"
 #include "core/task_list.h"
@@ -21,6 +23,16 @@ constexpr auto kHint = "Add a task to begin";
 class NameEditing : public QStyledItemDelegate {
  public:
   using QStyledItemDelegate::QStyledItemDelegate;
+
+  [[nodiscard]] QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
+                                      const QModelIndex& index) const override {
+    QWidget* editor = QStyledItemDelegate::createEditor(parent, option, index);
+    // A name may have any length.
+    if (auto* line = qobject_cast<QLineEdit*>(editor)) {
+      line->setMaxLength(std::numeric_limits<int>::max());
+    }
+    return editor;
+  }
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override {
@@ -48,16 +60,24 @@ TaskTree::TaskTree(QWidget* parent) : QTreeWidget(parent) {
   setHeaderHidden(true);
   setRootIsDecorated(false);
   setColumnCount(1);
-  setEditTriggers(QAbstractItemView::EditKeyPressed | QAbstractItemView::SelectedClicked);
+  setEditTriggers(QAbstractItemView::EditKeyPressed);
   setTabKeyNavigation(false);
+  // The wheel scrolls and leaves the focus where it is.
+  setFocusPolicy(Qt::StrongFocus);
   setItemDelegate(new NameEditing(this));
   connect(this, &QTreeWidget::currentItemChanged, this, [this] { emit taskSelected(); });
   connect(this, &QTreeWidget::itemClicked, this, [this] { emit taskSelected(); });
   connect(this, &QTreeWidget::itemChanged, this,
-          [this](QTreeWidgetItem* node) { emit taskRenamed(node->text(0)); });
+          [this](QTreeWidgetItem* node) { emit taskRenamed(TaskOf(*node), node->text(0)); });
+  editDelay_.setSingleShot(true);
+  connect(&editDelay_, &QTimer::timeout, this, [this] {
+    if (hasFocus() && isActiveWindow()) EditSelected();
+  });
+  connect(this, &QTreeWidget::currentItemChanged, &editDelay_, &QTimer::stop);
 }
 
 void TaskTree::Clear() {
+  editDelay_.stop();
   const QSignalBlocker blocker(this);
   clear();
 }
@@ -80,6 +100,7 @@ void TaskTree::RemoveSelected() {
 }
 
 void TaskTree::SelectAt(int place) {
+  editDelay_.stop();
   const QSignalBlocker blocker(this);
   setCurrentItem(topLevelItem(place));
 }
@@ -89,6 +110,7 @@ void TaskTree::EditSelected() {
 }
 
 void TaskTree::FinishEdit() {
+  editDelay_.stop();
   QWidget* editor = indexWidget(currentIndex());
   if (editor == nullptr) return;
   commitData(editor);
@@ -97,7 +119,11 @@ void TaskTree::FinishEdit() {
 
 int TaskTree::SelectedTask() const {
   if (currentItem() == nullptr) return kNoTask;
-  return TaskOfKey(currentItem()->data(0, kKeyRole).toString().toStdString());
+  return TaskOf(*currentItem());
+}
+
+int TaskTree::TaskOf(const QTreeWidgetItem& node) {
+  return TaskOfKey(node.data(0, kKeyRole).toString().toStdString());
 }
 
 QItemSelectionModel::SelectionFlags TaskTree::selectionCommand(const QModelIndex& index,
@@ -109,10 +135,54 @@ QItemSelectionModel::SelectionFlags TaskTree::selectionCommand(const QModelIndex
   return unmarks ? QItemSelectionModel::NoUpdate : command;
 }
 
+bool TaskTree::edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) {
+  const bool started = QTreeWidget::edit(index, trigger, event);
+  if (started) editDelay_.stop();
+  return started;
+}
+
+void TaskTree::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) {
+  QTreeWidget::closeEditor(editor, hint);
+  // A press takes the focus from the editor before it gets here itself, without going back to the
+  // event loop in between.
+  pressEndedEdit_ = true;
+  QTimer::singleShot(0, this, [this] { pressEndedEdit_ = false; });
+}
+
+void TaskTree::mousePressEvent(QMouseEvent* event) {
+  editDelay_.stop();
+  const QTreeWidgetItem* node = itemAt(event->position().toPoint());
+  selectedNodePressed_ = event->button() == Qt::LeftButton &&
+                         event->modifiers() == Qt::NoModifier && node != nullptr &&
+                         node == currentItem() && !pressEndedEdit_;
+  QTreeWidget::mousePressEvent(event);
+}
+
 void TaskTree::mouseReleaseEvent(QMouseEvent* event) {
   QTreeWidget::mouseReleaseEvent(event);
-  const bool onNode = itemAt(event->position().toPoint()) != nullptr;
-  if (event->button() == Qt::LeftButton && !onNode) emit emptyPartClicked();
+  if (event->button() != Qt::LeftButton) return;
+  const QTreeWidgetItem* node = itemAt(event->position().toPoint());
+  if (node == nullptr) emit emptyPartClicked();
+  if (selectedNodePressed_ && node != nullptr && node == currentItem()) {
+    editDelay_.start(QApplication::doubleClickInterval());
+  }
+  selectedNodePressed_ = false;
+}
+
+void TaskTree::mouseDoubleClickEvent(QMouseEvent* event) {
+  editDelay_.stop();
+  selectedNodePressed_ = false;
+  QTreeWidget::mouseDoubleClickEvent(event);
+}
+
+void TaskTree::focusOutEvent(QFocusEvent* event) {
+  editDelay_.stop();
+  QTreeWidget::focusOutEvent(event);
+}
+
+void TaskTree::hideEvent(QHideEvent* event) {
+  editDelay_.stop();
+  QTreeWidget::hideEvent(event);
 }
 
 void TaskTree::paintEvent(QPaintEvent* event) {

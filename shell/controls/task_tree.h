@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QTimer>
 #include <QTreeWidget>
 
 namespace halvane {
@@ -21,7 +22,8 @@ class TaskTree : public QTreeWidget {
   void SelectAt(int place);
   /// Starts to edit the name of the selected node.
   void EditSelected();
-  /// Ends an edit that is going on and takes the name as typed so far.
+  /// Ends an edit that is going on, taking the name as typed so far, and forgets one that a click
+  /// was to start.
   void FinishEdit();
 
   [[nodiscard]] bool isEmpty() const { return topLevelItemCount() == 0; }
@@ -35,14 +37,30 @@ class TaskTree : public QTreeWidget {
   void taskSelected();
   /// The user clicked where no node is.
   void emptyPartClicked();
-  /// The user gave the selected task another name.
-  void taskRenamed(const QString& name);
+  /// The user gave a task another name.
+  void taskRenamed(int task, const QString& name);
 
  protected:
   [[nodiscard]] QItemSelectionModel::SelectionFlags selectionCommand(
       const QModelIndex& index, const QEvent* event) const override;
+  bool edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) override;
+  void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
+  void mousePressEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
+  void hideEvent(QHideEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
+
+ private:
+  [[nodiscard]] static int TaskOf(const QTreeWidgetItem& node);
+
+  // A click on the selected node starts to edit its name once it can be no double click any more,
+  // if nothing has changed until then. The toolkit's own way would open the editor whatever the
+  // user has gone on to do, and put the next keys into it.
+  QTimer editDelay_;
+  bool selectedNodePressed_ = false;
+  bool pressEndedEdit_ = false;  ///< the mouse press under way closed the editor
 };
 
 }  // namespace halvane

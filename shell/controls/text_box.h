@@ -1,11 +1,19 @@
 #pragma once
 
 #include <QLineEdit>
+#include <set>
 
 namespace halvane {
 
-/// A text box that tells of released keys instead of changes, and selects all of its text whenever
-/// it gets the focus, so that typing replaces what stands there.
+/// A text box that tells of released keys instead of changes, and selects all of its text when the
+/// user or the program comes to it, so that typing replaces what stands there. It takes a text of
+/// any length.
+///
+/// A release counts in the box that had the press. A key that is still down when the focus leaves
+/// the box is released there at that moment, so that fast typing loses nothing; the release that
+/// comes later, in whatever has the focus then, does nothing. Two releases have no press to go by:
+/// that of the Tab key that brought the focus counts in the box that it reached, and a text that an
+/// input method puts in counts at once.
 class TextBox : public QLineEdit {
   Q_OBJECT
  public:
@@ -15,11 +23,24 @@ class TextBox : public QLineEdit {
   void keyReleased();
 
  protected:
+  bool event(QEvent* event) override;
   void keyReleaseEvent(QKeyEvent* event) override;
+  void inputMethodEvent(QInputMethodEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
 
  private:
+  /// Takes a released key off the keys that are down; tells whether it counts here.
+  bool TakeRelease(const QKeyEvent& event);
+
+  void TellOfRelease();
+
+  // Pressed in this box and not yet released, by their places on the keyboard.
+  std::set<int> keysDown_;
+  std::set<int> modifiersDown_;
+  bool typedSinceRelease_ = false;  ///< the text has changed and no release has told of it yet
+  bool tabBroughtFocus_ = false;
   bool focusCameByMouse_ = false;
 };
 

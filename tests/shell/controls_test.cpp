@@ -6,74 +6,13 @@
 #include <QPainter>
 #include <QTest>
 #include <QTextBlock>
-#include <QVBoxLayout>
 
 #include "shell/controls/ribbon_button.h"
 #include "shell/controls/rich_text_box.h"
-#include "shell/controls/text_box.h"
 #include "tests/shell/form_support.h"
 
 namespace halvane {
 namespace {
-
-/// Two boxes, the first with the focus.
-class TextBoxes : public testing::Test {
- protected:
-  TextBoxes() : first_(new TextBox("first", &window_)), second_(new TextBox("second", &window_)) {
-    auto* column = new QVBoxLayout(&window_);
-    column->addWidget(first_);
-    column->addWidget(second_);
-    second_->setText("Packing");
-    ShowActive(window_);
-    first_->setFocus();
-    QObject::connect(second_, &TextBox::keyReleased, second_, [this] { ++released_; });
-  }
-
-  QWidget window_;
-  TextBox* first_;
-  TextBox* second_;
-  int released_ = 0;
-};
-
-TEST_F(TextBoxes, TellOfAReleasedKeyOnly) {
-  second_->setText("other");
-  EXPECT_EQ(released_, 0);
-  QTest::keyPress(second_, Qt::Key_A);
-  EXPECT_EQ(released_, 0);
-  QTest::keyRelease(second_, Qt::Key_A);
-  EXPECT_EQ(released_, 1);
-}
-
-TEST_F(TextBoxes, KeyHeldDownIsReleasedOnce) {
-  QKeyEvent repeated(QEvent::KeyRelease, Qt::Key_A, Qt::NoModifier, "a", true);
-  QCoreApplication::sendEvent(second_, &repeated);
-  EXPECT_EQ(released_, 0);
-}
-
-TEST_F(TextBoxes, SelectAllOnFocusByTabProgramAndMouse) {
-  QTest::keyClick(first_, Qt::Key_Tab);
-  EXPECT_EQ(second_->selectedText(), "Packing");
-  first_->setFocus();
-  second_->deselect();
-  second_->setFocus(Qt::OtherFocusReason);
-  EXPECT_EQ(second_->selectedText(), "Packing");
-  first_->setFocus();
-  second_->deselect();
-  QTest::mouseClick(second_, Qt::LeftButton);
-  EXPECT_EQ(second_->selectedText(), "Packing");
-}
-
-TEST_F(TextBoxes, SelectionDrawnByTheFirstPressStays) {
-  const int middle = second_->height() / 2;
-  QTest::mousePress(second_, Qt::LeftButton, {}, QPoint(4, middle));
-  QMouseEvent move(QEvent::MouseMove, QPointF(30, middle),
-                   second_->mapToGlobal(QPointF(30, middle)), Qt::LeftButton, Qt::LeftButton,
-                   Qt::NoModifier);
-  QCoreApplication::sendEvent(second_, &move);
-  QTest::mouseRelease(second_, Qt::LeftButton, {}, QPoint(30, middle));
-  EXPECT_FALSE(second_->selectedText().isEmpty());
-  EXPECT_NE(second_->selectedText(), "Packing");
-}
 
 TEST(RibbonButton, WrapsACaptionThatIsLong) {
   const RibbonButton shortOne("a", "3");

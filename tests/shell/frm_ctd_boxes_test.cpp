@@ -197,16 +197,6 @@ TEST_F(CtdBoxes, IdentificationOfAJobWithoutTasksGoesWithTheRestTimeOfNoTask) {
   EXPECT_TRUE(platform.messages().empty());
 }
 
-TEST_F(CtdBoxes, IdentificationAfterNewReachesForTheTaskThatWasAndEndsTheProgram) {
-  AddTaskRecord();
-  Load();
-  JobReset();
-  Load();
-  const std::string copy = EndedOn("Subscript out of range",
-                                   [this] { QTest::keyClick(&Control("Text1(8)"), Qt::Key_A); });
-  EXPECT_EQ(copy, EmptyJobWith(4, "\"a\",\"\",\"\",0,8"));
-}
-
 TEST_F(CtdHand, ClickStoresTheOptionAndMarksTheJob) {
   AddTaskRecord();
   Load();

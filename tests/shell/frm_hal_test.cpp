@@ -311,17 +311,6 @@ TEST_F(HalBoxes, FirstKeyReplacesALevelSetByHand) {
   EXPECT_EQ(Shown(), "9|0|0|2|4.27|6.40");
 }
 
-TEST_F(HalBoxes, NumberBeyondADoubleEndsTheProgramWithARescueCopy) {
-  Open();
-  Module1.JobFileName = folder.File("job.qjt");
-  platform.WillAnswer(Answer::Ok);
-  Type(Box(0), "1E999");
-  ASSERT_EQ(platform.messages().size(), 1U);
-  EXPECT_TRUE(platform.messages()[0].text.startsWith("Overflow."));
-  EXPECT_EQ(platform.ends(), std::vector<int>{1});
-  EXPECT_EQ(folder.Names(), "job.rescue.qjt");
-}
-
 TEST_F(HalSliders, DutyFollowsTheHeldMouse) {
   Module1.HalExertionFrequency = 20.0;
   Module1.HalDutyCycle = 50.0;

@@ -188,7 +188,8 @@ TEST_F(OcraReportTab, PrintHasTheLatestValuesAndEndsAtTheStart) {
   EXPECT_TRUE(platform.printed()[0].contains("\nJob Name: Packing\n"));
   EXPECT_TRUE(platform.printed()[0].contains("\nOCRA Risk Index: 1.54\n"));
   EXPECT_EQ(platform.printed()[0], Pane().toPlainText());
-  EXPECT_EQ(selected, Pane().toPlainText());
+  // The two pictures at the end are no text.
+  EXPECT_EQ(selected, Pane().toPlainText().chopped(2));
   EXPECT_FALSE(Pane().textCursor().hasSelection());
   EXPECT_EQ(Pane().textCursor().position(), 0);
 }
@@ -227,7 +228,7 @@ TEST_F(OcraReportTab, CopyTakesWhatIsSelected) {
   Choose(*form, "mnuEditCopy");
   EXPECT_EQ(platform.clipboard(), (QStringList{"clear", "text: Occupational"}));
   Choose(*form, "mnuEditSelect");
-  EXPECT_EQ(Pane().SelectedText(), Pane().toPlainText());
+  EXPECT_EQ(Pane().SelectedText(), Pane().toPlainText().chopped(2));
 }
 
 TEST_F(OcraReportTab, TotalBeyondANumberEndsTheProgramWithARescueCopy) {

@@ -235,20 +235,6 @@ TEST_F(OcraSwitchTask, JobAnswersAreTheSameForEveryTask) {
   EXPECT_EQ(Module1.OcraRecoveryHours, TaggedField(Integer{5}));
 }
 
-TEST_F(OcraSwitchTask, TaskOfTheJobBeforeEndsTheProgramAtTheFirstKey) {
-  ClickNode(2);
-  Module1.JobFileName = folder.File("job.qjt");
-  JobReset();
-  form->load();
-  ASSERT_EQ(CurrentTask(), 3);
-  platform.WillAnswer(Answer::Ok);
-  Type("Text1(2)", "5");
-  ASSERT_EQ(platform.messages().size(), 1U);
-  EXPECT_TRUE(platform.messages()[0].text.startsWith("Subscript out of range."));
-  EXPECT_EQ(platform.ends(), std::vector<int>{1});
-  EXPECT_EQ(folder.Names(), "Job.rescue.qjt");
-}
-
 /// The texts of the nodes on a form.
 QStringList NodesOn(const QWidget& form) {
   QStringList texts;

@@ -1,5 +1,6 @@
 #include <QAbstractButton>
 #include <QApplication>
+#include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -95,8 +96,7 @@ TEST_F(MainWindow, TickShowsEveryButtonAndParksTheFocus) {
   const auto window = IdleMainWindow();
   EXPECT_FALSE(Find<QWidget>(*window, "Picture3").isVisible());
   EXPECT_EQ(VisibleButtons(*window), Sorted(kButtons));
-  EXPECT_EQ(window->focusWidget(), nullptr);
-  EXPECT_EQ(QApplication::focusWidget(), nullptr);
+  EXPECT_EQ(window->focusWidget(), window.get()) << "no control has it";
   const auto& parking = Find<QPushButton>(*window, "SSCommand1");
   EXPECT_FALSE(parking.isVisible());
   EXPECT_FALSE(parking.isEnabled());
@@ -159,7 +159,7 @@ TEST_F(MainWindow, MinimizeParksTheFocusAndKeepsTheJob) {
   Module1.JobDirty = kTrue;
   Click(*window, "SSCommand3(1)");
   EXPECT_TRUE(window->isMinimized());
-  EXPECT_EQ(window->focusWidget(), nullptr);
+  EXPECT_EQ(window->focusWidget(), window.get());
   EXPECT_EQ(Module1.JobName.AsText(), "kept");
   EXPECT_EQ(Module1.JobDirty, kTrue);
 }
@@ -246,7 +246,7 @@ TEST_F(MainWindowLaunch, ReturnParksTheFocusAndReleasesTheRibbons) {
   InStrainIndex(*window, [](QWidget&) {});
   EXPECT_FALSE(Find<QAbstractButton>(*window, "SSRibbon1(0)").isChecked());
   EXPECT_FALSE(Find<QAbstractButton>(*window, "SSRibbon1(1)").isChecked());
-  EXPECT_EQ(window->focusWidget(), nullptr);
+  EXPECT_EQ(window->focusWidget(), window.get());
 }
 
 TEST_F(MainWindowLaunch, ClosingAToolAsksNothingAndKeepsTheChangedJob) {
@@ -334,12 +334,69 @@ TEST_F(MainWindowExit, YesAsksForTheNameOfANamelessJobAndEndsEvenIfCancelled) {
 TEST_F(MainWindowExit, CloseButtonParksTheFocusFirst) {
   const auto window = IdleMainWindow();
   platform.WillAnswer(Answer::No);
-  QWidget* focused = window.get();
+  QWidget* focused = nullptr;
   platform.WhileNextMessageStands([&] { focused = window->focusWidget(); });
   Click(*window, "SSCommand3(0)");
-  EXPECT_EQ(focused, nullptr);
+  EXPECT_EQ(focused, window.get());
   EXPECT_EQ(platform.messages(), std::vector{kExitQuestion});
   EXPECT_TRUE(platform.ends().empty());
+}
+
+TEST_F(MainWindow, ActivationGivesTheFocusToNoButton) {
+  const auto window = IdleMainWindow();
+  QWidget other;
+  for (int i = 0; i < 2; ++i) {
+    ShowActive(other);
+    window->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    EXPECT_EQ(QApplication::focusWidget(), window.get());
+  }
+}
+
+TEST_F(MainWindow, TabIsWhatGivesAButtonTheFocus) {
+  const auto window = IdleMainWindow();
+  QTest::keyClick(window.get(), Qt::Key_Tab);
+  EXPECT_EQ(window->focusWidget(), &Find<QWidget>(*window, "SSCommand3(1)"));
+  window->ParkFocus();
+  ModalSteps steps;
+  steps.Then("mnuPopUp1", [](QWidget& menu) { QTest::keyClick(&menu, Qt::Key_Escape); });
+  Click(*window, "SSRibbon1(0)");
+  EXPECT_EQ(window->focusWidget(), window.get()) << "a click leaves no focus";
+}
+
+TEST_F(MainWindow, FocusIsParkedWhenAMessageHasGone) {
+  const auto window = IdleMainWindow();
+  Find<QWidget>(*window, "SSRibbon1(0)").setFocus();
+  QDialog message(window.get());
+  message.setModal(true);
+  message.show();
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(&message));
+  message.close();
+  EXPECT_EQ(window->focusWidget(), window.get());
+}
+
+TEST_F(MainWindow, FocusIsParkedWhenTheWindowComesBackFromMinimized) {
+  const auto window = IdleMainWindow();
+  window->showMinimized();
+  Find<QWidget>(*window, "SSRibbon1(0)").setFocus();
+  window->showNormal();
+  EXPECT_EQ(window->focusWidget(), window.get());
+}
+
+TEST_F(MainWindowLaunch, ReturnOnAFocusedButtonOpensItsTool) {
+  const auto window = IdleMainWindow();
+  for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space}) {
+    ModalSteps steps;
+    bool opened = false;
+    steps.Then("frmSI", [&](QWidget& form) {
+      opened = true;
+      Choose(form, "mnuFileExit");
+    });
+    auto& button = Find<QWidget>(*window, "SSCommand2(2)");
+    button.setFocus();
+    QTest::keyClick(&button, key);
+    EXPECT_TRUE(opened) << key;
+  }
 }
 
 TEST_F(MainWindowExit, WindowManagersCloseAsksTheSame) {

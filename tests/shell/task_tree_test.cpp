@@ -1,6 +1,7 @@
 // The controls that a task list and a slider with marks are made of, each alone.
 #include "shell/controls/task_tree.h"
 
+#include <QApplication>
 #include <QImage>
 #include <QLabel>
 #include <QLineEdit>
@@ -77,6 +78,91 @@ TEST_F(TaskList, NodesShowNamesAndKnowTheirTasks) {
   EXPECT_EQ(selected_.count(), 0) << "the program's own selection tells nobody";
 }
 
+/// The time in which a second click makes a double click, short while it lives.
+class ShortDoubleClick {
+ public:
+  ShortDoubleClick() { QApplication::setDoubleClickInterval(kMilliseconds); }
+  ~ShortDoubleClick() { QApplication::setDoubleClickInterval(before_); }
+  ShortDoubleClick(const ShortDoubleClick&) = delete;
+  ShortDoubleClick& operator=(const ShortDoubleClick&) = delete;
+
+  static constexpr int kMilliseconds = 30;
+
+ private:
+  int before_ = QApplication::doubleClickInterval();
+};
+
+TEST_F(TaskList, ClickOnTheSelectedNodeEditsItsNameWhenItCanBeNoDoubleClick) {
+  const ShortDoubleClick shortly;
+  ClickAt(PlaceOf(0));
+  EXPECT_EQ(EditorOf(Tree()), nullptr) << "not at once";
+  EXPECT_TRUE(QTest::qWaitFor([this] { return EditorOf(Tree()) != nullptr; }));
+  QTest::keyClicks(EditorOf(Tree()), "Packing");
+  EndEditIn(Tree(), Qt::Key_Return);
+  EXPECT_EQ(renamed_.count(), 1);
+  EXPECT_EQ(renamed_.at(0).at(0).toInt(), 1);
+  EXPECT_EQ(renamed_.at(0).at(1).toString(), "Packing");
+}
+
+/// What may come between a click on the selected node and the end of the delay.
+struct MeanwhileRow {
+  const char* label;
+  std::function<void()> act;
+};
+
+TEST_F(TaskList, ClickOnTheSelectedNodeEditsNothingWhenTheUserHasGoneOn) {
+  const ShortDoubleClick shortly;
+  QWidget otherWindow;
+  const std::vector<MeanwhileRow> rows{
+      {"a box", [this] { QTest::mouseClick(other_, Qt::LeftButton); }},
+      {"the Tab key", [this] { QTest::keyClick(&Tree(), Qt::Key_Tab); }},
+      {"another node", [this] { ClickAt(PlaceOf(1)); }},
+      {"an arrow key", [this] { QTest::keyClick(&Tree(), Qt::Key_Down); }},
+      {"a second click",
+       [this] { QTest::mouseDClick(Tree().viewport(), Qt::LeftButton, {}, PlaceOf(0)); }},
+      {"the node is removed", [this] { Tree().RemoveSelected(); }},
+      {"the list goes out of sight", [this] { frame_->hide(); }},
+      {"another tab", [this] { Tree().FinishEdit(); }},
+      {"another window", [&] { ShowActive(otherWindow); }},
+  };
+  for (const MeanwhileRow& row : rows) {
+    SCOPED_TRACE(row.label);
+    frame_->show();
+    ShowActive(window_);
+    Tree().setFocus();
+    Tree().SelectAt(0);
+    ClickAt(PlaceOf(0));
+    row.act();
+    QTest::qWait(4 * ShortDoubleClick::kMilliseconds);
+    EXPECT_EQ(EditorOf(Tree()), nullptr);
+    otherWindow.hide();
+  }
+}
+
+TEST_F(TaskList, EditorOpenedMeanwhileStaysAndNothingWarns) {
+  const ShortDoubleClick shortly;
+  static int warnings;
+  warnings = 0;
+  const auto before = qInstallMessageHandler(
+      [](QtMsgType, const QMessageLogContext&, const QString&) { ++warnings; });
+  ClickAt(PlaceOf(0));
+  StartTyping("Sorting");
+  QTest::qWait(4 * ShortDoubleClick::kMilliseconds);
+  qInstallMessageHandler(before);
+  EXPECT_EQ(warnings, 0);
+  ASSERT_NE(EditorOf(Tree()), nullptr);
+  EXPECT_EQ(EditorOf(Tree())->text(), "Sorting");
+}
+
+TEST_F(TaskList, PressThatEndsAnEditStartsNoOther) {
+  const ShortDoubleClick shortly;
+  StartTyping("Sorting");
+  ClickAt({PlaceOf(0).x(), PlaceOf(0).y()});
+  QTest::qWait(4 * ShortDoubleClick::kMilliseconds);
+  QTest::keyClick(&Tree(), Qt::Key_X);
+  EXPECT_EQ(renamed_.count(), EditorOf(Tree()) == nullptr ? 1 : 0);
+}
+
 TEST_F(TaskList, EmptyOneHasNoTaskAndSaysWhatToDo) {
   const QImage filled = Tree().viewport()->grab().toImage();
   Tree().Clear();
@@ -146,7 +232,7 @@ TEST_F(TaskList, EditedNameIsToldOnceItIsFinished) {
   EXPECT_EQ(renamed_.count(), 0);
   EndEditIn(Tree(), Qt::Key_Return);
   ASSERT_EQ(renamed_.count(), 1);
-  EXPECT_EQ(renamed_[0][0].toString(), "Packing");
+  EXPECT_EQ(renamed_[0][1].toString(), "Packing");
   EXPECT_EQ(Text(0), "Packing");
 }
 
@@ -176,7 +262,7 @@ TEST_F(TaskList, FinishedEditTakesTheNameAsTypedSoFar) {
   Tree().FinishEdit();
   EXPECT_EQ(EditorOf(Tree()), nullptr);
   ASSERT_EQ(renamed_.count(), 1);
-  EXPECT_EQ(renamed_[0][0].toString(), "Pack");
+  EXPECT_EQ(renamed_[0][1].toString(), "Pack");
 }
 
 TEST_F(TaskList, MenuEndsAnEditUnlessItIsTheOneOfTheNameItself) {

@@ -224,16 +224,16 @@ void CtdControls::PressRibbon(CtdGroup group, int index) {
   if (down == index) return;
   down = index;
   Module1.JobDirty = kTrue;
-  StoreCode(group, CurrentTask(), static_cast<Integer>(index));
+  if (const auto task = TaskOnScreen()) StoreCode(group, *task, static_cast<Integer>(index));
 }
 
 void CtdControls::PressBodyPart(int index) {
   const CtdBodyPart& part = kCtdBodyParts[CheckedSubscript(index, kCtdBodyParts.size())];
   Module1.JobDirty = kTrue;
   bodyPart_ = index;
-  for (const int slot : part.shownSlots) {
-    PressCategory(slot, ToInteger(CtdCategoryOf(slot, CurrentTask())));
-  }
+  const std::optional<int> task = TaskOnScreen();
+  if (!task) return;
+  for (const int slot : part.shownSlots) PressCategory(slot, ToInteger(CtdCategoryOf(slot, *task)));
 }
 
 void CtdControls::PressCategory(int slot, int index) {
@@ -242,7 +242,9 @@ void CtdControls::PressCategory(int slot, int index) {
   if (category_[at] == index) return;
   category_[at] = index;
   Module1.JobDirty = kTrue;
-  StoreCtdCategory(slot, CurrentTask(), static_cast<Integer>(index));
+  if (const auto task = TaskOnScreen()) {
+    StoreCtdCategory(slot, *task, static_cast<Integer>(index));
+  }
 }
 
 }  // namespace halvane

@@ -41,6 +41,8 @@ void WriteJob(RichText& RichTextBox1) {
   RichTextBox1.Append(kNewLine, kNewLine);
 }
 
+// A row is appended column by column: where one fails, what stands before it stays in the report.
+
 void WriteEffortTable(RichText& RichTextBox1) {
   RichTextBox1.SetFont(kHeading);
   SetStops(RichTextBox1, kFirstHeadingStops);
@@ -50,11 +52,11 @@ void WriteEffortTable(RichText& RichTextBox1) {
   RichTextBox1.SetFont(kPlain);
   for (const int task : ActiveTasks()) {
     SetStops(RichTextBox1, kRowStops);
-    RichTextBox1.Append(kNewLine, ShownTaskName(task), kTab,
-                        Format(Module1.CtdWorkTime.at(task), Pattern::TwoDecimals), kTab,
-                        Format(Module1.CtdRepetitions.at(task), Pattern::OneDecimal), kTab,
-                        Format(Module1.CtdForceMvc.at(task), Pattern::OneDecimal), kTab,
-                        Format(Module1.CtdHandSpan.at(task), Pattern::OneDecimal));
+    RichTextBox1.Append(kNewLine, ShownTaskName(task));
+    RichTextBox1.Append(kTab, Format(Module1.CtdWorkTime.at(task), Pattern::TwoDecimals));
+    RichTextBox1.Append(kTab, Format(Module1.CtdRepetitions.at(task), Pattern::OneDecimal));
+    RichTextBox1.Append(kTab, Format(Module1.CtdForceMvc.at(task), Pattern::OneDecimal));
+    RichTextBox1.Append(kTab, Format(Module1.CtdHandSpan.at(task), Pattern::OneDecimal));
   }
   RichTextBox1.Append(kNewLine, kNewLine);
 }
@@ -78,10 +80,11 @@ void WriteGripTable(RichText& RichTextBox1) {
   RichTextBox1.SetFont(kPlain);
   for (const int task : ActiveTasks()) {
     SetStops(RichTextBox1, kRowStops);
-    RichTextBox1.Append(kNewLine, ShownTaskName(task), kTab, CodeCaption(CtdGroup::Grip, task),
-                        kTab, CodeCaption(CtdGroup::Wrist, task), kTab,
-                        CodeCaption(CtdGroup::RadialUlnar, task), kTab,
-                        CodeCaption(CtdGroup::FlexionExtension, task));
+    RichTextBox1.Append(kNewLine, ShownTaskName(task));
+    RichTextBox1.Append(kTab, CodeCaption(CtdGroup::Grip, task));
+    RichTextBox1.Append(kTab, CodeCaption(CtdGroup::Wrist, task));
+    RichTextBox1.Append(kTab, CodeCaption(CtdGroup::RadialUlnar, task));
+    RichTextBox1.Append(kTab, CodeCaption(CtdGroup::FlexionExtension, task));
   }
   RichTextBox1.Append(kNewLine, kNewLine);
 }
@@ -89,15 +92,17 @@ void WriteGripTable(RichText& RichTextBox1) {
 void WritePostureRow(RichText& RichTextBox1, int slot, int task) {
   const CtdSlot& row = kCtdSlots[static_cast<std::size_t>(slot)];
   const bool neck = slot == kCtdSlotCount - 1;
-  const std::string load =
-      neck ? "    " : Format(Module1.CtdLoadHeld.at(task, row.frameSlot), Pattern::OneDecimal);
+  RichTextBox1.Append(row.reportLabel);
+  RichTextBox1.Append(kTab, CategoryCaption(slot, task));
+  RichTextBox1.Append(
+      kTab,
+      neck ? "    " : Format(Module1.CtdLoadHeld.at(task, row.frameSlot), Pattern::OneDecimal));
+  RichTextBox1.Append(
+      kTab, Format(Module1.CtdPostureDuration.at(task, row.frameSlot), Pattern::TwoDecimals));
   // The neck's row shows the back's score. It is wanted, as is that the scores are those of the
   // last active task while the rest of the row belongs to the worst one.
   const double score = Module1.CtdPostureScore.at(neck ? slot - 1 : slot).AsDouble();
-  RichTextBox1.Append(
-      row.reportLabel, kTab, CategoryCaption(slot, task), kTab, load, kTab,
-      Format(Module1.CtdPostureDuration.at(task, row.frameSlot), Pattern::TwoDecimals), kTab,
-      Format(score, Pattern::TwoDecimals), kNewLine);
+  RichTextBox1.Append(kTab, Format(score, Pattern::TwoDecimals), kNewLine);
 }
 
 void WritePostureTable(RichText& RichTextBox1) {

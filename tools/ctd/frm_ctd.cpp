@@ -7,7 +7,6 @@
 #include <QLabel>
 #include <QMenu>
 #include <QSignalBlocker>
-#include <QTabWidget>
 #include <QVBoxLayout>
 
 #include "core/job_state.h"
@@ -15,6 +14,7 @@
 #include "core/units.h"
 #include "shell/controls/ribbon_button.h"
 #include "shell/controls/rich_text_box.h"
+#include "shell/controls/tab_strip.h"
 #include "shell/controls/task_tree.h"
 #include "shell/controls/text_box.h"
 #include "shell/hand_frame.h"
@@ -32,13 +32,13 @@ namespace {
 
 constexpr int kReportTab = 2;
 constexpr int kNeckSlot = 7;
-constexpr IdentificationNames kNames{"Text1(8)", "Text1(7)", "Text1(4)", "SSOption1"};
+constexpr IdentificationNames kNames{
+    {"Text1(8)", "Label1(10)"}, {"Text1(7)", "Label1(9)"}, {"Text1(4)", "Label1(8)"}, "SSOption1"};
 constexpr auto kPdaFile = "/me.pda";
 
-int CurrentTask() { return ToInteger(Module1.CurrentTask.AsDouble()); }
 bool HasTasks() { return Module1.TaskCount.AsDouble() != 0; }
 
-double NumberIn(const TextBox& box) { return ReadsAs(box.text().toStdString()); }
+double NumberIn(const TextBox& box) { return TypedNumber(box.text().toStdString()); }
 QString NumberText(double number) { return QString::fromStdString(PlainText(number)); }
 QString NumberText(const TaggedField& field) { return QString::fromStdString(field.AsText()); }
 QString TwoDecimals(const TaggedField& field) {
@@ -52,14 +52,13 @@ FrmCTD::FrmCTD(QWidget* parent) : ToolForm(Tool::Ctd, "frmCTD", kNames, parent) 
   row->setSpacing(kGap);
   SSTab2_ = MakeTaskList();
   row->addWidget(SSTab2_, 1);
-  SSTab1_ = new QTabWidget(this);
-  SSTab1_->setObjectName("SSTab1");
+  SSTab1_ = new TabStrip("SSTab1", this);
   SSTab1_->addTab(MakeEffortTab(), "Force Freq. Factors");
   SSTab1_->addTab(MakePostureTab(), "Body Posture Factors");
   SSTab1_->addTab(&RichTextBox1(), "Grand Score");
   row->addWidget(SSTab1_, 4);
   body().addLayout(row);
-  connect(SSTab1_, &QTabWidget::currentChanged, this, &FrmCTD::SSTab1_Click);
+  connect(SSTab1_, &TabStrip::tabClicked, this, &FrmCTD::SSTab1_Click);
 }
 
 QWidget* FrmCTD::MakeTaskList() {
@@ -135,9 +134,8 @@ void FrmCTD::MakeNumberFrames(QVBoxLayout& column) {
   Text5_ = AddNumberAt(strength, 0, 0, "MVC % Required:", "Text5");
   connect(Text5_, &TextBox::keyReleased, this, &FrmCTD::Text5_KeyUp);
   QGridLayout& span = addFrame(effort, "Hand Span");
-  AddText1(6, AddNumberWithUnit(span, "Text1(6)", "Hand Span", ""));
+  AddText1(6, AddNumberWithUnit(span, "Text1(6)", "Hand Span", "", "Label2(1)"));
   Label2_ = span.parentWidget()->findChild<QLabel*>();
-  Label2_->setObjectName("Label2(1)");
 }
 
 void FrmCTD::AddText1(int index, TextBox* box) {
@@ -270,8 +268,8 @@ void FrmCTD::loadFromJob() {
 
 void FrmCTD::TreeView1_Select() { CTDshowTask(); }
 
-void FrmCTD::TreeView1_AfterLabelEdit(const QString& name) {
-  RenameSelectedTask(*TreeView1_, name);
+void FrmCTD::TreeView1_AfterLabelEdit(int task, const QString& name) {
+  RenameTask(*TreeView1_, task, name);
 }
 
 void FrmCTD::SSCommand1_Click(int index) {
@@ -302,7 +300,7 @@ void FrmCTD::AddTask(int task) {
 void FrmCTD::ToolBarDelete() { DeleteCurrentTask(*TreeView1_, *this); }
 
 void FrmCTD::EnableAllFrame() {
-  const bool any = !ActiveTasks().empty();
+  const bool any = AnyActiveTask();
   for (QGroupBox* frame : SSFrame1_) frame->setEnabled(any);
 }
 
@@ -335,10 +333,14 @@ void FrmCTD::ShowRibbons() {
     categories_[slot].at(controls_.category(static_cast<int>(slot)))->setChecked(true);
   }
   for (std::size_t part = 0; part < SSRibbon3_.size(); ++part) {
-    SSRibbon3_[part]->setVisible(HasTasks());
     SSRibbon3_[part]->setChecked(framesShown_ && static_cast<int>(part) == controls_.bodyPart());
   }
-  choosePart_->setVisible(HasTasks() && !framesShown_);
+  choosePart_->setVisible(partsShown_ && !framesShown_);
+}
+
+void FrmCTD::ShowBodyParts(bool shown) {
+  partsShown_ = shown;
+  for (RibbonButton* part : SSRibbon3_) part->setVisible(shown);
 }
 
 void FrmCTD::ShowPostureFrames(bool shown) {
@@ -350,12 +352,16 @@ void FrmCTD::ShowPostureFrames(bool shown) {
 }
 
 void FrmCTD::SSTab1_Click(int tab) {
+  TreeView1_->FinishEdit();
   const bool isReport = tab == kReportTab;
   if (isReport && !HasTasks()) return;
   SSTab2_->setVisible(!isReport);
   if (isReport) {
     mnuEdit().setEnabled(true);
     ShowReport();
+  } else {
+    // Here and not with the first task, which is added while a tab is showing.
+    ShowBodyParts(HasTasks());
   }
   // The part stays remembered and comes back with the next task that is shown.
   ShowPostureFrames(false);
@@ -366,21 +372,22 @@ void FrmCTD::SSOption1_Click(int index) { controls_.ChooseHand(index); }
 
 void FrmCTD::Text1_KeyUp(int index) {
   Module1.JobDirty = kTrue;
-  const int task = CurrentTask();
   const double number = NumberIn(*Text1_.at(index));
-  switch (index) {
-    case 2: Module1.CtdWorkTime.at(task) = number; break;
-    case 5: Module1.CtdRepetitions.at(task) = number; break;
-    case 6: Module1.CtdHandSpan.at(task) = number; break;
-    default: break;
+  if (const std::optional<int> task = TaskOnScreen()) {
+    switch (index) {
+      case 2: Module1.CtdWorkTime.at(*task) = number; break;
+      case 5: Module1.CtdRepetitions.at(*task) = number; break;
+      case 6: Module1.CtdHandSpan.at(*task) = number; break;
+      default: break;
+    }
   }
   ShowRestTime();
 }
 
 void FrmCTD::ShowRestTime() {
-  const int task = CurrentTask();
-  ComputeCtdRestTime(task);
-  Text1_.at(3)->setText(TwoDecimals(Module1.CtdRestTime.at(task)));
+  const std::optional<int> task = TaskOnScreen();
+  if (task) ComputeCtdRestTime(*task);
+  Text1_.at(3)->setText(TwoDecimals(task ? Module1.CtdRestTime.at(*task) : Integer{0}));
 }
 
 void FrmCTD::Text2_KeyUp(int index) {
@@ -396,7 +403,9 @@ void FrmCTD::Text2_KeyUp(int index) {
 
 void FrmCTD::Text5_KeyUp() {
   Module1.JobDirty = kTrue;
-  Module1.CtdForceMvc.at(CurrentTask()) = NumberIn(*Text5_);
+  if (const std::optional<int> task = TaskOnScreen()) {
+    Module1.CtdForceMvc.at(*task) = NumberIn(*Text5_);
+  }
 }
 
 void FrmCTD::SSRibbon_Click(CtdGroup group, int index) { controls_.PressRibbon(group, index); }
@@ -405,12 +414,13 @@ void FrmCTD::SSRibbon3_Click(int part) {
   controls_.PressBodyPart(part);
   ShowPostureFrames(true);
   ShowRibbons();
-  const int task = CurrentTask();
+  const std::optional<int> task = TaskOnScreen();
+  const auto show = [task](TextBox& box, const auto& numbers, int slot) {
+    box.setText(task ? NumberText(numbers.at(*task, slot)) : QString());
+  };
   for (const int slot : kCtdBodyParts[static_cast<std::size_t>(part)].shownSlots) {
-    if (slot != kNeckSlot) {
-      Text3_.at(slot)->setText(NumberText(Module1.CtdLoadHeld.at(task, slot)));
-    }
-    Text4_.at(slot)->setText(NumberText(Module1.CtdPostureDuration.at(task, slot)));
+    if (slot != kNeckSlot) show(*Text3_.at(slot), Module1.CtdLoadHeld, slot);
+    show(*Text4_.at(slot), Module1.CtdPostureDuration, slot);
   }
 }
 
@@ -418,12 +428,14 @@ void FrmCTD::SSctd_Click(int slot, int index) { controls_.PressCategory(slot, in
 
 void FrmCTD::Text3_KeyUp(int slot) {
   Module1.JobDirty = kTrue;
-  Module1.CtdLoadHeld.at(CurrentTask(), slot) = NumberIn(*Text3_.at(slot));
+  const std::optional<int> task = TaskOnScreen();
+  if (task) Module1.CtdLoadHeld.at(*task, slot) = NumberIn(*Text3_.at(slot));
 }
 
 void FrmCTD::Text4_KeyUp(int slot) {
   Module1.JobDirty = kTrue;
-  Module1.CtdPostureDuration.at(CurrentTask(), slot) = NumberIn(*Text4_.at(slot));
+  const std::optional<int> task = TaskOnScreen();
+  if (task) Module1.CtdPostureDuration.at(*task, slot) = NumberIn(*Text4_.at(slot));
 }
 
 void FrmCTD::CTDcopyPdaFile() {

@@ -10,11 +10,11 @@ class QButtonGroup;
 class QGridLayout;
 class QGroupBox;
 class QLabel;
-class QTabWidget;
 
 namespace halvane {
 
 class RibbonButton;
+class TabStrip;
 class TaskTree;
 class TextBox;
 
@@ -26,7 +26,7 @@ class FrmCTD : public ToolForm {
 
   // In the order of the screen.
   void TreeView1_Select();
-  void TreeView1_AfterLabelEdit(const QString& name);
+  void TreeView1_AfterLabelEdit(int task, const QString& name);
   void SSCommand1_Click(int index);  ///< 0 add, 1 delete, 2 edit
   void SSTab1_Click(int tab);
   void SSOption1_Click(int index);
@@ -70,12 +70,14 @@ class FrmCTD : public ToolForm {
   void AddText2(int index, TextBox* box);
   void FillTaskBoxes(int task);
   void ShowRibbons();
+  void ShowBodyParts(bool shown);
   void ShowPostureFrames(bool shown);
   void ShowRestTime();
 
   CtdControls controls_;
+  bool partsShown_ = false;   ///< the body-part selector
   bool framesShown_ = false;  ///< the two posture frames of the body part chosen last
-  QTabWidget* SSTab1_;
+  TabStrip* SSTab1_;
   QWidget* SSTab2_;
   TaskTree* TreeView1_ = nullptr;
   QLabel* Label2_ = nullptr;      ///< unit of the hand span

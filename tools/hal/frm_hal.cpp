@@ -26,7 +26,8 @@
 namespace halvane {
 namespace {
 
-constexpr IdentificationNames kNames{"Text3(0)", "Text3(1)", "Text3(2)", "SSOption5"};
+constexpr IdentificationNames kNames{
+    {"Text3(0)", "Label1(11)"}, {"Text3(1)", "Label1(10)"}, {"Text3(2)", "Label1(9)"}, "SSOption5"};
 
 // The indexes of the boxes with numbers.
 constexpr int kFrequencyBox = 0;
@@ -102,8 +103,7 @@ QGroupBox* FrmHAL::MakeExertionFrame(QWidget* parent) {
   const auto [frame, grid] = MakeFrame("Exertion:", parent);
   frame->setObjectName("SSFrame1(4)");
   frequency_ = AddNumberWithUnit(*grid, ElementName("Text1", kFrequencyBox), "Exertion Frequency",
-                                 "no. of exertion per min.");
-  frame->findChild<QLabel*>()->setObjectName("Label2(5)");
+                                 "no. of exertion per min.", "Label2(5)");
   connect(frequency_, &TextBox::keyReleased, this, [this] { Text1_KeyUp(kFrequencyBox); });
   return frame;
 }

@@ -60,13 +60,13 @@ void HalHandChosen(int index) {
 
 void HalFrequencyTyped(std::string_view text) {
   Module1.JobDirty = kTrue;
-  Module1.HalExertionFrequency = ReadsAs(text);
+  Module1.HalExertionFrequency = TypedNumber(text);
   GetExertionLevel();
 }
 
 void HalDutyTyped(std::string_view text) {
   Module1.JobDirty = kTrue;
-  Module1.HalDutyCycle = ReadsAs(text);
+  Module1.HalDutyCycle = TypedNumber(text);
   GetExertionLevel();
 }
 

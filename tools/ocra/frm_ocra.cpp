@@ -8,13 +8,13 @@
 #include <QMenu>
 #include <QSignalBlocker>
 #include <QSlider>
-#include <QTabWidget>
 #include <QVBoxLayout>
 
 #include "core/job_state.h"
 #include "core/task_list.h"
 #include "shell/controls/pair_panel.h"
 #include "shell/controls/rich_text_box.h"
+#include "shell/controls/tab_strip.h"
 #include "shell/controls/task_tree.h"
 #include "shell/controls/text_box.h"
 #include "shell/controls/tick_labels.h"
@@ -29,13 +29,12 @@ namespace halvane {
 namespace {
 
 constexpr int kReportTab = 2;
-constexpr IdentificationNames kNames{"Text3(0)", "Text3(1)", "Text3(2)", "SSOption1"};
+constexpr IdentificationNames kNames{
+    {"Text3(0)", "Label1(11)"}, {"Text3(1)", "Label1(10)"}, {"Text3(2)", "Label1(9)"}, "SSOption1"};
 constexpr int kDurationBox = 2;
 constexpr int kFrequencyBox = 5;
 
-int CurrentTask() { return ToInteger(Module1.CurrentTask.AsDouble()); }
-
-double NumberIn(const TextBox& box) { return ReadsAs(box.text().toStdString()); }
+double NumberIn(const TextBox& box) { return TypedNumber(box.text().toStdString()); }
 
 constexpr int kSliderEnd = 10;
 
@@ -49,13 +48,12 @@ QSlider* MakeSlider(const QString& name, int pageStep, QWidget* parent) {
 
 FrmOCRA::FrmOCRA(QWidget* parent) : ToolForm(Tool::Ocra, "frmOCRA", kNames, parent) {
   body().addWidget(MakeIdentification(this));
-  SSTab1_ = new QTabWidget(this);
-  SSTab1_->setObjectName("SSTab1");
+  SSTab1_ = new TabStrip("SSTab1", this);
   SSTab1_->addTab(MakeTaskTab(), "Repetitive Task Factors");
   SSTab1_->addTab(MakePostureTab(), "Arm Posture Factors");
   SSTab1_->addTab(&RichTextBox1(), "Estimated Risk");
   body().addWidget(SSTab1_, 1);
-  connect(SSTab1_, &QTabWidget::currentChanged, this, &FrmOCRA::SSTab1_Click);
+  connect(SSTab1_, &TabStrip::tabClicked, this, &FrmOCRA::SSTab1_Click);
 }
 
 QWidget* FrmOCRA::MakeTaskTab() {
@@ -81,7 +79,7 @@ QGroupBox* FrmOCRA::MakeJobFrame(QWidget* parent) {
 
   const auto [cycle, cycleGrid] = MakeFrame("Job Cycle Time", panel);
   cycle->setObjectName("SSFrame1(3)");
-  cycleTime_ = AddNumberWithUnit(*cycleGrid, "Text2(1)", "Job Cycle Time", "min");
+  cycleTime_ = AddNumberWithUnit(*cycleGrid, "Text2(1)", "Job Cycle Time", "min", "Label1(5)");
   connect(cycleTime_, &TextBox::keyReleased, this, &FrmOCRA::Text2_KeyUp);
   grid->addWidget(cycle, 0, 1);
 
@@ -125,14 +123,14 @@ QWidget* FrmOCRA::MakeTaskInputs(QWidget* parent) {
   const auto [duration, durationGrid] = MakeFrame("Task Duration ", inputs);
   duration->setObjectName("SSFrame1(2)");
   duration_ = AddNumberWithUnit(*durationGrid, ElementName("Text1", kDurationBox), "Task Duration",
-                                "total minutes per shift");
+                                "total minutes per shift", "Label1(2)");
   connect(duration_, &TextBox::keyReleased, this, [this] { Text1_KeyUp(kDurationBox); });
   grid->addWidget(duration, 0, 0);
 
   const auto [frequency, frequencyGrid] = MakeFrame("Action Frequency", inputs);
   frequency->setObjectName("SSFrame1(1)");
   frequency_ = AddNumberWithUnit(*frequencyGrid, ElementName("Text1", kFrequencyBox),
-                                 "Action Frequency", "no. of action per min");
+                                 "Action Frequency", "no. of action per min", "Label2(5)");
   connect(frequency_, &TextBox::keyReleased, this, [this] { Text1_KeyUp(kFrequencyBox); });
   grid->addWidget(frequency, 0, 1);
 
@@ -208,6 +206,7 @@ QWidget* FrmOCRA::MakeList(int list, QWidget* parent) {
   row->setSpacing(kGap);
   auto* combo = new QComboBox(line);
   combo->setObjectName(ElementName("Combo1", list));
+  KeepWheelOff(*combo);
   for (const std::string_view answer : kOcraAnswers) combo->addItem(ScreenText(answer));
   auto* caption = new QLabel(ScreenText(kOcraLists[at].caption), line);
   caption->setBuddy(combo);
@@ -261,6 +260,7 @@ void FrmOCRA::ShowControls() {
 }
 
 void FrmOCRA::SSTab1_Click(int tab) {
+  TreeView1_->FinishEdit();
   mnuEdit().setEnabled(tab == kReportTab);
   if (tab == kReportTab) ShowReport();
 }
@@ -284,8 +284,8 @@ void FrmOCRA::TreeView1_Click() {
   if (Module1.TaskCount.AsDouble() > 0) OcraShowTask();
 }
 
-void FrmOCRA::TreeView1_AfterLabelEdit(const QString& name) {
-  RenameSelectedTask(*TreeView1_, name);
+void FrmOCRA::TreeView1_AfterLabelEdit(int task, const QString& name) {
+  RenameTask(*TreeView1_, task, name);
 }
 
 void FrmOCRA::SSCommand1_Click(int index) {
@@ -320,7 +320,7 @@ void FrmOCRA::ToolBarDelete() {
 
 void FrmOCRA::EnableAllFrame() {
   // A job that never had a task leaves the frames as they were.
-  if (Module1.TaskCount.AsDouble() > 0) ShowTaskFrames(!ActiveTasks().empty());
+  if (Module1.TaskCount.AsDouble() > 0) ShowTaskFrames(AnyActiveTask());
 }
 
 void FrmOCRA::ShowTaskFrames(bool shown) {
@@ -347,14 +347,18 @@ void FrmOCRA::ShowRating(int sliderValue) {
 
 void FrmOCRA::Text1_KeyUp(int index) {
   Module1.JobDirty = kTrue;
-  if (index == kDurationBox) Module1.OcraTaskDuration.at(CurrentTask()) = NumberIn(*duration_);
-  if (index == kFrequencyBox) Module1.OcraActionFrequency.at(CurrentTask()) = NumberIn(*frequency_);
+  const std::optional<int> task = TaskOnScreen();
+  if (!task) return;
+  if (index == kDurationBox) Module1.OcraTaskDuration.at(*task) = NumberIn(*duration_);
+  if (index == kFrequencyBox) Module1.OcraActionFrequency.at(*task) = NumberIn(*frequency_);
 }
 
 void FrmOCRA::Slider1_Scroll(int value) {
   Module1.JobDirty = kTrue;
-  Module1.OcraForceRating.at(CurrentTask()) = OcraRatingAt(value);
-  ShowRating(value);
+  const std::optional<int> task = TaskOnScreen();
+  if (task) Module1.OcraForceRating.at(*task) = OcraRatingAt(value);
+  // Without a task there is nothing to rate.
+  ShowRating(task ? value : 0);
   Slider1_->setToolTip(rating_->text());
 }
 

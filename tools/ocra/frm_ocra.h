@@ -10,10 +10,10 @@ class QComboBox;
 class QGroupBox;
 class QLabel;
 class QSlider;
-class QTabWidget;
 
 namespace halvane {
 
+class TabStrip;
 class TaskTree;
 class TextBox;
 
@@ -30,7 +30,7 @@ class FrmOCRA : public ToolForm {
   void Slider2_Scroll(int hours);
   void TreeView1_Select();
   void TreeView1_Click();
-  void TreeView1_AfterLabelEdit(const QString& name);
+  void TreeView1_AfterLabelEdit(int task, const QString& name);
   void SSCommand1_Click(int index);  ///< 0 add, 1 delete, 2 edit
   void Text1_KeyUp(int index);       ///< 2 duration, 5 frequency
   void Slider1_Scroll(int value);
@@ -64,7 +64,7 @@ class FrmOCRA : public ToolForm {
   void ShowRating(int sliderValue);
 
   OcraControls controls_;
-  QTabWidget* SSTab1_;
+  TabStrip* SSTab1_;
   TaskTree* TreeView1_ = nullptr;
   QSlider* Slider1_ = nullptr;
   QSlider* Slider2_ = nullptr;

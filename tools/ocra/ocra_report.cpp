@@ -66,10 +66,11 @@ void WriteTaskTable(RichText& RichTextBox1) {
                       "Force Level");
   RichTextBox1.SetFont(kPlain);
   for (const int task : ActiveTasks()) {
-    RichTextBox1.Append(kNewLine, ShownTaskName(task), kTab,
-                        Format(Module1.OcraTaskDuration.at(task), Pattern::TwoDecimals), kTab,
-                        Format(Module1.OcraActionFrequency.at(task), Pattern::OneDecimal), kTab,
-                        Format(Module1.OcraForceRating.at(task), Pattern::OneDecimal));
+    // Column by column: where one fails, what stands before it stays in the report.
+    RichTextBox1.Append(kNewLine, ShownTaskName(task));
+    RichTextBox1.Append(kTab, Format(Module1.OcraTaskDuration.at(task), Pattern::TwoDecimals));
+    RichTextBox1.Append(kTab, Format(Module1.OcraActionFrequency.at(task), Pattern::OneDecimal));
+    RichTextBox1.Append(kTab, Format(Module1.OcraForceRating.at(task), Pattern::OneDecimal));
   }
   RichTextBox1.Append(kNewLine);
 }
@@ -80,13 +81,13 @@ void WriteMultiplierTable(RichText& RichTextBox1) {
   RichTextBox1.Append(kNewLine, "Task ID", kTab, "Force Multiplier", kTab, "Posture Multiplier",
                       kTab, "Recovery Multiplier");
   RichTextBox1.SetFont(kPlain);
-  const double posture =
-      Product(Module1.OcraPostureMultiplier.AsDouble(), Module1.OcraGripExtraMultiplier.AsDouble());
   for (const int task : ActiveTasks()) {
-    RichTextBox1.Append(kNewLine, ShownTaskName(task), kTab,
-                        Format(Module1.OcraForceMultiplier.at(task), Pattern::TwoDecimals), kTab,
-                        Format(posture, Pattern::TwoDecimals), kTab,
-                        Format(Module1.OcraRecoveryMultiplier, Pattern::TwoDecimals));
+    RichTextBox1.Append(kNewLine, ShownTaskName(task));
+    RichTextBox1.Append(kTab, Format(Module1.OcraForceMultiplier.at(task), Pattern::TwoDecimals));
+    const double posture = Product(Module1.OcraPostureMultiplier.AsDouble(),
+                                   Module1.OcraGripExtraMultiplier.AsDouble());
+    RichTextBox1.Append(kTab, Format(posture, Pattern::TwoDecimals));
+    RichTextBox1.Append(kTab, Format(Module1.OcraRecoveryMultiplier, Pattern::TwoDecimals));
   }
   RichTextBox1.Append(kNewLine);
 }

@@ -5,12 +5,12 @@
 #include <QMenu>
 #include <QRadioButton>
 #include <QSignalBlocker>
-#include <QTabWidget>
 #include <QVBoxLayout>
 #include <array>
 
 #include "shell/controls/ribbon_button.h"
 #include "shell/controls/rich_text_box.h"
+#include "shell/controls/tab_strip.h"
 #include "shell/hand_frame.h"
 #include "shell/layout.h"
 #include "shell/posture_frame.h"
@@ -22,7 +22,7 @@ namespace halvane {
 namespace {
 
 constexpr int kReportTab = 1;
-constexpr IdentificationNames kNames{"Text1(0)", "Text1(1)", "Text1(2)", "SSOption5"};
+constexpr IdentificationNames kNames{{"Text1(0)"}, {"Text1(1)"}, {"Text1(2)"}, "SSOption5"};
 
 struct RegionPlace {
   RebaRegion region{};
@@ -44,12 +44,12 @@ constexpr std::array<RegionPlace, kRebaRegionCount> kPlaces{{
 }  // namespace
 
 FrmREBA::FrmREBA(QWidget* parent) : ToolForm(Tool::Reba, "frmREBA", kNames, parent) {
-  SSTab1_ = new QTabWidget(this);
-  SSTab1_->setObjectName("SSTab1");
+  SSTab1_ = new TabStrip("SSTab1", this);
   SSTab1_->addTab(MakeInputTab(), " Task Information");
   SSTab1_->addTab(&RichTextBox1(), "REBA Score");
+  RichTextBox1().OpenToTyping();
   body().addWidget(SSTab1_);
-  connect(SSTab1_, &QTabWidget::currentChanged, this, &FrmREBA::SSTab1_Click);
+  connect(SSTab1_, &TabStrip::tabClicked, this, &FrmREBA::SSTab1_Click);
 }
 
 QWidget* FrmREBA::MakeInputTab() {
@@ -106,6 +106,7 @@ void FrmREBA::AddCouplings(PostureFrame& frame) {
 void FrmREBA::AddLoads(PostureFrame& frame) {
   Combo2_ = new QComboBox(&frame);
   Combo2_->setObjectName("Combo2");
+  KeepWheelOff(*Combo2_);
   Combo2_->setAccessibleName(frame.title());
   Combo2_->setToolTip(ScreenText(kRebaLoadToolTip));
   for (const std::string_view load : kRebaLoads) Combo2_->addItem(ScreenText(load));

@@ -5,11 +5,11 @@
 #include "tools/reba/reba_controls.h"
 
 class QComboBox;
-class QTabWidget;
 
 namespace halvane {
 
 class PostureFrame;
+class TabStrip;
 
 /// The screen of the REBA tool.
 class FrmREBA : public ToolForm {
@@ -41,7 +41,7 @@ class FrmREBA : public ToolForm {
   void ShowControls();
 
   RebaControls controls_;
-  QTabWidget* SSTab1_;
+  TabStrip* SSTab1_;
   QComboBox* Combo2_ = nullptr;
   ButtonStates buttons_;
 };

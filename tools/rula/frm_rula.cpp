@@ -4,12 +4,12 @@
 #include <QMenu>
 #include <QRadioButton>
 #include <QSignalBlocker>
-#include <QTabWidget>
 #include <QVBoxLayout>
 #include <array>
 
 #include "shell/controls/ribbon_button.h"
 #include "shell/controls/rich_text_box.h"
+#include "shell/controls/tab_strip.h"
 #include "shell/hand_frame.h"
 #include "shell/layout.h"
 #include "shell/posture_frame.h"
@@ -21,7 +21,7 @@ namespace halvane {
 namespace {
 
 constexpr int kReportTab = 1;
-constexpr IdentificationNames kNames{"Text1(0)", "Text1(1)", "Text1(2)", "SSOption5"};
+constexpr IdentificationNames kNames{{"Text1(0)"}, {"Text1(1)"}, {"Text1(2)"}, "SSOption5"};
 
 // Left arm and wrist, right neck, trunk and legs, as the score has its two halves.
 constexpr std::array<FramePlace, kRulaFrames.size()> kPlaces{{
@@ -38,12 +38,12 @@ constexpr std::array<FramePlace, kRulaFrames.size()> kPlaces{{
 }  // namespace
 
 FrmRULA::FrmRULA(QWidget* parent) : ToolForm(Tool::Rula, "frmRULA", kNames, parent) {
-  SSTab1_ = new QTabWidget(this);
-  SSTab1_->setObjectName("SSTab1");
+  SSTab1_ = new TabStrip("SSTab1", this);
   SSTab1_->addTab(MakeInputTab(), " Task Information");
   SSTab1_->addTab(&RichTextBox1(), "RULA Score");
+  RichTextBox1().OpenToTyping();
   body().addWidget(SSTab1_);
-  connect(SSTab1_, &QTabWidget::currentChanged, this, &FrmRULA::SSTab1_Click);
+  connect(SSTab1_, &TabStrip::tabClicked, this, &FrmRULA::SSTab1_Click);
 }
 
 QWidget* FrmRULA::MakeInputTab() {

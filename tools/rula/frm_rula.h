@@ -4,11 +4,10 @@
 #include "shell/tool_form.h"
 #include "tools/rula/rula_controls.h"
 
-class QTabWidget;
-
 namespace halvane {
 
 class PostureFrame;
+class TabStrip;
 
 /// The screen of the RULA tool.
 class FrmRULA : public ToolForm {
@@ -39,7 +38,7 @@ class FrmRULA : public ToolForm {
   void ShowControls();
 
   RulaControls controls_;
-  QTabWidget* SSTab1_;
+  TabStrip* SSTab1_;
   ButtonStates buttons_;
 };
 

@@ -7,12 +7,12 @@
 #include <QLabel>
 #include <QMenu>
 #include <QSignalBlocker>
-#include <QTabWidget>
 #include <QVBoxLayout>
 
 #include "core/job_state.h"
 #include "shell/controls/ribbon_button.h"
 #include "shell/controls/rich_text_box.h"
+#include "shell/controls/tab_strip.h"
 #include "shell/controls/text_box.h"
 #include "shell/hand_frame.h"
 #include "shell/layout.h"
@@ -22,7 +22,7 @@ namespace halvane {
 namespace {
 
 constexpr int kReportTab = 1;
-constexpr IdentificationNames kNames{"Text1(6)", "Text1(5)", "Text1(4)", "SSOption5"};
+constexpr IdentificationNames kNames{{"Text1(6)"}, {"Text1(5)"}, {"Text1(4)"}, "SSOption5"};
 
 // The indexes of the boxes with numbers.
 constexpr int kExertionMinutes = 0;
@@ -36,12 +36,11 @@ QString NumberText(const TaggedField& field) { return QString::fromStdString(fie
 }  // namespace
 
 FrmSI::FrmSI(QWidget* parent) : ToolForm(Tool::StrainIndex, "frmSI", kNames, parent) {
-  SSTab1_ = new QTabWidget(this);
-  SSTab1_->setObjectName("SSTab1");
+  SSTab1_ = new TabStrip("SSTab1", this);
   SSTab1_->addTab(MakeInputTab(), " Task Information");
   SSTab1_->addTab(&RichTextBox1(), "Strain Index");
   body().addWidget(SSTab1_);
-  connect(SSTab1_, &QTabWidget::currentChanged, this, &FrmSI::SSTab1_Click);
+  connect(SSTab1_, &TabStrip::tabClicked, this, &FrmSI::SSTab1_Click);
 }
 
 QWidget* FrmSI::MakeInputTab() {
@@ -170,7 +169,8 @@ void FrmSI::SSRibbon_Click(SiRibbonArray array, int index) {
 
 void FrmSI::Text1_KeyUp(int index) {
   Module1.JobDirty = kTrue;
-  const double number = ReadsAs(Text1_.at(static_cast<std::size_t>(index))->text().toStdString());
+  const TextBox& box = *Text1_.at(static_cast<std::size_t>(index));
+  const double number = TypedNumber(box.text().toStdString());
   switch (index) {
     case kExertionMinutes: Module1.SiExertionMinutes = number; break;
     case kDutyObservationMinutes: Module1.SiDutyObservationMinutes = number; break;

@@ -6,11 +6,10 @@
 #include "shell/tool_form.h"
 #include "tools/strain_index/si_controls.h"
 
-class QTabWidget;
-
 namespace halvane {
 
 class RibbonButton;
+class TabStrip;
 class TextBox;
 
 /// The screen of the Strain Index tool.
@@ -38,7 +37,7 @@ class FrmSI : public ToolForm {
   void ShowControls();
 
   SiControls controls_;
-  QTabWidget* SSTab1_;
+  TabStrip* SSTab1_;
   std::array<TextBox*, 9> Text1_{};  ///< the boxes with numbers, at their own indexes
   std::array<std::vector<RibbonButton*>, 3> ribbons_;
 };

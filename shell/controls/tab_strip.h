@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QTabWidget>
+
+namespace halvane {
+
+/// The tabs of a form. Tells of every click on a tab, also on the one that is showing, so that a
+/// report can be written again where it stands. The mouse wheel does not change tabs.
+class TabStrip : public QTabWidget {
+  Q_OBJECT
+ public:
+  TabStrip(const QString& name, QWidget* parent);
+
+ signals:
+  /// The user chose a tab, or the program did.
+  void tabClicked(int tab);
+};
+
+}  // namespace halvane
