@@ -44,7 +44,7 @@ def leave_the_menu(desktop, program):
     run_ = Program(desktop, program)
     for tool in (OCRA, CTD):
         run_.open(tool)
-        for keys in (("alt+f", "Escape", "Escape"), ("alt+h", "Escape", "Escape"), ("F10", "Escape")):
+        for keys in (("alt+f", "Escape", "Escape"), ("alt+h", "Escape", "Escape")):
             for key in keys:
                 desktop.keys(key)
         run_.leave()

@@ -120,9 +120,12 @@ class BoxList {
 
 using Field = std::optional<TaggedField>;
 
-/// A computation that needs a duration above 0 leaves 0 for one below; its box stays as typed.
+/// The CTD computation leaves 0 for a duration below 0 and for the value that it guards its
+/// divisions with, which is wanted; the box stays as typed.
 QString WrongDuration(const TextBox& box, const TaggedField& field) {
-  if (field.AsDouble() == 0 && ReadsAsOrZero(box.text()) <= 0) return {};
+  constexpr double kGuard = 0.01;
+  const double shown = ReadsAsOrZero(box.text());
+  if (field.AsDouble() == 0 && (shown <= 0 || shown == kGuard)) return {};
   return WrongNumber(box, field);
 }
 
@@ -149,7 +152,8 @@ void AddCtdBoxes(BoxList& list, const TaskTree* tree) {
   };
   list.Add("Text2(0)", WrongDuration, [] { return Module1.JobDurationPerDay; });
   list.Add("Text2(1)", WrongDuration, [] { return TaggedField(Module1.JobCycleTime); });
-  list.Add("Text1(2)", WrongNumber, ofTask([](int task) { return Module1.CtdWorkTime.at(task); }));
+  list.Add("Text1(2)", WrongDuration,
+           ofTask([](int task) { return Module1.CtdWorkTime.at(task); }));
   list.Add("Text1(5)", WrongNumber,
            ofTask([](int task) { return Module1.CtdRepetitions.at(task); }));
   list.Add("Text1(6)", WrongNumber, ofTask([](int task) { return Module1.CtdHandSpan.at(task); }));

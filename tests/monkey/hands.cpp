@@ -79,12 +79,22 @@ QWidget* Hands::KeyTarget() {
   return QApplication::focusWidget();
 }
 
+bool Hands::IsDown(const Key& key) const {
+  return std::any_of(held_.begin(), held_.end(),
+                     [&](const HeldKey& held) { return held.key.code == key.code; });
+}
+
 void Hands::Press(const Key& key) {
+  // A key that is down goes down again only after it came up.
+  if (IsDown(key)) return;
   QWindow* window = QGuiApplication::focusWindow();
   if (window == nullptr) return;
   QWidget* target =
       QApplication::activePopupWidget() == nullptr ? QApplication::focusWidget() : nullptr;
   held_.push_back({key, target, showing_});
+  // The letter of a menu or a button never comes to what has the focus.
+  const bool isShortcut = key.modifiers == Qt::AltModifier && key.code != Qt::Key_Alt;
+  held_.back().wasLeft = isShortcut;
   qt_handleKeyEvent(window, QEvent::KeyPress, key.code, key.modifiers, key.text);
   Settle();
 }

@@ -37,6 +37,8 @@ class Hands {
   /// Number of the showing of the form that goes on, for `HeldKey`.
   void SetShowing(int showing) { showing_ = showing; }
 
+  [[nodiscard]] bool IsDown(const Key& key) const;
+  /// Nothing happens for a key that is down already.
   void Press(const Key& key);
   /// Releases the key at a place of `held()`.
   void Release(std::size_t place);

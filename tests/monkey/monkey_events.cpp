@@ -144,15 +144,15 @@ void Monkey::TypeText() {
   const QWidget* target = Hands::KeyTarget();
   trace_.Add(QString("type '%1' in %2").arg(text, target ? NameOf(*target) : "nothing"));
   for (const QChar letter : text) {
-    const bool overlaps = dice_.OneIn(4);
-    hands_.Press(KeyOf(letter));
+    const Key next = KeyOf(letter);
     // A fast typist has the next key down before this one is up.
-    while (hands_.held().size() > (overlaps ? 1U : 0U)) {
+    while (hands_.held().size() > (dice_.OneIn(4) ? 1U : 0U) || hands_.IsDown(next)) {
       const Before before = LookBefore();
       const HeldKey key = hands_.held().front();
       hands_.Release(0);
       LookAtRelease(before, key);
     }
+    hands_.Press(next);
     if (failure_ || closedWith_) return;
   }
 }
@@ -307,6 +307,7 @@ void Monkey::StandDialog(QWidget* parent) {
     dialog.show();
     dialog.activateWindow();
     Hands::Settle();
+    hands_.LeaveHeldKeys();
     // The key that answers is often still down when the dialog is gone.
     while (!hands_.held().empty() && !dice_.OneIn(3)) hands_.Release(0);
     if (dice_.OneIn(2)) hands_.Press(dice_.OneIn(2) ? kKeys[2] : kKeys[21]);

@@ -52,6 +52,10 @@ void Monkey::LookAtFocus(const QPointer<QWidget>& focusBefore) {
     return;
   for (const HeldKey& key : hands_.held()) {
     if (key.wasLeft || key.showing != showing_ || key.pressedIn != focusBefore) continue;
+    // A modifier by itself types nothing that could be lost.
+    if (key.key.text.isEmpty() && key.key.modifiers != Qt::NoModifier) continue;
+    // A Tab counts in the box that it reaches.
+    if (key.key.text == "\t") continue;
     Stored(focusBefore, " after the focus left it with a key down");
   }
   hands_.LeaveHeldKeys();
