@@ -1,11 +1,10 @@
-#include <fcntl.h>
 #include <pwd.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <cerrno>
 #include <cstdlib>
 
+#include "core/file_calls.h"
 #include "core/user_folders.h"
 
 namespace halvane {
@@ -24,15 +23,7 @@ std::string NamedFolder(const char* variable) {
 
 bool IsFolder(const std::string& path) {
   struct stat status {};
-  return stat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
-}
-
-/// Brings the names in a folder to the disk, as far as its file system does that.
-void SyncNamesIn(const std::string& folder) {
-  const int descriptor = open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-  if (descriptor < 0) return;
-  fsync(descriptor);
-  close(descriptor);
+  return files::StatusOf(path, status) && S_ISDIR(status.st_mode);
 }
 
 }  // namespace
@@ -65,11 +56,10 @@ bool MakeFolder(const std::string& path) {
   const std::size_t slash = path.rfind('/');
   const std::string parent = slash == std::string::npos ? "." : path.substr(0, slash);
   if (slash != std::string::npos && slash > 0 && !MakeFolder(parent)) return false;
-  while (mkdir(path.c_str(), kForTheUserAlone) != 0) {
-    // Another program may have made it meanwhile.
-    if (errno != EINTR) return IsFolder(path);
-  }
-  SyncNamesIn(parent.empty() ? "/" : parent);
+  const auto make = [&path] { return mkdir(path.c_str(), kForTheUserAlone); };
+  // Another program may have made it meanwhile.
+  if (files::Again(make) != 0) return IsFolder(path);
+  files::SyncFolder(parent.empty() ? "/" : parent);
   return true;
 }
 

@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
-#include <cstdlib>
 #include <optional>
 #include <string>
 
@@ -12,56 +11,32 @@
 namespace halvane {
 namespace {
 
-/// A variable of the environment with another value, or without one, while it lives.
-class Variable {
- public:
-  Variable(const char* name, const std::optional<std::string>& value) : name_(name) {
-    if (const char* before = std::getenv(name)) before_ = before;
-    Set(value);
-  }
-  ~Variable() { Set(before_); }
-  Variable(const Variable&) = delete;
-  Variable& operator=(const Variable&) = delete;
-
- private:
-  void Set(const std::optional<std::string>& value) {
-    if (value) {
-      setenv(name_, value->c_str(), 1);
-    } else {
-      unsetenv(name_);
-    }
-  }
-
-  const char* name_;
-  std::optional<std::string> before_;
-};
-
 TEST(UserFolders, StateStandsWhereTheDesktopSays) {
-  const Variable state("XDG_STATE_HOME", "/srv/state/");
+  const EnvironmentVariable state("XDG_STATE_HOME", "/srv/state/");
   EXPECT_EQ(StateFolder(), "/srv/state/halvane-tools");
 }
 
 TEST(UserFolders, StateStandsInTheHomeFolderWhereTheDesktopSaysNothing) {
-  const Variable home("HOME", "/srv/anna");
+  const EnvironmentVariable home("HOME", "/srv/anna");
   for (const std::optional<std::string>& value :
        {std::optional<std::string>(), std::optional<std::string>(""),
         std::optional<std::string>("state")}) {
-    const Variable state("XDG_STATE_HOME", value);
+    const EnvironmentVariable state("XDG_STATE_HOME", value);
     EXPECT_EQ(StateFolder(), "/srv/anna/.local/state/halvane-tools");
   }
 }
 
 TEST(UserFolders, HomeThatTheEnvironmentDoesNotNameIsTheOneOfTheAccount) {
-  const Variable home("HOME", std::nullopt);
+  const EnvironmentVariable home("HOME", std::nullopt);
   EXPECT_EQ(HomeFolder().substr(0, 1), "/");
 }
 
 TEST(UserFolders, TemporaryFolderIsTheNamedOneElseTheSystems) {
   {
-    const Variable named("TMPDIR", "/srv/tmp");
+    const EnvironmentVariable named("TMPDIR", "/srv/tmp");
     EXPECT_EQ(SystemTemporaryFolder(), "/srv/tmp");
   }
-  const Variable none("TMPDIR", std::nullopt);
+  const EnvironmentVariable none("TMPDIR", std::nullopt);
   EXPECT_EQ(SystemTemporaryFolder(), "/tmp");
 }
 
