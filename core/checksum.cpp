@@ -20,9 +20,8 @@ void Checksum::Add(std::string_view bytes) {
 std::string Checksum::Text() const {
   std::string text(kChecksumDigits, '0');
   std::uint64_t rest = value_;
-  for (auto digit = text.rbegin(); digit != text.rend(); ++digit) {
-    *digit = kDigits[rest % kDigits.size()];
-    rest /= kDigits.size();
+  for (std::size_t i = text.size(); i-- > 0; rest /= kDigits.size()) {
+    text[i] = kDigits[rest % kDigits.size()];
   }
   return text;
 }

@@ -128,11 +128,11 @@ bool FileReplacement::IsStillThere() const {
 void FileReplacement::OpenPart() {
   // Names of folders end so, and none of them can be made by writing a file.
   if (FileNameOf(target_).empty()) files::Fail(path_, path_.empty() ? ENOENT : EISDIR);
-  const std::string folder(FolderOf(target_));
   const std::string end = "." + PassingMark(target_) + std::string(kPartEnd);
   int error = 0;
   for (const std::string& name : NamesBeside(target_)) {
-    const std::string part = folder + name + end;
+    std::string part(FolderOf(target_));
+    part.append(name).append(end);
     file_.Reset(files::Open(part, O_WRONLY | O_CREAT | O_EXCL, kNewFileMode));
     error = errno;
     if (!file_.isOpen()) continue;
