@@ -24,6 +24,12 @@ std::function<int(int descriptor)>& OnSync() {
   return action;
 }
 
+/// What a test does before the program locks a file.
+std::function<void()>& OnLock() {
+  static std::function<void()> action;
+  return action;
+}
+
 }  // namespace
 
 /// Takes the place of the system's own, so that a test can look at the folder while a save is under
@@ -32,6 +38,11 @@ extern "C" int fsync(int descriptor) {
   if (!OnSync()) return static_cast<int>(syscall(SYS_fsync, descriptor));
   errno = OnSync()(descriptor);
   return errno == 0 ? 0 : -1;
+}
+
+extern "C" int flock(int descriptor, int operation) {
+  if (OnLock()) OnLock()();
+  return static_cast<int>(syscall(SYS_flock, descriptor, operation));
 }
 
 namespace halvane {
@@ -54,7 +65,10 @@ void Replace(const std::string& path, std::string_view bytes) {
 
 class FileReplacementTest : public testing::Test {
  protected:
-  void TearDown() override { OnSync() = nullptr; }
+  void TearDown() override {
+    OnSync() = nullptr;
+    OnLock() = nullptr;
+  }
 
   /// Calls `action` when the job's file itself is brought to the disk.
   void AtTheSyncOfTheJob(const std::function<int()>& action) {
@@ -333,6 +347,27 @@ TEST_F(FileReplacementTest, FileThatAnotherProgramKeepsLockedIsNotWritten) {
   EXPECT_EQ(MessageOf([this] { FileReplacement file(path_); }),
             "File error: " + path_ + ": another program is using it. Nothing was written");
   EXPECT_EQ(BytesOf(path_), "old");
+  EXPECT_EQ(folder_.Names(), "job.qjt");
+}
+
+TEST_F(FileReplacementTest, FileThatIsReplacedWhileItsTurnIsAwaitedIsOpenedAgain) {
+  WriteBytes(path_, "old");
+  const std::string other = folder_.File("other");
+  WriteBytes(other, "of another program");
+  const ino_t inode = StatusOf(other).st_ino;
+  OnLock() = [&] {
+    if (Exists(other)) std::filesystem::rename(other, path_);
+  };
+  Replace(path_, "new");
+  EXPECT_EQ(BytesOf(path_), "new");
+  EXPECT_EQ(StatusOf(path_).st_ino, inode);
+}
+
+TEST_F(FileReplacementTest, FileThatIsRemovedWhileItsTurnIsAwaitedIsMadeAgain) {
+  WriteBytes(path_, "old");
+  OnLock() = [this] { std::filesystem::remove(path_); };
+  Replace(path_, "new");
+  EXPECT_EQ(BytesOf(path_), "new");
   EXPECT_EQ(folder_.Names(), "job.qjt");
 }
 
