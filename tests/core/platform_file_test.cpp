@@ -127,6 +127,8 @@ class SmallDisk : public testing::Test {
   }
 
   const TemporaryFolder folder_;
+  const TemporaryFolder elsewhere_;
+  const EnvironmentVariable state_{"XDG_STATE_HOME", elsewhere_.path()};
   const std::string path_ = folder_.File("job.qjt");
   bool mounted_ = false;
 };
@@ -154,6 +156,8 @@ TEST_F(SmallDisk, JobThatFitsInPlaceOfTheOldOneIsSavedWhereNoCopyFits) {
   EXPECT_EQ(FailureOf(WriteJobFile), "none");
   EXPECT_EQ(BytesOf(path_), JobFileBytes(Module1));
   EXPECT_EQ(folder_.Names(), "job.qjt");
+  // The copy was there.
+  EXPECT_EQ(elsewhere_.Names(), "halvane-tools");
 }
 
 TEST_F(SmallDisk, JobThatFitsInPlaceOfTheOldOneIsSavedWhereNoPlaceTakesACopy) {
