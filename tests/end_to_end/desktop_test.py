@@ -92,7 +92,9 @@ def describe_a_job(desktop, program, data):
     wait_until(lambda: process.poll() is not None, "the end of the program")
     assert process.returncode == 0, process.returncode
     assert content_of(path) == content_of(os.path.join(data, "expected.qjt")), content_of(path)
-    assert not os.path.exists(path + ".previous")
+    folder, name = os.path.split(path)
+    beside = [other for other in os.listdir(folder) if other.startswith(name + ".")]
+    assert not beside, beside
 
 
 def share_a_task(desktop, program, _data):
