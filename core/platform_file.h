@@ -60,8 +60,9 @@ class FileReplacement {
   bool isRegular_ = true;
 };
 
-/// Writes a new file and brings it to the disk; false, with nothing done, when `path` is taken. Any
-/// other failure is a `RuntimeFailure` of kind `FileError`; a part of the file may then be there.
+/// Writes a new file for the writer's eyes alone and brings it to the disk; false, with nothing
+/// done, when `path` is taken. Any other failure is a `RuntimeFailure` of kind `FileError`, and the
+/// file is not there then.
 bool WriteNewFile(const std::string& path, std::string_view bytes);
 
 }  // namespace halvane

@@ -63,7 +63,9 @@ std::size_t ReadSome(int descriptor, char* buffer, std::size_t size, const std::
 }
 
 void Sync(int descriptor, const std::string& path) {
-  if (fsync(descriptor) != 0) Fail(path, errno);
+  while (fsync(descriptor) != 0) {
+    if (errno != EINTR) Fail(path, errno);
+  }
 }
 
 /// Brings names made or removed in the folder of `path` to the disk. A file system that cannot do
@@ -201,12 +203,21 @@ void FileReplacement::Commit() {
 }
 
 bool WriteNewFile(const std::string& path, std::string_view bytes) {
-  const Descriptor file(Open(path, O_WRONLY | O_CREAT | O_EXCL, kNewFileMode));
+  const Descriptor file(Open(path, O_WRONLY | O_CREAT | O_EXCL, S_IRUSR | S_IWUSR));
   if (file.get() < 0 && errno == EEXIST) return false;
   if (file.get() < 0) Fail(path, errno);
-  WriteAll(file.get(), bytes, path);
-  Sync(file.get(), path);
-  SyncFolderOf(path);
+  try {
+    WriteAll(file.get(), bytes, path);
+    Sync(file.get(), path);
+  } catch (const RuntimeFailure&) {
+    unlink(path.c_str());
+    throw;
+  }
+  try {
+    SyncFolderOf(path);
+  } catch (const RuntimeFailure&) {
+    // The content is whole on the disk, and its name follows with whatever the system writes next.
+  }
   return true;
 }
 

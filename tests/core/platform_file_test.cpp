@@ -305,6 +305,14 @@ TEST(WriteNewFileTest, TakenNameIsLeftAlone) {
   EXPECT_EQ(FailureOf([&] { WriteNewFile(folder.File("missing/c"), "new"); }), "FileError");
 }
 
+TEST(WriteNewFileTest, FileIsForTheWriterAlone) {
+  const TemporaryFolder folder;
+  const mode_t before = umask(0);
+  EXPECT_TRUE(WriteNewFile(folder.File("a"), "new"));
+  umask(before);
+  EXPECT_EQ(ModeOf(folder.File("a")), 0600U);
+}
+
 /// A disk of 64 KiB in a folder, seen by this test program alone.
 class SmallDisk : public testing::Test {
  protected:
@@ -343,6 +351,11 @@ TEST_F(SmallDisk, NoRoomForTheCopyOfTheOldJobLeavesItInPlace) {
   EXPECT_FALSE(Module1.JobFileOpen);
   EXPECT_EQ(BytesOf(path_), old);
   EXPECT_EQ(folder_.Names(), "job.qjt");
+}
+
+TEST_F(SmallDisk, NewFileThatDoesNotFitIsNotThere) {
+  EXPECT_EQ(FailureOf([&] { WriteNewFile(path_, std::string(100000, 'a')); }), "FileError");
+  EXPECT_EQ(folder_.Names(), "");
 }
 
 TEST_F(SmallDisk, RescueCopyGoesWhereThereIsRoom) {

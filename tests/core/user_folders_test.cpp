@@ -1,0 +1,88 @@
+#include "core/user_folders.h"
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+#include <cstdlib>
+#include <optional>
+#include <string>
+
+#include "tests/core/test_support.h"
+
+namespace halvane {
+namespace {
+
+/// A variable of the environment with another value, or without one, while it lives.
+class Variable {
+ public:
+  Variable(const char* name, const std::optional<std::string>& value) : name_(name) {
+    if (const char* before = std::getenv(name)) before_ = before;
+    Set(value);
+  }
+  ~Variable() { Set(before_); }
+  Variable(const Variable&) = delete;
+  Variable& operator=(const Variable&) = delete;
+
+ private:
+  void Set(const std::optional<std::string>& value) {
+    if (value) {
+      setenv(name_, value->c_str(), 1);
+    } else {
+      unsetenv(name_);
+    }
+  }
+
+  const char* name_;
+  std::optional<std::string> before_;
+};
+
+TEST(UserFolders, StateStandsWhereTheDesktopSays) {
+  const Variable state("XDG_STATE_HOME", "/srv/state/");
+  EXPECT_EQ(StateFolder(), "/srv/state/halvane-tools");
+}
+
+TEST(UserFolders, StateStandsInTheHomeFolderWhereTheDesktopSaysNothing) {
+  const Variable home("HOME", "/srv/anna");
+  for (const std::optional<std::string>& value :
+       {std::optional<std::string>(), std::optional<std::string>(""),
+        std::optional<std::string>("state")}) {
+    const Variable state("XDG_STATE_HOME", value);
+    EXPECT_EQ(StateFolder(), "/srv/anna/.local/state/halvane-tools");
+  }
+}
+
+TEST(UserFolders, HomeThatTheEnvironmentDoesNotNameIsTheOneOfTheAccount) {
+  const Variable home("HOME", std::nullopt);
+  EXPECT_EQ(HomeFolder().substr(0, 1), "/");
+}
+
+TEST(UserFolders, TemporaryFolderIsTheNamedOneElseTheSystems) {
+  {
+    const Variable named("TMPDIR", "/srv/tmp");
+    EXPECT_EQ(SystemTemporaryFolder(), "/srv/tmp");
+  }
+  const Variable none("TMPDIR", std::nullopt);
+  EXPECT_EQ(SystemTemporaryFolder(), "/tmp");
+}
+
+TEST(UserFolders, FolderIsMadeWithThoseAboveItForTheUserAlone) {
+  const TemporaryFolder folder;
+  EXPECT_TRUE(MakeFolder(folder.File("a/b/c")));
+  EXPECT_TRUE(MakeFolder(folder.File("a/b/c")));
+  for (const char* name : {"a", "a/b", "a/b/c"}) {
+    struct stat status {};
+    ASSERT_EQ(stat(folder.File(name).c_str(), &status), 0) << name;
+    EXPECT_EQ(status.st_mode & 07777U, 0700U) << name;
+  }
+}
+
+TEST(UserFolders, FolderThatCannotBeMadeIsTold) {
+  const TemporaryFolder folder;
+  WriteBytes(folder.File("file"), "");
+  EXPECT_FALSE(MakeFolder(folder.File("file")));
+  EXPECT_FALSE(MakeFolder(folder.File("file/a")));
+  EXPECT_FALSE(MakeFolder(""));
+}
+
+}  // namespace
+}  // namespace halvane
