@@ -361,7 +361,8 @@ TEST_F(SmallDisk, NewFileThatDoesNotFitIsNotThere) {
 TEST_F(SmallDisk, RescueCopyGoesWhereThereIsRoom) {
   const TemporaryFolder roomy;
   Module1.JobAnalyst = std::string(100000, 'a');
-  EXPECT_EQ(WriteRescueCopy(roomy.path()), roomy.File("job.rescue.qjt"));
+  EXPECT_EQ(WriteRescueCopy(path_, JobFileBytes(Module1), {roomy.path()}),
+            roomy.File("job.rescue.qjt"));
   EXPECT_EQ(BytesOf(roomy.File("job.rescue.qjt")), JobFileBytes(Module1));
 }
 
