@@ -157,7 +157,8 @@ void KeepLeftJournals(const std::string& folder,
                       const std::function<bool(const JournalEntry&)>& keep) {
   if (folder.empty()) return;
   for (const std::string& name : NamesIn(folder)) {
-    const std::string path = folder + '/' + name;
+    std::string path = folder;
+    path.append("/").append(name);
     const bool isPart = name.ends_with(kPartEnd);
     if (!isPart && !IsJournalName(name)) continue;
     const LeftFile file(path);

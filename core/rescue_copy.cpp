@@ -1,7 +1,7 @@
 #include "core/rescue_copy.h"
 
 #include <algorithm>
-#include <cstdint>
+#include <exception>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -151,17 +151,18 @@ std::string WriteRescueCopy(const std::string& jobFile, const std::string& bytes
   for (const Place& place : places) {
     if (auto equal = FindEqual(place, name, bytes)) return *equal;
   }
-  RuntimeFailure failure(FailureKind::FileError);
+  std::exception_ptr last;
   for (const Place& place : places) {
     // The job's own folder is not made anew where somebody has removed it.
     if (&place != &places.front() || jobFile.empty()) MakeFolder(place.folder);
     try {
       return WriteUnderFreeName(place, name, bytes);
-    } catch (const RuntimeFailure& here) {
-      failure = here;
+    } catch (const RuntimeFailure&) {
+      last = std::current_exception();
     }
   }
-  throw failure;
+  if (last) std::rethrow_exception(last);
+  throw RuntimeFailure(FailureKind::FileError);
 }
 
 }  // namespace halvane
