@@ -20,6 +20,8 @@ void TestThatNoFileIsOpen() {
 /// and REBA set them again when they load.
 void PrepareRead() {
   Module1.JobDirty = kFalse;
+  // Until all of it is read.
+  Module1.JobInNoFile = true;
   Module1.RebaUpperArmFactors.fill(0);
   Module1.RebaWristFactors.fill(0);
   Module1.RebaNeckFactors.fill(0);
@@ -52,6 +54,7 @@ void ReadFields(std::string_view text) {
     throw reader.FailureAtNextField(failure.kind(), {"CtdLoadHeld", kHighestTask + 1, 0});
   }
   Module1.JobFileOpen = false;
+  Module1.JobInNoFile = false;
 }
 
 /// Sizes the per-task arrays for the count that `reader` has just read.
@@ -74,6 +77,9 @@ void SizeTaskArrays(const JobTextReader& reader) {
 }  // namespace
 
 void WriteJobFile() {
+  // Until the whole file is written. A cancelled dialog gives no name, and a save that was not even
+  // tried takes nothing away from a job that is as it was saved.
+  if (!Module1.JobFileName.empty() || Module1.JobDirty != kFalse) Module1.JobInNoFile = true;
   Module1.JobDirty = kFalse;
   TestThatNoFileIsOpen();
   // All of the text before anything of the old file changes.
@@ -90,6 +96,7 @@ void WriteJobFile() {
   if (failure) FailBehindItsLines(*failure, file.WriteIncomplete(bytes));
   file.Write(bytes);
   Module1.JobFileOpen = false;
+  Module1.JobInNoFile = false;
 }
 
 void ReadJobFile() {

@@ -182,10 +182,11 @@ TEST_F(JobFileFailure, WrongNumberInATaskTellsTaskAndSlot) {
 
 TEST_F(JobFileFailure, FileLeftOpenMakesEveryLaterUseFail) {
   EXPECT_EQ(OpenFailure("\"qjt\",1"), "InputPastEnd");
-  const JobState before = Module1;
+  JobState before = Module1;
   EXPECT_EQ(OpenFailure(EmptyJobText()), "FileAlreadyOpen");
   EXPECT_EQ(Module1, before);
 
+  before.JobInNoFile = true;
   Module1.JobDirty = kTrue;
   Module1.RulaNeckFactors.fill(1);
   EXPECT_EQ(FailureOf(ReadJobFile), "FileAlreadyOpen");

@@ -175,10 +175,16 @@ TEST_F(SmallDisk, NewFileThatDoesNotFitIsNotThere) {
   EXPECT_EQ(folder_.Names(), "");
 }
 
+TEST_F(SmallDisk, NewFileThatDoesNotFitIsNotThere) {
+  EXPECT_EQ(FailureOf([&] { WriteNewFile(path_, std::string(100000, 'a')); }), "FileError");
+  EXPECT_EQ(folder_.Names(), "");
+}
+
 TEST_F(SmallDisk, RescueCopyGoesWhereThereIsRoom) {
   const TemporaryFolder roomy;
   Module1.JobAnalyst = std::string(100000, 'a');
-  EXPECT_EQ(WriteRescueCopy(roomy.path()), roomy.File("job.rescue.qjt"));
+  EXPECT_EQ(WriteRescueCopy(path_, JobFileBytes(Module1), {roomy.path()}),
+            roomy.File("job.rescue.qjt"));
   EXPECT_EQ(BytesOf(roomy.File("job.rescue.qjt")), JobFileBytes(Module1));
 }
 
