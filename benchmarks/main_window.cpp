@@ -9,5 +9,6 @@ int main(int argc, char** argv) {
   halvane::FrmHandMain window;
   const halvane::FirstPaint firstPaint(window);
   window.show();
-  return halvane::HalvaneApplication::exec();
+  application.WatchOverJob();
+  return application.Run();
 }

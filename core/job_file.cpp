@@ -1,5 +1,7 @@
 #include "core/job_file.h"
 
+#include <optional>
+
 #include "core/job_fields.h"
 #include "core/job_text_encoding.h"
 #include "core/job_text_reader.h"
@@ -18,6 +20,8 @@ void TestThatNoFileIsOpen() {
 /// and REBA set them again when they load.
 void PrepareRead() {
   Module1.JobDirty = kFalse;
+  // Until all of it is read.
+  Module1.JobInNoFile = true;
   Module1.RebaUpperArmFactors.fill(0);
   Module1.RebaWristFactors.fill(0);
   Module1.RebaNeckFactors.fill(0);
@@ -50,6 +54,7 @@ void ReadFields(std::string_view text) {
     throw reader.FailureAtNextField(failure.kind(), {"CtdLoadHeld", kHighestTask + 1, 0});
   }
   Module1.JobFileOpen = false;
+  Module1.JobInNoFile = false;
 }
 
 /// Sizes the per-task arrays for the count that `reader` has just read.
@@ -61,24 +66,37 @@ void SizeTaskArrays(const JobTextReader& reader) {
   }
 }
 
+/// Fails a save whose file has the lines before the failure. `old` is where the old job stands.
+[[noreturn]] void FailBehindItsLines(FailureKind kind, const std::string& old) {
+  const std::string& path = Module1.JobFileName;
+  const std::string lines = path + " could not be written whole";
+  if (old.empty()) throw RuntimeFailure(kind, lines);
+  throw RuntimeFailure(kind, lines + ". " + old + " holds the job as it was before");
+}
+
 }  // namespace
 
 void WriteJobFile() {
+  // Until the whole file is written. A cancelled dialog gives no name, and a save that was not even
+  // tried takes nothing away from a job that is as it was saved.
+  if (!Module1.JobFileName.empty() || Module1.JobDirty != kFalse) Module1.JobInNoFile = true;
   Module1.JobDirty = kFalse;
   TestThatNoFileIsOpen();
-  FileReplacement file(Module1.JobFileName);
-  Module1.JobFileOpen = true;
+  // All of the text before anything of the old file changes.
   JobTextWriter writer;
+  std::optional<FailureKind> failure;
   try {
     VisitJobFields(Module1, writer);
-  } catch (const RuntimeFailure&) {
-    // The lines before the one that failed stand in the file.
-    file.Write(EncodeJobText(writer.text()));
-    throw;
+  } catch (const RuntimeFailure& thrown) {
+    failure = thrown.kind();
   }
-  file.Write(EncodeJobText(writer.text()));
-  file.Commit();
+  const std::string bytes = EncodeJobText(writer.text());
+  FileReplacement file(Module1.JobFileName);
+  Module1.JobFileOpen = true;
+  if (failure) FailBehindItsLines(*failure, file.WriteIncomplete(bytes));
+  file.Write(bytes);
   Module1.JobFileOpen = false;
+  Module1.JobInNoFile = false;
 }
 
 void ReadJobFile() {

@@ -58,6 +58,7 @@ FixedArray<Integer, 14> JobState::AllThree() {
 
 void JobReset() {
   Module1.JobFileName.clear();
+  Module1.JobInNoFile = false;
   Module1.JobDurationPerDay = Integer{8};
   Module1.JobAnalyst = "";
   Module1.JobName = "";

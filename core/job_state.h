@@ -21,8 +21,11 @@ inline constexpr int kPostureSlots = 8;
 /// with no other word are saved in the job file.
 struct JobState {
   // The job itself.
-  std::string JobFileName;      ///< path; empty: never saved or opened; not saved
-  Integer JobDirty = kFalse;    ///< -1: unsaved changes; survives `JobReset`; not saved
+  std::string JobFileName;    ///< path; empty: never saved or opened; not saved
+  Integer JobDirty = kFalse;  ///< -1: unsaved changes; survives `JobReset`; not saved
+  /// A save or an open that failed has marked the job as saved, so that no whole file holds it; see
+  /// `NeedsRescue`. Not saved.
+  bool JobInNoFile = false;
   TaggedField JobAnalyst = "";  ///< text
   TaggedField JobName = "";     ///< text
   std::string JobWorkstationId;

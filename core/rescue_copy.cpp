@@ -1,60 +1,168 @@
 #include "core/rescue_copy.h"
 
 #include <algorithm>
-#include <string_view>
+#include <exception>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <optional>
 
+#include "core/file_name.h"
 #include "core/job_file.h"
 #include "core/platform_file.h"
 #include "core/runtime_failure.h"
+#include "core/user_folders.h"
 
 namespace halvane {
 namespace {
 
 constexpr std::string_view kExtension = ".qjt";
+constexpr std::string_view kRescueEnd = ".rescue.qjt";
 constexpr std::string_view kNameless = "Job";
-
-std::string_view FileNameOf(std::string_view path) { return path.substr(path.rfind('/') + 1); }
-
-std::string_view FolderOf(std::string_view path) { return path.substr(0, path.rfind('/') + 1); }
+/// A file system that takes no name of this length takes none.
+constexpr std::size_t kShortestTried = 32;
+/// Of the number of a copy.
+constexpr std::size_t kMostDigits = 6;
 
 /// The name of the job without its extension.
-std::string_view BaseName(std::string_view path) {
-  std::string_view name = FileNameOf(path);
+std::string_view BaseName(std::string_view name) {
   if (name.ends_with(kExtension)) name.remove_suffix(kExtension.size());
   return name.empty() ? kNameless : name;
 }
 
-/// Writes under the first name that is free: "<base>.rescue.qjt", "<base> (2).rescue.qjt" and so
-/// on.
-std::string WriteUnderFreeName(const std::string& base, const std::string& bytes) {
+/// The number in the name of a copy; 0 where it is no such name.
+int NumberIn(std::string_view name) {
+  if (!name.ends_with(kRescueEnd)) return 0;
+  name.remove_suffix(kRescueEnd.size());
+  const std::size_t open = name.rfind(" (");
+  if (open == std::string_view::npos || !name.ends_with(')')) return 1;
+  const std::string_view digits = name.substr(open + 2, name.size() - open - 3);
+  if (digits.empty() || digits.size() > kMostDigits) return 1;
+  int number = 0;
+  for (const char digit : digits) {
+    if (digit < '0' || digit > '9') return 1;
+    number = number * 10 + (digit - '0');
+  }
+  // The first copy has none.
+  return number > 1 ? number : 1;
+}
+
+bool IsNameOfCopy(std::string_view name, std::string_view jobFileName, std::size_t longest) {
+  const int number = NumberIn(name);
+  // The job's own name may end in such a number.
+  return number > 0 && (name == RescueName(jobFileName, number, longest) ||
+                        name == RescueName(jobFileName, 1, longest));
+}
+
+/// A place for a copy: a folder with a slash behind it (empty: the current one), and how long names
+/// may be in it.
+struct Place {
+  std::string folder;
+  std::size_t longest = kLongestFileName;
+};
+
+/// Whether a file system takes no such name; one that has a shorter limit than others says so of a
+/// file that is not there, too.
+bool IsTooLong(const std::string& path) {
+  std::error_code error;
+  const auto status = std::filesystem::symlink_status(path, error);
+  return !std::filesystem::exists(status) && error == std::errc::filename_too_long;
+}
+
+Place PlaceIn(std::string folder, std::string_view jobFileName) {
+  Place place{std::move(folder)};
+  while (place.longest > kShortestTried &&
+         IsTooLong(place.folder + RescueName(jobFileName, 1, place.longest))) {
+    place.longest = std::max(kShortestTried, place.longest * 3 / 4);
+  }
+  return place;
+}
+
+std::string WithSlash(std::string folder) {
+  if (!folder.ends_with('/')) folder += '/';
+  return folder;
+}
+
+bool HasBytes(const std::string& path, const std::string& bytes) {
+  std::error_code error;
+  // A link may lead to a file that somebody changes meanwhile.
+  if (!std::filesystem::is_regular_file(std::filesystem::symlink_status(path, error))) return false;
+  if (std::filesystem::file_size(path, error) != bytes.size() || error) return false;
+  std::ifstream file(path, std::ios::binary);
+  return std::string(std::istreambuf_iterator<char>(file), {}) == bytes;
+}
+
+/// The copy with these bytes that stands in a place already. Copies are looked for by what their
+/// names may be: somebody may have removed one with a lower number.
+std::optional<std::string> FindEqual(const Place& place, std::string_view jobFileName,
+                                     const std::string& bytes) {
+  std::vector<std::string> found;
+  std::error_code error;
+  const std::string folder = place.folder.empty() ? "." : place.folder;
+  for (std::filesystem::directory_iterator entry(folder, error), end; !error && entry != end;
+       entry.increment(error)) {
+    const std::string name = entry->path().filename().string();
+    if (IsNameOfCopy(name, jobFileName, place.longest) && HasBytes(place.folder + name, bytes)) {
+      found.push_back(place.folder + name);
+    }
+  }
+  if (found.empty()) return std::nullopt;
+  return *std::ranges::min_element(found);
+}
+
+/// Writes under the first name that is free.
+std::string WriteUnderFreeName(const Place& place, std::string_view jobFileName,
+                               const std::string& bytes) {
   for (int number = 1;; ++number) {
-    const std::string counter = number == 1 ? "" : " (" + std::to_string(number) + ")";
-    const std::string path = base + counter + ".rescue" + std::string(kExtension);
+    const std::string path = place.folder + RescueName(jobFileName, number, place.longest);
     if (WriteNewFile(path, bytes)) return path;
   }
 }
 
-/// The job with as many of its tasks as a file can hold. The count comes from the arrays, since the
-/// failure may be that `TaskCount` is none.
-std::string StorableBytes() {
-  JobState job = Module1;
-  job.TaskCount = ToInteger(std::min(kHighestTask, job.TaskNames.upperBound()));
-  return JobFileBytes(job);
-}
-
 }  // namespace
 
-std::string WriteRescueCopy(const std::string& fallbackFolder) {
-  const std::string bytes = StorableBytes();
-  const std::string name(BaseName(Module1.JobFileName));
-  if (!Module1.JobFileName.empty()) {
+bool NeedsRescue(const JobState& job) { return job.JobDirty != kFalse || job.JobInNoFile; }
+
+std::string RescueBytes(const JobState& job) {
+  JobState storable = job;
+  // From the arrays, since the failure may be that `TaskCount` is none.
+  storable.TaskCount = ToInteger(std::min(kHighestTask, job.TaskNames.upperBound()));
+  return JobFileBytes(storable);
+}
+
+std::string RescueName(std::string_view jobFileName, int number, std::size_t longest) {
+  const std::string counter = number == 1 ? "" : " (" + std::to_string(number) + ")";
+  const std::string end = counter + std::string(kRescueEnd);
+  return std::string(ShortenedName(BaseName(jobFileName), longest - end.size())) + end;
+}
+
+bool IsRescueName(std::string_view name, std::string_view jobFileName) {
+  return IsNameOfCopy(name, jobFileName, kLongestFileName);
+}
+
+std::string WriteRescueCopy(const std::string& jobFile, const std::string& bytes,
+                            const std::vector<std::string>& folders) {
+  const std::string_view name = FileNameOf(jobFile);
+  std::vector<Place> places;
+  if (!jobFile.empty()) places.push_back(PlaceIn(std::string(FolderOf(jobFile)), name));
+  for (const std::string& folder : folders) {
+    if (!folder.empty()) places.push_back(PlaceIn(WithSlash(folder), name));
+  }
+  for (const Place& place : places) {
+    if (auto equal = FindEqual(place, name, bytes)) return *equal;
+  }
+  std::exception_ptr last;
+  for (const Place& place : places) {
+    // The job's own folder is not made anew where somebody has removed it.
+    if (&place != &places.front() || jobFile.empty()) MakeFolder(place.folder);
     try {
-      return WriteUnderFreeName(std::string(FolderOf(Module1.JobFileName)) + name, bytes);
+      return WriteUnderFreeName(place, name, bytes);
     } catch (const RuntimeFailure&) {
-      // A folder that takes no file: the fallback does.
+      last = std::current_exception();
     }
   }
-  return WriteUnderFreeName(fallbackFolder + "/" + name, bytes);
+  if (last) std::rethrow_exception(last);
+  throw RuntimeFailure(FailureKind::FileError);
 }
 
 }  // namespace halvane

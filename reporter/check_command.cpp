@@ -21,7 +21,7 @@ std::string_view NameOf(JobVerdict verdict) {
 void AppendProblem(std::string& out, const JobProblem& problem) {
   out += "{\"warning\":";
   AppendJsonBoolean(out, problem.isWarning);
-  out += ",\"line\":" + PlainText(problem.line) + ",\"field\":";
+  out += ",\"line\":" + (problem.line > 0 ? PlainText(problem.line) : "null") + ",\"field\":";
   AppendJsonString(out, problem.field);
   out += ",\"found\":";
   AppendJsonString(out, problem.found);
@@ -34,10 +34,16 @@ void AppendProblem(std::string& out, const JobProblem& problem) {
 
 void AppendCheckText(std::string& out, std::string_view file, const JobCheck& check) {
   for (const JobProblem& problem : check.problems) {
-    out += PrintableText(file) + ":" + PlainText(problem.line) + ": ";
+    out += PrintableText(file) + ":";
+    if (problem.line > 0) out += PlainText(problem.line) + ":";
+    out += ' ';
     out += problem.isWarning ? "warning" : NameOf(check.verdict);
     if (!problem.field.empty()) out += ": " + problem.field;
-    if (!problem.found.empty()) out += ": \"" + PrintableText(ShownField(problem.found)) + "\"";
+    if (!problem.found.empty()) {
+      // The name of a file is of use when all of it is there.
+      const std::string found = problem.line > 0 ? ShownField(problem.found) : problem.found;
+      out += ": \"" + PrintableText(found) + "\"";
+    }
     out += ": " + PrintableText(problem.message);
     out += kPlatformLineEnd;
   }
@@ -61,7 +67,8 @@ void AppendCheckJson(std::string& out, std::string_view file, const JobCheck& ch
 }
 
 JobOutcome CheckCommand::Do(std::string& out, const std::string& file) {
-  const JobCheck check = CheckJobFile(file);
+  JobCheck check = CheckJobFile(file);
+  besideJob_.AppendTo(check.problems, file);
   if (format_ == ReportFormat::Json) {
     AppendCheckJson(out, file, check);
   } else {

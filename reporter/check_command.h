@@ -1,5 +1,6 @@
 #pragma once
 
+#include "reporter/beside_job.h"
 #include "reporter/job_check.h"
 #include "reporter/job_command.h"
 #include "reporter/report_writer.h"
@@ -10,12 +11,15 @@ namespace halvane {
 /// line for each file, good ones too.
 class CheckCommand : public JobCommand {
  public:
-  explicit CheckCommand(ReportFormat format) : format_(format) {}
+  /// `stateFolder` is where the program keeps what it needs to go on after its end, empty for none.
+  explicit CheckCommand(ReportFormat format, std::string stateFolder = {})
+      : format_(format), besideJob_(std::move(stateFolder)) {}
 
   JobOutcome Do(std::string& out, const std::string& file) override;
 
  private:
   ReportFormat format_;
+  BesideJob besideJob_;
 };
 
 /// The lines of a check, each with its end.

@@ -14,7 +14,7 @@ enum class JobVerdict { Good, ReadInPart, Refused };
 
 struct JobCheck {
   JobVerdict verdict = JobVerdict::Good;
-  std::vector<JobProblem> problems;      ///< in the order of the file
+  std::vector<JobProblem> problems;      ///< in the order of the file, then those on other files
   std::optional<ReportFailure> failure;  ///< why the file could not be read at all
 };
 

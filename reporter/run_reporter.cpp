@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "core/number_text.h"
+#include "core/user_folders.h"
 #include "reporter/check_command.h"
 #include "reporter/interruption.h"
 #include "reporter/job_list.h"
@@ -43,7 +44,7 @@ std::unique_ptr<JobCommand> CommandFor(const Options& options) {
     case Wish::Summary:
       return std::make_unique<SummaryCommand>(options.tools, options.units, options.format,
                                               options.sortBy);
-    case Wish::Check: return std::make_unique<CheckCommand>(options.format);
+    case Wish::Check: return std::make_unique<CheckCommand>(options.format, StateFolder());
     case Wish::Reports: break;
   }
   const bool one = options.files.size() * options.tools.size() == 1;

@@ -1,10 +1,13 @@
 #include "shell/halvane_application.h"
 
-#include <QFile>
+#include <QTimer>
 #include <QWidget>
+#include <cstdlib>
+#include <exception>
 #include <new>
 
-#include "core/rescue_copy.h"
+#include "core/runtime_failure.h"
+#include "shell/end_signals.h"
 #include "shell/held_keys.h"
 #include "shell/platform.h"
 #include "shell/program_title.h"
@@ -13,51 +16,124 @@ namespace halvane {
 namespace {
 
 constexpr int kFailureStatus = 1;
+/// What a shell tells of a program that ended by signal number 0; the others follow.
+constexpr int kSignalStatus = 128;
 
-/// Saves the copy and tells where it is, or why there is none.
-QString RescueSentence() {
-  try {
-    const std::string folder = QFile::encodeName(ThePlatform().DocumentsFolder()).toStdString();
-    const QString path = QFile::decodeName(WriteRescueCopy(folder).c_str());
-    return "A copy of the job was saved as\n" + path;
-  } catch (const RuntimeFailure& failure) {
-    return QString("The job could not be saved.\n") + failure.what();
-  } catch (const std::bad_alloc&) {
-    return "The job could not be saved.";
+/// Where the job is, or why it is nowhere.
+QString SentenceOn(const JobKeeper::Rescue& rescue) {
+  if (!rescue.wasNeeded) return "The job has no changes that are not saved.";
+  if (!rescue.copy.isEmpty()) return "A copy of the job was saved as\n" + rescue.copy;
+  const QString failed = "The job could not be saved.\n" + rescue.reason;
+  if (rescue.journal.isEmpty()) return failed;
+  return failed + "\n\nWhat was in it a moment ago is in the journal\n" + rescue.journal;
+}
+
+QString TextOf(const std::exception& failure) { return QString::fromUtf8(failure.what()); }
+
+/// Whether an event can change the job.
+bool IsInput(const QEvent& event) {
+  switch (event.type()) {
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+    case QEvent::InputMethod:
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::Wheel:
+    case QEvent::Drop:
+    case QEvent::Shortcut:
+    case QEvent::TouchBegin:
+    case QEvent::TouchUpdate:
+    case QEvent::TouchEnd: return true;
+    // A slider that is dragged.
+    case QEvent::MouseMove: return QGuiApplication::mouseButtons() != Qt::NoButton;
+    default: return false;
   }
 }
 
 }  // namespace
 
-HalvaneApplication::HalvaneApplication(int& argc, char** argv) : QApplication(argc, argv) {
+HalvaneApplication::HalvaneApplication(int& argc, char** argv)
+    : QApplication(argc, argv), keeper_(this) {
   setApplicationName("halvane-tools");
   setApplicationVersion(HALVANE_VERSION);
   setDesktopFileName("halvane-tools");
   installEventFilter(new HeldKeys(this));
 }
 
+HalvaneApplication::~HalvaneApplication() = default;
+
+void HalvaneApplication::WatchOverJob() {
+  signals_ = std::make_unique<EndSignals>();
+  connect(signals_.get(), &EndSignals::came, this,
+          [this](int number) { EndQuietly(kSignalStatus + number); });
+  connect(this, &QGuiApplication::commitDataRequest, this, [this] { keeper_.RescueJob(); });
+  // Made before what is registered below, so that it outlives it.
+  ThePlatform();
+  // The toolkit ends the program in the middle of the event loop when the display goes away.
+  std::atexit([] {
+    auto* application = qobject_cast<HalvaneApplication*>(QCoreApplication::instance());
+    if (application != nullptr) application->RescueAtExit();
+  });
+  // The start of the program has a measured goal: what an earlier run left comes behind it.
+  QTimer::singleShot(0, this, &JobKeeper::RescueLeftJournals);
+}
+
+int HalvaneApplication::Run() {
+  const int status = exec();
+  keeper_.End();
+  signals_.reset();
+  return status;
+}
+
+void HalvaneApplication::RescueAtExit() {
+  // Behind `Run` there is none: the user has answered, or the job was rescued.
+  if (signals_) keeper_.RescueJob();
+}
+
 bool HalvaneApplication::notify(QObject* receiver, QEvent* event) {
+  // The event may be gone behind its handler.
+  const bool isInput = IsInput(*event);
+  if (isInput) keeper_.NoteInput();
+  bool result = true;
   try {
-    return QApplication::notify(receiver, event);
+    result = QApplication::notify(receiver, event);
   } catch (const RuntimeFailure& failure) {
-    EndOn(failure);
+    EndOn(TextOf(failure));
   } catch (const std::bad_alloc&) {
-    EndOn(RuntimeFailure(FailureKind::OutOfMemory));
+    EndOn(TextOf(RuntimeFailure(FailureKind::OutOfMemory)));
+  } catch (const std::exception& failure) {
+    EndOn("Unexpected failure: " + TextOf(failure));
+  } catch (...) {
+    EndOn("Unexpected failure");
   }
+  if (isInput) keeper_.NoteInput();
+  return result;
+}
+
+bool HalvaneApplication::event(QEvent* event) {
+  if (event->type() != QEvent::Quit) return QApplication::event(event);
+  // The session has ended. Closing the windows, as the toolkit would, asks a question that nobody
+  // can answer any more.
+  EndQuietly(0);
   return true;
 }
 
-void HalvaneApplication::EndOn(const RuntimeFailure& failure) {
+void HalvaneApplication::EndOn(const QString& sentence) {
   // A second failure while the message of the first stands has nothing more to say.
   if (ending_) return;
   ending_ = true;
   // The copy comes first, so that it is safe whatever happens to the message.
-  const QString rescue = RescueSentence();
-  const QString text = QString("%1.\n\n%2 has to end.\n\n%3")
-                           .arg(QString::fromUtf8(failure.what()), kProgramTitle, rescue);
+  const QString rescue = SentenceOn(keeper_.RescueJob());
+  const QString text = QString("%1.\n\n%2 has to end.\n\n%3").arg(sentence, kProgramTitle, rescue);
   ThePlatform().ShowMessage(activeWindow(), kProgramTitle, text, {Answer::Ok});
   ThePlatform().EndProgram(kFailureStatus);
   ending_ = false;
+}
+
+void HalvaneApplication::EndQuietly(int exitStatus) {
+  keeper_.RescueJob();
+  ThePlatform().EndProgram(exitStatus);
 }
 
 }  // namespace halvane

@@ -3,6 +3,7 @@
 #include <QString>
 #include <QStringList>
 #include <Qt>
+#include <string>
 #include <vector>
 
 class QTextDocument;
@@ -63,8 +64,12 @@ class Platform {
   /// Copies a file, replacing one that is there; makes the target's folder. False when it failed.
   virtual bool CopyFile(const QString& source, const QString& target) = 0;
 
-  /// The folder for the user's documents.
-  virtual QString DocumentsFolder() = 0;
+  /// Where a copy of a job may stand that can't stand beside its file, best first: documents, home,
+  /// the program's own folder, temporary files. They need not exist.
+  virtual std::vector<std::string> RescueFolders() = 0;
+  /// The program's own folder for what it needs to go on after its end; empty where there is none.
+  /// It need not exist.
+  virtual std::string StateFolder() = 0;
 
   [[nodiscard]] virtual bool FileExists(const QString& path) = 0;
   /// The system's registry; an empty one where there is none.

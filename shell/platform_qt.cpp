@@ -21,6 +21,7 @@
 #include <QWindow>
 #include <array>
 
+#include "core/user_folders.h"
 #include "shell/platform_x11.h"
 #include "shell/registry_access.h"
 #include "shell/system_viewer.h"
@@ -137,9 +138,17 @@ bool QtPlatform::CopyFile(const QString& source, const QString& target) {
   return to.commit();
 }
 
-QString QtPlatform::DocumentsFolder() {
-  return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+std::vector<std::string> QtPlatform::RescueFolders() {
+  // Without a home, the toolkit would name a folder in the root of all.
+  const std::string documents =
+      qEnvironmentVariableIsEmpty("HOME")
+          ? std::string()
+          : QFile::encodeName(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation))
+                .toStdString();
+  return {documents, HomeFolder(), StateFolder(), SystemTemporaryFolder()};
 }
+
+std::string QtPlatform::StateFolder() { return halvane::StateFolder(); }
 
 bool QtPlatform::FileExists(const QString& path) { return QFileInfo::exists(path); }
 

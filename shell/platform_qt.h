@@ -26,7 +26,8 @@ class QtPlatform : public Platform {
   QString ProgramFolder() override;
   QString DataFolder() override;
   bool CopyFile(const QString& source, const QString& target) override;
-  QString DocumentsFolder() override;
+  std::vector<std::string> RescueFolders() override;
+  std::string StateFolder() override;
   bool FileExists(const QString& path) override;
   Registry& TheRegistry() override;
   bool StartProgram(const ProgramCall& call) override;

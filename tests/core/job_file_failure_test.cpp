@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <string>
 #include <vector>
@@ -181,10 +182,11 @@ TEST_F(JobFileFailure, WrongNumberInATaskTellsTaskAndSlot) {
 
 TEST_F(JobFileFailure, FileLeftOpenMakesEveryLaterUseFail) {
   EXPECT_EQ(OpenFailure("\"qjt\",1"), "InputPastEnd");
-  const JobState before = Module1;
+  JobState before = Module1;
   EXPECT_EQ(OpenFailure(EmptyJobText()), "FileAlreadyOpen");
   EXPECT_EQ(Module1, before);
 
+  before.JobInNoFile = true;
   Module1.JobDirty = kTrue;
   Module1.RulaNeckFactors.fill(1);
   EXPECT_EQ(FailureOf(ReadJobFile), "FileAlreadyOpen");
@@ -300,11 +302,57 @@ TEST_F(JobFileFailure, Task41FailsAtItsLoadsWhenWrittenWithTheLinesBeforeInTheFi
   expected.resize(expected.size() - 8 * 5);
   WriteBytes(Module1.JobFileName, "the old job");
   Module1.JobDirty = kTrue;
-  EXPECT_EQ(FailureOf(WriteJobFile), "SubscriptOutOfRange");
+  const std::string message = MessageOf(WriteJobFile);
   EXPECT_EQ(BytesOf(folder_.File("job.qjt")), expected);
-  EXPECT_EQ(BytesOf(folder_.File("job.qjt.previous")), "the old job");
+  const std::string copy = folder_.File(NameLike(folder_, "job.qjt.", ".previous"));
+  EXPECT_EQ(BytesOf(copy), "the old job");
+  EXPECT_EQ(message, "Subscript out of range: " + Module1.JobFileName +
+                         " could not be written whole. " + copy +
+                         " holds the job as it was before");
   EXPECT_EQ(Module1.JobDirty, kFalse);
   EXPECT_TRUE(Module1.JobFileOpen);
+}
+
+void MakeTask41() {
+  for (Integer task = 1; task <= 41; ++task) {
+    Module1.TaskCount = task;
+    NewTaskRecord();
+  }
+}
+
+TEST_F(JobFileFailure, Task41IsWrittenOverNothingWithTheLinesBeforeInTheFile) {
+  MakeTask41();
+  EXPECT_EQ(MessageOf(WriteJobFile),
+            "Subscript out of range: " + Module1.JobFileName + " could not be written whole");
+  EXPECT_TRUE(BytesOf(Module1.JobFileName).starts_with(EmptyJobText("41")));
+  EXPECT_EQ(folder_.Names(), "job.qjt");
+}
+
+TEST_F(JobFileFailure, Task41IsNotWrittenOverAJobThatNoPlaceTakesACopyOf) {
+  if (geteuid() != 0) GTEST_SKIP() << "a file in a folder that takes none is made as root";
+  const EnvironmentVariable state("XDG_STATE_HOME", "/dev/null");
+  const EnvironmentVariable temporary("TMPDIR", "/dev/null");
+  MakeTask41();
+  WriteBytes(Module1.JobFileName, "the old job");
+  ASSERT_EQ(chmod(Module1.JobFileName.c_str(), 0666), 0);
+  ASSERT_EQ(chmod(folder_.path().c_str(), 0555), 0);
+  {
+    const RightsOfNobody rights;
+    EXPECT_EQ(FailureOf(WriteJobFile), "SubscriptOutOfRange");
+  }
+  EXPECT_EQ(BytesOf(Module1.JobFileName), "the old job");
+  EXPECT_EQ(folder_.Names(), "job.qjt");
+}
+
+TEST_F(JobFileFailure, PathOfAFileThatMayNotBeWrittenIsNamedAsWhole) {
+  WriteBytes(Module1.JobFileName, EmptyJobText());
+  ASSERT_EQ(chmod(Module1.JobFileName.c_str(), 0444), 0);
+  ASSERT_EQ(chmod(folder_.path().c_str(), 0777), 0);
+  const RightsOfNobody rights;
+  EXPECT_EQ(MessageOf(WriteJobFile), "File error: " + Module1.JobFileName +
+                                         ": Permission denied. " + Module1.JobFileName +
+                                         " holds the job as it was before");
+  EXPECT_FALSE(Module1.JobFileOpen);
 }
 
 TEST_F(JobFileFailure, FortyTasksAreWrittenAndRead) {

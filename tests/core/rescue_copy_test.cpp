@@ -2,8 +2,12 @@
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
+#include <algorithm>
+#include <filesystem>
 #include <string>
+#include <vector>
 
 #include "core/job_file.h"
 #include "tests/core/test_support.h"
@@ -22,6 +26,13 @@ class RescueCopy : public testing::Test {
     }
   }
 
+  /// A copy of the job in memory, with the fallback as the one other place.
+  std::string Rescue() { return RescueTo({fallback_.path()}); }
+
+  static std::string RescueTo(const std::vector<std::string>& folders) {
+    return WriteRescueCopy(Module1.JobFileName, RescueBytes(Module1), folders);
+  }
+
   const TemporaryFolder folder_;
   const TemporaryFolder fallback_;
 };
@@ -33,7 +44,7 @@ TEST_F(RescueCopy, StandsBesideTheJobFileAndLeavesJobAndFileAlone) {
   Module1.JobDirty = kTrue;
   Module1.JobFileOpen = true;
   const JobState before = Module1;
-  EXPECT_EQ(WriteRescueCopy(fallback_.path()), folder_.File("press line.rescue.qjt"));
+  EXPECT_EQ(Rescue(), folder_.File("press line.rescue.qjt"));
   EXPECT_EQ(Module1, before);
   EXPECT_EQ(BytesOf(Module1.JobFileName), "the job");
   EXPECT_EQ(BytesOf(folder_.File("press line.rescue.qjt")),
@@ -45,40 +56,171 @@ TEST_F(RescueCopy, NeverGoesOverAnExistingFile) {
   Module1.JobFileName = folder_.File("job.qjt");
   WriteBytes(folder_.File("job.rescue.qjt"), "first");
   WriteBytes(folder_.File("job (2).rescue.qjt"), "second");
-  EXPECT_EQ(WriteRescueCopy(fallback_.path()), folder_.File("job (3).rescue.qjt"));
-  EXPECT_EQ(WriteRescueCopy(fallback_.path()), folder_.File("job (4).rescue.qjt"));
+  EXPECT_EQ(Rescue(), folder_.File("job (3).rescue.qjt"));
+  Module1.Hand = 1;
+  EXPECT_EQ(Rescue(), folder_.File("job (4).rescue.qjt"));
   EXPECT_EQ(BytesOf(folder_.File("job.rescue.qjt")), "first");
   EXPECT_EQ(BytesOf(folder_.File("job (2).rescue.qjt")), "second");
   EXPECT_EQ(BytesOf(folder_.File("job (3).rescue.qjt")), EmptyJobText());
 }
 
 TEST_F(RescueCopy, JobWithoutAFileGoesToTheFallbackFolder) {
-  EXPECT_EQ(WriteRescueCopy(fallback_.path()), fallback_.File("Job.rescue.qjt"));
-  EXPECT_EQ(WriteRescueCopy(fallback_.path()), fallback_.File("Job (2).rescue.qjt"));
+  EXPECT_EQ(Rescue(), fallback_.File("Job.rescue.qjt"));
+  Module1.Hand = 1;
+  EXPECT_EQ(Rescue(), fallback_.File("Job (2).rescue.qjt"));
   EXPECT_EQ(BytesOf(fallback_.File("Job.rescue.qjt")), EmptyJobText());
 }
 
 TEST_F(RescueCopy, NameWithAnotherExtensionKeepsIt) {
   Module1.JobFileName = folder_.File("job.txt");
-  EXPECT_EQ(WriteRescueCopy(fallback_.path()), folder_.File("job.txt.rescue.qjt"));
+  EXPECT_EQ(Rescue(), folder_.File("job.txt.rescue.qjt"));
   Module1.JobFileName = folder_.File(".qjt");
-  EXPECT_EQ(WriteRescueCopy(fallback_.path()), folder_.File("Job.rescue.qjt"));
+  EXPECT_EQ(Rescue(), folder_.File("Job.rescue.qjt"));
 }
 
 TEST_F(RescueCopy, FolderThatTakesNoFileSendsItToTheFallback) {
   Module1.JobFileName = folder_.File("missing/job.qjt");
-  EXPECT_EQ(WriteRescueCopy(fallback_.path()), fallback_.File("job.rescue.qjt"));
+  EXPECT_EQ(Rescue(), fallback_.File("job.rescue.qjt"));
 
   Module1.JobFileName = folder_.File("job.qjt");
   ASSERT_EQ(chmod(folder_.path().c_str(), 0555), 0);
   ASSERT_EQ(chmod(fallback_.path().c_str(), 0777), 0);
   const RightsOfNobody rights;
-  EXPECT_EQ(WriteRescueCopy(fallback_.path()), fallback_.File("job (2).rescue.qjt"));
+  Module1.Hand = 1;
+  EXPECT_EQ(Rescue(), fallback_.File("job (2).rescue.qjt"));
 }
 
-TEST_F(RescueCopy, FailsWhereNeitherFolderTakesIt) {
+TEST_F(RescueCopy, FailsWhereNoPlaceTakesIt) {
   Module1.JobFileName = folder_.File("missing/job.qjt");
-  EXPECT_EQ(FailureOf([&] { WriteRescueCopy(fallback_.File("missing")); }), "FileError");
+  WriteBytes(folder_.File("file"), "");
+  EXPECT_EQ(FailureOf([&] { RescueTo({}); }), "FileError");
+  EXPECT_EQ(FailureOf([&] { RescueTo({"", folder_.File("file")}); }), "FileError");
+  EXPECT_EQ(folder_.Names(), "file");
+}
+
+TEST_F(RescueCopy, PlacesAreTriedInTurnAndMadeWhereMissing) {
+  WriteBytes(folder_.File("file"), "");
+  Module1.JobFileName = folder_.File("gone/job.qjt");
+  EXPECT_EQ(RescueTo({folder_.File("file/in"), folder_.File("new/er"), fallback_.path()}),
+            folder_.File("new/er/job.rescue.qjt"));
+  EXPECT_EQ(fallback_.Names(), "");
+  EXPECT_FALSE(Exists(folder_.File("gone")));
+}
+
+TEST_F(RescueCopy, EqualOneCountsAsTheCopyWhereverItStands) {
+  Module1.JobFileName = folder_.File("job.qjt");
+  const std::string bytes = RescueBytes(Module1);
+  // The one before it is gone.
+  WriteBytes(fallback_.File("job (2).rescue.qjt"), bytes);
+  WriteBytes(fallback_.File("other.rescue.qjt"), bytes);
+  EXPECT_EQ(Rescue(), fallback_.File("job (2).rescue.qjt"));
+  EXPECT_EQ(folder_.Names(), "");
+
+  Module1.JobName = "Packing";
+  EXPECT_EQ(Rescue(), folder_.File("job.rescue.qjt"));
+  EXPECT_EQ(Rescue(), folder_.File("job.rescue.qjt"));
+  EXPECT_EQ(folder_.Names(), "job.rescue.qjt");
+}
+
+TEST_F(RescueCopy, LinkToEqualBytesIsNoCopy) {
+  Module1.JobFileName = folder_.File("job.qjt");
+  WriteBytes(fallback_.File("elsewhere"), RescueBytes(Module1));
+  ASSERT_EQ(symlink(fallback_.File("elsewhere").c_str(), folder_.File("job.rescue.qjt").c_str()),
+            0);
+  EXPECT_EQ(Rescue(), folder_.File("job (2).rescue.qjt"));
+}
+
+TEST_F(RescueCopy, IsForTheWritersEyesAlone) {
+  Module1.JobFileName = folder_.File("job.qjt");
+  WriteBytes(Module1.JobFileName, "open to all");
+  ASSERT_EQ(chmod(Module1.JobFileName.c_str(), 0666), 0);
+  const mode_t before = umask(0);
+  const std::string path = Rescue();
+  umask(before);
+  struct stat status {};
+  ASSERT_EQ(stat(path.c_str(), &status), 0);
+  EXPECT_EQ(status.st_mode & 07777U, 0600U);
+}
+
+TEST_F(RescueCopy, NameTooLongIsShortenedBetweenCharacters) {
+  // 83 characters of three bytes and ".qjt": 253 bytes, and no room for ".rescue".
+  std::string name;
+  for (int i = 0; i < 83; ++i) name += "\u65E5";
+  std::string shortened;
+  for (int i = 0; i < 81; ++i) shortened += "\u65E5";
+  Module1.JobFileName = folder_.File(name + ".qjt");
+  EXPECT_EQ(Rescue(), folder_.File(shortened + ".rescue.qjt"));
+  Module1.Hand = 1;
+  shortened.resize(shortened.size() - 3);
+  EXPECT_EQ(Rescue(), folder_.File(shortened + " (2).rescue.qjt"));
+  // Found again under its shortened name.
+  EXPECT_EQ(Rescue(), folder_.File(shortened + " (2).rescue.qjt"));
+  EXPECT_TRUE(IsRescueName(shortened + " (2).rescue.qjt", name + ".qjt"));
+}
+
+TEST_F(RescueCopy, NameIsShortenedMoreForAPathThatIsNearlyTooLong) {
+  // So deep that the whole path has room for a short name alone.
+  constexpr std::size_t kLongestPath = 4095;
+  constexpr std::size_t kRoom = 100;
+  std::string folder = folder_.path();
+  while (folder.size() + kRoom < kLongestPath) {
+    folder +=
+        "/" + std::string(std::min<std::size_t>(200, kLongestPath - kRoom - folder.size()), 'd');
+  }
+  ASSERT_TRUE(std::filesystem::create_directories(folder));
+  Module1.JobFileName = folder + "/" + std::string(90, 'j') + ".qjt";
+  const std::string path = Rescue();
+  EXPECT_TRUE(path.starts_with(folder + "/jjjj")) << path.size();
+  EXPECT_TRUE(path.ends_with("j.rescue.qjt"));
+  EXPECT_LE(path.size(), kLongestPath);
+  EXPECT_EQ(BytesOf(path), RescueBytes(Module1));
+}
+
+TEST_F(RescueCopy, NamesOfCopiesAreKnown) {
+  for (const char* name : {"job.rescue.qjt", "job (2).rescue.qjt", "job (40).rescue.qjt"}) {
+    EXPECT_TRUE(IsRescueName(name, "job.qjt")) << name;
+  }
+  for (const char* name :
+       {"job.qjt", "job2.rescue.qjt", "job (1).rescue.qjt", "job (x).rescue.qjt",
+        "job ().rescue.qjt", "job (02).rescue.qjt", ".rescue.qjt", "rescue.qjt"}) {
+    EXPECT_FALSE(IsRescueName(name, "job.qjt")) << name;
+  }
+  EXPECT_TRUE(IsRescueName("job (2).rescue.qjt", "job (2).qjt"));
+  EXPECT_TRUE(IsRescueName("job.txt.rescue.qjt", "job.txt"));
+}
+
+/// Whether the job needs a rescue copy after each step.
+TEST_F(RescueCopy, IsNeededForWhatNoWholeFileHolds) {
+  EXPECT_FALSE(NeedsRescue(Module1));
+  Module1.JobDirty = kTrue;
+  EXPECT_TRUE(NeedsRescue(Module1));
+  Module1.JobFileName = folder_.File("job.qjt");
+  WriteJobFile();
+  EXPECT_FALSE(NeedsRescue(Module1));
+
+  Module1.JobDirty = kTrue;
+  Module1.JobFileName = folder_.File("no folder/job.qjt");
+  EXPECT_EQ(FailureOf(WriteJobFile), "FileError");
+  EXPECT_EQ(Module1.JobDirty, kFalse);
+  EXPECT_TRUE(NeedsRescue(Module1));
+  JobReset();
+  EXPECT_FALSE(NeedsRescue(Module1));
+  Module1.JobDirty = kFalse;
+
+  // The dialog was cancelled: the job is where it was, in a file or nowhere.
+  EXPECT_EQ(FailureOf(WriteJobFile), "FileError");
+  EXPECT_FALSE(NeedsRescue(Module1));
+  Module1.JobDirty = kTrue;
+  EXPECT_EQ(FailureOf(WriteJobFile), "FileError");
+  EXPECT_TRUE(NeedsRescue(Module1));
+
+  Module1.JobFileName = folder_.File("job.qjt");
+  EXPECT_EQ(OpenJobFile(), OpenOutcome::Opened);
+  EXPECT_FALSE(NeedsRescue(Module1));
+  WriteBytes(folder_.File("half.qjt"), EmptyJobText().substr(0, 100));
+  Module1.JobFileName = folder_.File("half.qjt");
+  EXPECT_EQ(FailureOf(OpenJobFile), "InputPastEnd");
+  EXPECT_TRUE(NeedsRescue(Module1));
 }
 
 TEST_F(RescueCopy, StoresTheFortyTasksThatAFileCanHold) {
@@ -86,7 +228,7 @@ TEST_F(RescueCopy, StoresTheFortyTasksThatAFileCanHold) {
   const JobState before = Module1;
   std::string expected = EmptyJobText("40");
   for (int task = 1; task <= 40; ++task) expected += UntouchedTaskText(task);
-  EXPECT_EQ(BytesOf(WriteRescueCopy(fallback_.path())), expected);
+  EXPECT_EQ(BytesOf(Rescue()), expected);
   EXPECT_EQ(Module1, before);
 }
 
@@ -96,8 +238,7 @@ TEST_F(RescueCopy, TaskCountThatIsNoneIsTakenFromTheTasks) {
     Module1 = JobState{};
     MakeTasks(2);
     Module1.TaskCount = count;
-    EXPECT_EQ(BytesOf(WriteRescueCopy(fallback_.path())),
-              EmptyJobText("2") + UntouchedTaskText(1) + UntouchedTaskText(2));
+    EXPECT_EQ(BytesOf(Rescue()), EmptyJobText("2") + UntouchedTaskText(1) + UntouchedTaskText(2));
     EXPECT_EQ(Module1.TaskCount, count);
   }
 }
@@ -105,7 +246,7 @@ TEST_F(RescueCopy, TaskCountThatIsNoneIsTakenFromTheTasks) {
 TEST_F(RescueCopy, CopyOpensAsTheJob) {
   MakeTasks(1);
   Module1.JobName = "日本";
-  const std::string path = WriteRescueCopy(fallback_.path());
+  const std::string path = Rescue();
   Module1 = JobState{};
   Module1.JobFileName = path;
   EXPECT_EQ(OpenJobFile(), OpenOutcome::Opened);

@@ -44,6 +44,22 @@ std::string TemporaryFolder::Names() const {
   return text;
 }
 
+EnvironmentVariable::EnvironmentVariable(const char* name, const std::optional<std::string>& value)
+    : name_(name) {
+  if (const char* before = std::getenv(name)) before_ = before;
+  SetTo(value);
+}
+
+EnvironmentVariable::~EnvironmentVariable() { SetTo(before_); }
+
+void EnvironmentVariable::SetTo(const std::optional<std::string>& value) const {
+  if (value) {
+    setenv(name_, value->c_str(), 1);
+  } else {
+    unsetenv(name_);
+  }
+}
+
 RightsOfNobody::RightsOfNobody() : wasRoot_(geteuid() == 0) {
   if (wasRoot_ && setresuid(kNobody, kNobody, 0) != 0) {
     throw std::system_error(errno, std::generic_category(), "setresuid");
@@ -70,6 +86,17 @@ void WriteBytes(const std::string& path, std::string_view bytes) {
 
 bool Exists(const std::string& path) {
   return std::filesystem::exists(std::filesystem::symlink_status(path));
+}
+
+std::string NameLike(const TemporaryFolder& folder, std::string_view start, std::string_view end) {
+  std::string found;
+  for (const auto& entry : std::filesystem::directory_iterator(folder.path())) {
+    const std::string name = entry.path().filename().string();
+    if (!name.starts_with(start) || !name.ends_with(end)) continue;
+    if (!found.empty()) return "";
+    found = name;
+  }
+  return found;
 }
 
 std::string EmptyJobWith(int line, std::string_view text) {

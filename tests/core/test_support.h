@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -27,6 +28,21 @@ class TemporaryFolder {
   std::string path_;
 };
 
+/// A variable of the environment with another value, or without one, while it lives.
+class EnvironmentVariable {
+ public:
+  EnvironmentVariable(const char* name, const std::optional<std::string>& value);
+  ~EnvironmentVariable();
+  EnvironmentVariable(const EnvironmentVariable&) = delete;
+  EnvironmentVariable& operator=(const EnvironmentVariable&) = delete;
+
+ private:
+  void SetTo(const std::optional<std::string>& value) const;
+
+  const char* name_;
+  std::optional<std::string> before_;
+};
+
 /// While it lives, the test has the rights of a user who owns nothing, also when it runs as root.
 class RightsOfNobody {
  public:
@@ -42,6 +58,10 @@ class RightsOfNobody {
 std::string BytesOf(const std::string& path);
 void WriteBytes(const std::string& path, std::string_view bytes);
 bool Exists(const std::string& path);
+
+/// The name of the one file in `folder` that begins with `start` and ends with `end`; empty where
+/// there is none or more than one.
+std::string NameLike(const TemporaryFolder& folder, std::string_view start, std::string_view end);
 
 /// The text of an empty job as the program writes it, line ends as in the file, with other text in
 /// one line, counted from 1.
@@ -60,6 +80,17 @@ std::string FailureOf(const Action& action) {
     action();
   } catch (const RuntimeFailure& failure) {
     return std::string(KindName(failure.kind()));
+  }
+  return "none";
+}
+
+/// The message of the failure that `action` throws, "none" when it throws none.
+template <typename Action>
+std::string MessageOf(const Action& action) {
+  try {
+    action();
+  } catch (const RuntimeFailure& failure) {
+    return failure.what();
   }
   return "none";
 }

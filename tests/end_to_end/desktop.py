@@ -44,6 +44,8 @@ class Desktop:
         self.environment["QT_SCALE_FACTOR"] = str(scale)
         # Nothing of the user's own is read or written.
         self.environment.update(HOME=folder, XDG_RUNTIME_DIR=folder, XDG_CONFIG_HOME=folder, LC_ALL="C.UTF-8")
+        # Journals of the job, apart from what a case puts into its folder.
+        self.environment["XDG_STATE_HOME"] = os.path.join(folder, "state")
 
     def __enter__(self):
         reading, writing = os.pipe()

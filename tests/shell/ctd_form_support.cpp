@@ -94,6 +94,7 @@ std::string CtdFormTest::Pane() const {
 std::string CtdFormTest::EndedOn(const QString& sentence, const std::function<void()>& action) {
   const auto name = "end" + std::to_string(platform.ends().size());
   Module1.JobFileName = folder.File(name + ".qjt");
+  Module1.JobDirty = kTrue;
   const std::string copy = folder.File(name + ".rescue.qjt");
   std::vector<int> ends = platform.ends();
   ends.push_back(1);

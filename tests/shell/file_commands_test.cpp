@@ -180,6 +180,8 @@ TEST_P(FileCommandsOn, CancelledSaveAsLosesTheNameAndMarksTheJobAsSaved) {
   JobState expected = Module1;
   expected.JobFileName = "";
   expected.JobDirty = kFalse;
+  // What was not saved is not forgotten: it is rescued when the program ends otherwise.
+  expected.JobInNoFile = true;
   platform.WillSave("");
   SaveAs();
   EXPECT_TRUE(Module1 == expected);

@@ -441,6 +441,7 @@ TEST_F(OcraLoad, ValueThatNamesNoControlEndsTheProgramWithARescueCopy) {
     row.set();
     const std::string name = "job" + std::to_string(++number);
     Module1.JobFileName = folder.File(name + ".qjt");
+    Module1.JobDirty = kTrue;
     const ModalSteps none;
     platform.WillAnswer(Answer::Ok);
     QTest::mouseClick(&Find<QWidget>(*window, "SSCommand2(0)"), Qt::LeftButton);

@@ -235,6 +235,7 @@ TEST_F(StrainIndexLoad, ValueThatNamesNoControlEndsTheProgramWithARescueCopy) {
     row.set();
     const std::string name = "job" + std::to_string(++number);
     Module1.JobFileName = folder.File(name + ".qjt");
+    Module1.JobDirty = kTrue;
     const ModalSteps none;
     platform.WillAnswer(Answer::Ok);
     QTest::mouseClick(&Find<QWidget>(*window, "SSCommand2(2)"), Qt::LeftButton);

@@ -17,6 +17,7 @@
 #include <QTest>
 #include <filesystem>
 
+#include "core/user_folders.h"
 #include "tests/shell/form_support.h"
 
 namespace halvane {
@@ -193,10 +194,21 @@ TEST_F(RealPlatform, PageSetupWorksOnTheCurrentPrinter) {
   EXPECT_TRUE(same);
 }
 
-TEST_F(RealPlatform, DocumentsFolderIsTheUsers) {
-  EXPECT_EQ(platform.DocumentsFolder(),
-            QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
-  EXPECT_NE(platform.DocumentsFolder(), "");
+TEST_F(RealPlatform, RescueFoldersBeginWithTheUsersDocuments) {
+  const std::string home = qEnvironmentVariable("HOME").toStdString();
+  const std::vector<std::string> expected{home + "/Documents", home, home + "/halvane-tools",
+                                          SystemTemporaryFolder()};
+  EXPECT_EQ(platform.RescueFolders(), expected);
+  EXPECT_EQ(platform.StateFolder(), home + "/halvane-tools");
+}
+
+TEST_F(RealPlatform, WithoutAHomeThereIsNoDocumentsFolderInTheRoot) {
+  const QByteArray home = qgetenv("HOME");
+  qunsetenv("HOME");
+  const std::vector<std::string> folders = platform.RescueFolders();
+  qputenv("HOME", home);
+  EXPECT_EQ(folders.front(), "");
+  EXPECT_EQ(folders.back(), SystemTemporaryFolder());
 }
 
 TEST_F(RealPlatform, ProgramFolderIsWhereItsFileStands) {

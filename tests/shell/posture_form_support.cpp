@@ -153,6 +153,7 @@ void PostureFormTest::ExpectLaunchEndsTheProgram(const JobState& job) {
   const std::size_t ends = platform.ends().size();
   const std::string name = "job" + std::to_string(ends);
   Module1.JobFileName = folder.File(name + ".qjt");
+  Module1.JobDirty = kTrue;
   const ModalSteps none;
   platform.WillAnswer(Answer::Ok);
   QTest::mouseClick(&Find<QWidget>(*window, LaunchButton()), Qt::LeftButton);

@@ -13,8 +13,8 @@ int main(int argc, char** argv) {
                            "QT_QPA_PLATFORMTHEME", "QT_ENABLE_HIGHDPI_SCALING"}) {
     qunsetenv(name);
   }
-  for (const char* name :
-       {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "XDG_RUNTIME_DIR"}) {
+  for (const char* name : {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME",
+                           "XDG_RUNTIME_DIR", "XDG_STATE_HOME"}) {
     qputenv(name, home.path().toLocal8Bit());
   }
   qputenv("LC_ALL", "C.UTF-8");

@@ -91,7 +91,9 @@ bool TestPlatform::CopyFile(const QString& source, const QString& target) {
   return Next(copies_, false, "a file to copy");
 }
 
-QString TestPlatform::DocumentsFolder() { return documentsFolder_; }
+std::vector<std::string> TestPlatform::RescueFolders() { return rescueFolders_; }
+
+std::string TestPlatform::StateFolder() { return stateFolder_; }
 
 bool TestPlatform::FileExists(const QString& path) { return files_.contains(path); }
 

@@ -52,7 +52,10 @@ class TestPlatform : public Platform {
   void WillStartProgram(bool succeeds) { starts_.push_back(succeeds); }
   void SetSystemViewer(const ProgramCall& viewer) { systemViewer_ = viewer; }
   void AddFile(const QString& path) { files_.append(path); }
-  void SetDocumentsFolder(const QString& folder) { documentsFolder_ = folder; }
+  /// The one folder where a rescue copy may stand that can't stand beside its file.
+  void SetDocumentsFolder(const QString& folder) { rescueFolders_ = {folder.toStdString()}; }
+  /// Without it there is no journal.
+  void SetStateFolder(const std::string& folder) { stateFolder_ = folder; }
 
   // What happened, in order.
   [[nodiscard]] const std::vector<ShownMessage>& messages() const { return messages_; }
@@ -85,7 +88,8 @@ class TestPlatform : public Platform {
   QString ProgramFolder() override;
   QString DataFolder() override;
   bool CopyFile(const QString& source, const QString& target) override;
-  QString DocumentsFolder() override;
+  std::vector<std::string> RescueFolders() override;
+  std::string StateFolder() override;
   [[nodiscard]] bool FileExists(const QString& path) override;
   Registry& TheRegistry() override { return registry_; }
   bool StartProgram(const ProgramCall& call) override;
@@ -106,7 +110,8 @@ class TestPlatform : public Platform {
   MadeUpRegistry registry_;
   ProgramCall systemViewer_;
   QStringList files_;
-  QString documentsFolder_;
+  std::vector<std::string> rescueFolders_;
+  std::string stateFolder_;
   QString programFolder_;
   QString dataFolder_;
 

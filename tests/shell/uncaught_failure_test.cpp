@@ -3,6 +3,7 @@
 #include <QTest>
 #include <filesystem>
 #include <new>
+#include <stdexcept>
 
 #include "core/job_file.h"
 #include "shell/halvane_application.h"
@@ -11,7 +12,11 @@
 namespace halvane {
 namespace {
 
-class UncaughtFailure : public ShellTest {};
+class UncaughtFailure : public ShellTest {
+ protected:
+  /// Jobs that are as they were saved get no copy.
+  UncaughtFailure() { Module1.JobDirty = kTrue; }
+};
 
 /// Does something in its event handler.
 class Handler : public QObject {
@@ -34,13 +39,20 @@ void InAnEvent(std::function<void()> action) {
   QCoreApplication::sendEvent(&handler, &event);
 }
 
+std::vector<std::string> FilesIn(const std::string& path) {
+  std::vector<std::string> files;
+  for (const auto& entry : std::filesystem::directory_iterator(path)) {
+    files.push_back(entry.path().string());
+  }
+  return files;
+}
+
 void FailInAnEvent(FailureKind kind) {
   InAnEvent([kind] { throw RuntimeFailure(kind); });
 }
 
 TEST_F(UncaughtFailure, CopiesTheJobSaysWhereAndEndsTheProgram) {
   Module1.JobName = "Packing";
-  Module1.JobDirty = kTrue;
   Module1.JobFileName = folder.File("job.qjt");
   WriteBytes(folder.File("job.qjt"), "the old file");
   bool copyWasThere = false;
@@ -69,7 +81,8 @@ TEST_F(UncaughtFailure, JobWithoutAFileGoesToTheDocumentsFolder) {
 }
 
 TEST_F(UncaughtFailure, CopyThatCanStandNowhereIsSaidSo) {
-  platform.SetDocumentsFolder(File("no folder"));
+  WriteBytes(folder.File("file"), "");
+  platform.SetDocumentsFolder(File("file"));
   platform.WillAnswer(Answer::Ok);
   FailInAnEvent(FailureKind::Overflow);
   ASSERT_EQ(platform.messages().size(), 1U);
@@ -79,6 +92,72 @@ TEST_F(UncaughtFailure, CopyThatCanStandNowhereIsSaidSo) {
                       "The job could not be saved.\nFile error: "))
       << text.toStdString();
   EXPECT_EQ(platform.ends(), std::vector<int>{1});
+}
+
+TEST_F(UncaughtFailure, WithoutACopyTheJournalIsNamedAndStays) {
+  WriteBytes(folder.File("file"), "");
+  platform.SetDocumentsFolder(File("file"));
+  platform.SetStateFolder(folder.File("state"));
+  platform.WillAnswer(Answer::Ok);
+  FailInAnEvent(FailureKind::Overflow);
+  const std::vector<std::string> journals = FilesIn(folder.File("state"));
+  ASSERT_EQ(journals.size(), 1U);
+  ASSERT_EQ(platform.messages().size(), 1U);
+  const QString text = platform.messages()[0].text;
+  EXPECT_TRUE(
+      text.startsWith("Overflow.\n\nHalvane Tools has to end.\n\n"
+                      "The job could not be saved.\nFile error: "))
+      << text.toStdString();
+  EXPECT_TRUE(text.endsWith("\n\nWhat was in it a moment ago is in the journal\n" +
+                            QString::fromStdString(journals[0])))
+      << text.toStdString();
+  EXPECT_TRUE(BytesOf(journals[0]).starts_with(EmptyJobText()));
+}
+
+TEST_F(UncaughtFailure, JobThatIsAsItWasSavedGetsNoCopy) {
+  Module1.JobFileName = folder.File("job.qjt");
+  WriteJobFile();
+  platform.WillAnswer(Answer::Ok);
+  FailInAnEvent(FailureKind::Overflow);
+  ASSERT_EQ(platform.messages().size(), 1U);
+  EXPECT_EQ(platform.messages()[0].text,
+            "Overflow.\n\nHalvane Tools has to end.\n\n"
+            "The job has no changes that are not saved.");
+  EXPECT_EQ(folder.Names(), "job.qjt");
+}
+
+TEST_F(UncaughtFailure, SameJobTwiceGetsOneCopy) {
+  Module1.JobFileName = folder.File("job.qjt");
+  for (int i = 0; i < 2; ++i) {
+    platform.WillAnswer(Answer::Ok);
+    FailInAnEvent(FailureKind::Overflow);
+    EXPECT_TRUE(platform.messages().back().text.endsWith(File("job.rescue.qjt")));
+  }
+  EXPECT_EQ(folder.Names(), "job.rescue.qjt");
+}
+
+TEST_F(UncaughtFailure, WhateverIsThrownIsOne) {
+  Module1.JobFileName = folder.File("job.qjt");
+  platform.WillAnswer(Answer::Ok);
+  InAnEvent([] { throw std::out_of_range("beyond the end"); });
+  platform.WillAnswer(Answer::Ok);
+  InAnEvent([] { throw 5; });
+  ASSERT_EQ(platform.messages().size(), 2U);
+  EXPECT_TRUE(platform.messages()[0].text.startsWith(
+      "Unexpected failure: beyond the end.\n\nHalvane Tools has to end.\n\nA copy "));
+  EXPECT_TRUE(platform.messages()[1].text.startsWith(
+      "Unexpected failure.\n\nHalvane Tools has to end.\n\nA copy "));
+  EXPECT_EQ(platform.ends(), (std::vector<int>{1, 1}));
+  EXPECT_EQ(folder.Names(), "job.rescue.qjt");
+}
+
+TEST_F(UncaughtFailure, EndOfTheSessionRescuesTheJobWithoutAWord) {
+  Module1.JobFileName = folder.File("job.qjt");
+  QEvent quit(QEvent::Quit);
+  QCoreApplication::sendEvent(qApp, &quit);
+  EXPECT_EQ(folder.Names(), "job.rescue.qjt");
+  EXPECT_TRUE(platform.messages().empty());
+  EXPECT_EQ(platform.ends(), std::vector<int>{0});
 }
 
 TEST_F(UncaughtFailure, MemoryThatIsNotThereIsAFailureToo) {

@@ -1,0 +1,169 @@
+#include "core/journal.h"
+
+#include <gtest/gtest.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <filesystem>
+
+#include "core/job_file.h"
+#include "tests/core/test_support.h"
+
+namespace halvane {
+namespace {
+
+class JournalTest : public testing::Test {
+ protected:
+  /// The entries that are handed out, each kept or not.
+  std::vector<JournalEntry> Left(bool keep = true) {
+    std::vector<JournalEntry> entries;
+    KeepLeftJournals(folder_.path(), [&](const JournalEntry& entry) {
+      entries.push_back(entry);
+      return keep;
+    });
+    return entries;
+  }
+
+  const TemporaryFolder folder_;
+};
+
+JournalEntry Entry(std::string jobFile = "/jobs/press line.qjt") {
+  return {EmptyJobText(), std::move(jobFile), true};
+}
+
+void ExpectSame(const JournalEntry& entry, const JournalEntry& expected) {
+  EXPECT_EQ(entry.job, expected.job);
+  EXPECT_EQ(entry.jobFile, expected.jobFile);
+  EXPECT_EQ(entry.markedChanged, expected.markedChanged);
+}
+
+TEST_F(JournalTest, HoldsTheJobAsAFileAndBehindItWhereItBelongs) {
+  Journal journal(folder_.path());
+  EXPECT_EQ(journal.path(), "");
+  ASSERT_TRUE(journal.Write(Entry("/jobs/50% \"日\n.qjt")));
+  EXPECT_EQ(BytesOf(journal.path()),
+            EmptyJobText() + "\"halvane-journal\",1,\"/jobs/50%25%20%22%E6%97%A5%0A.qjt\",-1\r\n");
+  Module1 = JobState{};
+  Module1.JobFileName = journal.path();
+  EXPECT_EQ(OpenJobFile(), OpenOutcome::Opened);
+}
+
+TEST_F(JournalTest, EveryEntryReadsBackAsItWas) {
+  std::string everyByte;
+  for (int byte = 1; byte < 256; ++byte) everyByte += static_cast<char>(byte);
+  // A job whose text has an open quote and a line of a journal in it.
+  const std::string strange = EmptyJobWith(4, "\"a\"b\r\n\"halvane-journal\",1,\"x\",-1\r\n");
+  for (const JournalEntry& entry :
+       {Entry(), Entry(""), Entry(everyByte), JournalEntry{strange, "/a", false}}) {
+    const auto read = ReadJournal(JournalText(entry));
+    ASSERT_TRUE(read);
+    ExpectSame(*read, entry);
+  }
+}
+
+TEST_F(JournalTest, WhatIsNoWholeJournalIsNotRead) {
+  const std::string whole = JournalText(Entry());
+  for (std::size_t size = 0; size < whole.size(); ++size) {
+    EXPECT_FALSE(ReadJournal(whole.substr(0, size))) << size;
+  }
+  EXPECT_FALSE(ReadJournal("x" + whole));
+  EXPECT_FALSE(ReadJournal(whole + "\r\n"));
+  EXPECT_FALSE(ReadJournal(EmptyJobText() + "\"halvane-journal\",1,\"%4\",-1\r\n"));
+  EXPECT_FALSE(ReadJournal(EmptyJobText() + "\"halvane-journal\",1,\"%ZZ\",-1\r\n"));
+}
+
+TEST_F(JournalTest, OneFileForTheUsersEyesAloneHoldsTheLastEntry) {
+  const mode_t before = umask(0);
+  Journal journal(folder_.File("state/program"));
+  ASSERT_TRUE(journal.Write(Entry()));
+  const std::string path = journal.path();
+  ASSERT_TRUE(journal.Write(Entry("/other")));
+  umask(before);
+  EXPECT_EQ(journal.path(), path);
+  EXPECT_EQ(BytesOf(path), JournalText(Entry("/other")));
+  struct stat status {};
+  ASSERT_EQ(stat(path.c_str(), &status), 0);
+  EXPECT_EQ(status.st_mode & 07777U, 0600U);
+  ASSERT_EQ(stat(folder_.File("state/program").c_str(), &status), 0);
+  EXPECT_EQ(status.st_mode & 07777U, 0700U);
+  EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder_.File("state/program")), {}),
+            1);
+  journal.Remove();
+  EXPECT_EQ(journal.path(), "");
+  EXPECT_FALSE(Exists(path));
+}
+
+TEST_F(JournalTest, SameEntryIsNotWrittenAgain) {
+  Journal journal(folder_.path());
+  ASSERT_TRUE(journal.Write(Entry()));
+  struct stat first {};
+  ASSERT_EQ(stat(journal.path().c_str(), &first), 0);
+  ASSERT_TRUE(journal.Write(Entry()));
+  struct stat second {};
+  ASSERT_EQ(stat(journal.path().c_str(), &second), 0);
+  EXPECT_EQ(first.st_ino, second.st_ino);
+  EXPECT_EQ(first.st_mtim.tv_nsec, second.st_mtim.tv_nsec);
+}
+
+TEST_F(JournalTest, FolderThatTakesNothingIsNoFailure) {
+  WriteBytes(folder_.File("file"), "");
+  Journal journal(folder_.File("file"));
+  EXPECT_FALSE(journal.Write(Entry()));
+  EXPECT_EQ(journal.path(), "");
+  journal.Remove();
+  KeepLeftJournals(folder_.File("file"), [](const JournalEntry&) { return true; });
+  KeepLeftJournals(folder_.File("none"), [](const JournalEntry&) { return true; });
+  KeepLeftJournals("", [](const JournalEntry&) { return true; });
+  EXPECT_EQ(folder_.Names(), "file");
+}
+
+TEST_F(JournalTest, OneThatADeadProgramLeftIsHandedOutAndRemovedWhenKept) {
+  { Journal(folder_.path()).Write(Entry()); }
+  EXPECT_EQ(Left(false).size(), 1U);
+  const auto left = Left();
+  ASSERT_EQ(left.size(), 1U);
+  ExpectSame(left[0], Entry());
+  EXPECT_EQ(folder_.Names(), "");
+}
+
+TEST_F(JournalTest, OnesOfLivingProgramsAreLeftAlone) {
+  Journal living(folder_.path());
+  ASSERT_TRUE(living.Write(Entry("/living")));
+  // The lock goes with each new content.
+  ASSERT_TRUE(living.Write(Entry("/still living")));
+  { Journal(folder_.path()).Write(Entry("/dead")); }
+  const auto left = Left();
+  ASSERT_EQ(left.size(), 1U);
+  EXPECT_EQ(left[0].jobFile, "/dead");
+  EXPECT_EQ(BytesOf(living.path()), JournalText(Entry("/still living")));
+}
+
+TEST_F(JournalTest, ForeignAndHalfWrittenFilesStayAndAWritersPartGoes) {
+  WriteBytes(folder_.File("journal-half.qjt"), EmptyJobText());
+  WriteBytes(folder_.File("journal-foreign.qjt"), "notes");
+  WriteBytes(folder_.File("journal-notes.txt"), JournalText(Entry()));
+  WriteBytes(folder_.File("other.qjt"), JournalText(Entry()));
+  WriteBytes(folder_.File("elsewhere"), JournalText(Entry()));
+  ASSERT_EQ(symlink("elsewhere", folder_.File("journal-link.qjt").c_str()), 0);
+  ASSERT_EQ(mkfifo(folder_.File("journal-pipe.qjt").c_str(), 0600), 0);
+  std::filesystem::create_directory(folder_.File("journal-folder.qjt"));
+  const std::string names = folder_.Names();
+  WriteBytes(folder_.File("journal-killed.qjt.part"), "\"qjt\",1");
+  EXPECT_TRUE(Left().empty());
+  EXPECT_EQ(folder_.Names(), names);
+}
+
+TEST_F(JournalTest, OneThatCannotBeWrittenKeepsTheEntryBefore) {
+  Journal journal(folder_.path());
+  ASSERT_TRUE(journal.Write(Entry()));
+  const std::string path = journal.path();
+  // In the way of what is written next.
+  std::filesystem::create_directory(path + ".part");
+  EXPECT_FALSE(journal.Write(Entry("/other")));
+  EXPECT_EQ(BytesOf(path), JournalText(Entry()));
+  EXPECT_EQ(journal.path(), path);
+}
+
+}  // namespace
+}  // namespace halvane
