@@ -1,8 +1,17 @@
 #include "reporter/opened_job.h"
 
+#include <utility>
+
 #include "core/job_file.h"
 
 namespace halvane {
+
+void Names::Swap() {
+  std::swap(analyst_, Module1.JobAnalyst);
+  std::swap(job_, Module1.JobName);
+  std::swap(workstation_, Module1.JobWorkstationId);
+  std::swap(tasks_, Module1.TaskNames);
+}
 
 std::optional<ReportFailure> OpenAfresh(const std::string& file, LengthUnit units) {
   return Try([&file, units]() -> std::optional<ReportFailure> {
