@@ -98,7 +98,8 @@ void JobTextReader::ReadConstants() {
 
 JobTextReader::FieldText JobTextReader::NextField(const FieldName& name) {
   const std::size_t start = BlanksEnd(text_, position_);
-  if (start == text_.size()) return NextFieldOfFile(name);
+  // Of a file nothing is here, and positions are those in the file.
+  if (start >= text_.size()) return NextFieldOfFile(name);
   fieldStart_ = start;
   if (text_[start] != '"') {
     // Looks for a number on the way to the separator, so that most fields are gone through once.
