@@ -33,8 +33,8 @@ void ReadJobFile();
 /// task count that no array can have, which leaves the file closed.
 ///
 /// A file shorter than `JobText::Limits::inMemory` needs five fields to be told that it is no job
-/// file: it is `InputPastEnd` before. A longer one is told so by its first bytes alone, whether five
-/// fields end within them or not.
+/// file: it is `InputPastEnd` before. A longer one is told so by its first bytes alone, whether
+/// five fields end within them or not.
 OpenOutcome OpenJobFile();
 
 /// The two steps of `OpenJobFile` behind the opening of the file, for who looks closer at its text:

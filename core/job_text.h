@@ -20,7 +20,8 @@ class JobText {
  public:
   struct Limits {
     std::size_t inMemory = std::size_t{1} << 20;  ///< bytes; a file of this size or more is long
-    std::size_t block = std::size_t{1} << 16;  ///< bytes of a long file looked at together, 4 or more
+    std::size_t block = std::size_t{1}
+                        << 16;  ///< bytes of a long file looked at together, 4 or more
   };
 
   /// Reads a short file, and of a long one no more than its first `Limits::inMemory` bytes. `file`

@@ -8,8 +8,8 @@ namespace halvane {
 /// Whether `bytes` is well-formed UTF-8 (shortest forms, no surrogates).
 bool IsUtf8(std::string_view bytes);
 
-/// How many of `bytes` stand before a character of UTF-8 that they end in the middle of: all of them
-/// where there is none.
+/// How many of `bytes` stand before a character of UTF-8 that they end in the middle of: all of
+/// them where there is none.
 std::size_t WholeCharacters(std::string_view bytes);
 
 /// Appends a character, which has to be no surrogate, as UTF-8.

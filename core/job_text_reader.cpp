@@ -68,8 +68,7 @@ std::string ShownField(std::string_view found) {
   return std::string(found.substr(0, end)) + "...";
 }
 
-JobReadFailure::JobReadFailure(FailureKind kind, int line, const FieldName& name,
-                               std::string found)
+JobReadFailure::JobReadFailure(FailureKind kind, int line, const FieldName& name, std::string found)
     : RuntimeFailure(kind, Where(line, name, found)),
       line_(line),
       field_(name.text()),

@@ -25,8 +25,8 @@ struct FieldNote {
 };
 
 /// Reads a job and notes every field, repeated ones as often as they stand. For `VisitJobFields`;
-/// throws as `JobTextReader` does. A text that is longer than any name goes into its note alone: the
-/// job has no copy of it afterwards.
+/// throws as `JobTextReader` does. A text that is longer than any name goes into its note alone:
+/// the job has no copy of it afterwards.
 class FieldNotes {
  public:
   /// `reader` stands in front of the first field; its text has to outlive the notes.

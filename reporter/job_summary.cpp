@@ -34,7 +34,8 @@ std::vector<std::string> Summarise(JobSummary& summary, const std::string& file,
     summary.workstation.clear();
     summary.cells.clear();
     return {Complaint(file, *summary.failure)};
-  }  summary.analyst = NameFrom(Module1.JobAnalyst);
+  }
+  summary.analyst = NameFrom(Module1.JobAnalyst);
   summary.job = NameFrom(Module1.JobName);
   summary.workstation = NameFrom(Module1.JobWorkstationId);
 

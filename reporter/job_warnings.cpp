@@ -12,7 +12,8 @@ namespace halvane {
 namespace {
 
 JobProblem Warning(const FieldNotes& notes, const FieldNote& note, std::string message) {
-  return {true, notes.LineOf(note), note.name.text(), std::string(note.found()), std::move(message)};
+  return {true, notes.LineOf(note), note.name.text(), std::string(note.found()),
+          std::move(message)};
 }
 
 bool IsText(const TaggedField& field) { return std::holds_alternative<std::string>(field.value()); }
