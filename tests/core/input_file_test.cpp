@@ -33,6 +33,37 @@ TEST(InputFileTest, FileWithoutASizeIsReadToItsEnd) {
   EXPECT_NE(file.ReadAll().find("Name:"), std::string::npos);
 }
 
+TEST(InputFileTest, LongerFileGivesItsFirstBytesAndAnyOthers) {
+  const TemporaryFolder folder;
+  WriteBytes(folder.File("a"), "0123456789");
+  InputFile file(folder.File("a"));
+  EXPECT_EQ(file.ReadAll(4), "0123");
+  EXPECT_EQ(file.ReadAll(10), "0123456789");
+  EXPECT_EQ(file.ReadAll(), "0123456789");
+  std::string buffer(4, 'x');
+  EXPECT_EQ(file.ReadAt(5, buffer.data(), 4), 4);
+  EXPECT_EQ(buffer, "5678");
+  EXPECT_EQ(file.ReadAt(8, buffer.data(), 4), 2);
+  EXPECT_EQ(buffer, "8978");
+  EXPECT_EQ(file.ReadAt(10, buffer.data(), 4), 0);
+}
+
+TEST(InputFileTest, LongJobThatChangesWhileItIsReadFails) {
+  const TemporaryFolder folder;
+  const std::string path = folder.File("job.qjt");
+  const std::string job = EmptyJobText();
+  for (const std::string& after : {job + "0", std::string("\"qjt\""), std::string()}) {
+    WriteBytes(path, job);
+    Module1 = JobState{};
+    InputFile file(path);
+    JobText text(file, {job.size(), 16});
+    text.FindFields();
+    WriteBytes(path, after);
+    EXPECT_EQ(FailureOf([&text] { ReadJobText(text); }), "FileError") << after.size();
+    EXPECT_TRUE(Module1.JobFileOpen);
+  }
+}
+
 TEST(InputFileTest, FileThatChangesWhileItIsReadFails) {
   const TemporaryFolder folder;
   const std::string path = folder.File("job.qjt");
