@@ -1,6 +1,25 @@
 #include "core/job_fields.h"
 
+#include <algorithm>
+
 namespace halvane {
+namespace {
+
+/// Counts the fields of the lines that it is run over.
+class FieldCounter {
+ public:
+  void HeaderLine() { count_ += kMarkerLineFields; }
+  template <typename... T>
+  void Line(const JobField<T>&... /*fields*/) {
+    count_ += sizeof...(T);
+  }
+  [[nodiscard]] std::size_t count() const { return count_; }
+
+ private:
+  std::size_t count_ = 0;
+};
+
+}  // namespace
 
 std::string FieldName::text() const {
   std::string name(field);
@@ -8,6 +27,17 @@ std::string FieldName::text() const {
   name.append("(").append(std::to_string(first));
   if (second >= 0) name.append(", ").append(std::to_string(second));
   return name.append(")");
+}
+
+std::size_t CountJobFields(double taskCount) {
+  JobState job;
+  FieldCounter head;
+  VisitJobFields(job, head);
+  FieldCounter task;
+  // All tasks have the same fields, and slot 0 is always there.
+  VisitTaskFields(job, task, 0);
+  const double tasks = std::clamp(taskCount, 0.0, kHighestTask + 1.0);
+  return head.count() + static_cast<std::size_t>(tasks) * task.count();
 }
 
 }  // namespace halvane

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -9,6 +10,8 @@ namespace halvane {
 
 /// The marker that the first field of a job file has to be.
 inline constexpr std::string_view kJobFileMarker = "qjt";
+/// The fields of the first line: the marker and four constants.
+inline constexpr std::size_t kMarkerLineFields = 5;
 
 /// The name of a field as messages show it: the field of `JobState` and its subscripts.
 struct FieldName {
@@ -112,5 +115,9 @@ void VisitTaskFields(JobState& job, File& file, int task) {
               Named("CtdPostureDuration", job.CtdPostureDuration.at(task, slot), task, slot));
   }
 }
+
+/// How many fields a job of `taskCount` tasks has, repeated ones included. No reading comes behind
+/// task 41, so more tasks count as 41.
+std::size_t CountJobFields(double taskCount);
 
 }  // namespace halvane

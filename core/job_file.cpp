@@ -1,5 +1,6 @@
 #include "core/job_file.h"
 
+#include <memory>
 #include <optional>
 
 #include "core/job_fields.h"
@@ -35,24 +36,26 @@ void PrepareRead() {
   Module1.RulaTrunkFactors.fill(0);
 }
 
-/// Opens the file and gives its text. From here on the file counts as open.
-std::string OpenForInput() {
+/// Opens the file, which counts as open from here on.
+std::unique_ptr<InputFile> OpenForInput() {
   TestThatNoFileIsOpen();
-  InputFile file(Module1.JobFileName);
+  auto file = std::make_unique<InputFile>(Module1.JobFileName);
   Module1.JobFileOpen = true;
-  return DecodeJobText(file.ReadAll());
+  return file;
 }
 
-void ReadFields(std::string_view text) {
-  JobTextReader reader(text);
+void ReadFields(const JobText& text) {
+  JobTextReader reader = text.Reader();
   try {
     VisitJobFields(Module1, reader);
   } catch (const JobReadFailure&) {
     throw;
   } catch (const RuntimeFailure& failure) {
-    if (Module1.TaskNames.upperBound() <= kHighestTask) throw;
+    const bool isTask41 = failure.kind() == FailureKind::SubscriptOutOfRange;
+    if (!isTask41 || Module1.TaskNames.upperBound() <= kHighestTask) throw;
     throw reader.FailureAtNextField(failure.kind(), {"CtdLoadHeld", kHighestTask + 1, 0});
   }
+  text.TestUnchanged();
   Module1.JobFileOpen = false;
   Module1.JobInNoFile = false;
 }
@@ -101,19 +104,28 @@ void WriteJobFile() {
 
 void ReadJobFile() {
   PrepareRead();
-  ReadFields(OpenForInput());
+  const auto file = OpenForInput();
+  JobText text(*file);
+  text.FindFields();
+  ReadFields(text);
 }
 
 OpenOutcome OpenJobFile() {
-  const std::string text = OpenForInput();
+  const auto file = OpenForInput();
+  JobText text(*file);
   if (SizeForJobText(text) == OpenOutcome::NotAJobFile) return OpenOutcome::NotAJobFile;
-  // The same text again instead of a second reading, so that no change in between can come through.
+  // The same text again, so that no change in between can come through.
   ReadJobText(text);
   return OpenOutcome::Opened;
 }
 
-OpenOutcome SizeForJobText(std::string_view text) {
-  JobTextReader reader(text);
+OpenOutcome SizeForJobText(JobText& text) {
+  if (text.IsForeign()) {
+    Module1.JobFileOpen = false;
+    return OpenOutcome::NotAJobFile;
+  }
+  text.FindFields();
+  JobTextReader reader = text.Reader();
   const bool isJobFile = reader.ReadMarkerLine();
   if (isJobFile) reader.Line(Named("TaskCount", Module1.TaskCount));
   Module1.JobFileOpen = false;
@@ -122,7 +134,7 @@ OpenOutcome SizeForJobText(std::string_view text) {
   return OpenOutcome::Opened;
 }
 
-void ReadJobText(std::string_view text) {
+void ReadJobText(const JobText& text) {
   PrepareRead();
   Module1.JobFileOpen = true;
   ReadFields(text);

@@ -111,12 +111,25 @@ void AppendUtf8(std::string& text, char32_t codePoint) {
 }
 
 bool IsUtf8(std::string_view bytes) {
+  if (IsAllAscii(bytes)) return true;
   while (!bytes.empty()) {
     const auto character = DecodeOne(bytes);
     if (!character) return false;
     bytes.remove_prefix(character->length);
   }
   return true;
+}
+
+std::size_t WholeCharacters(std::string_view bytes) {
+  // No character has more than four bytes.
+  for (std::size_t tail = 1; tail <= 3 && tail <= bytes.size(); ++tail) {
+    const auto byte = static_cast<unsigned char>(bytes[bytes.size() - tail]);
+    if (byte < 0x80) break;
+    if (byte < 0xC0) continue;
+    const std::size_t length = byte < 0xE0 ? 2 : byte < 0xF0 ? 3 : 4;
+    return length > tail ? bytes.size() - tail : bytes.size();
+  }
+  return bytes.size();
 }
 
 std::size_t CharacterCount(std::string_view text) {
@@ -135,11 +148,29 @@ std::string FirstCharacters(std::string_view text, std::size_t count) {
 }
 
 std::string DecodeJobText(std::string bytes) {
-  if (IsAllAscii(bytes) || IsUtf8(bytes)) return bytes;
+  if (IsUtf8(bytes)) return bytes;
   std::string text;
-  text.reserve(bytes.size() + bytes.size() / 8);
-  for (const char byte : bytes) AppendUtf8(text, CodePointOf(static_cast<unsigned char>(byte)));
+  text.reserve(Utf8SizeOfWindows1252(bytes));
+  AppendFromWindows1252(text, bytes);
   return text;
+}
+
+void AppendFromWindows1252(std::string& text, std::string_view bytes) {
+  if (IsAllAscii(bytes)) {
+    text += bytes;
+    return;
+  }
+  for (const char byte : bytes) AppendUtf8(text, CodePointOf(static_cast<unsigned char>(byte)));
+}
+
+std::size_t Utf8SizeOfWindows1252(std::string_view bytes) {
+  std::size_t size = bytes.size();
+  for (const char c : bytes) {
+    const auto byte = static_cast<unsigned char>(c);
+    if (byte < 0x80) continue;
+    size += CodePointOf(byte) < 0x800 ? 1 : 2;
+  }
+  return size;
 }
 
 std::string EncodeJobText(std::string text) {

@@ -4,9 +4,15 @@
 #include <array>
 #include <cstddef>
 #include <limits>
+#include <utility>
+
+#include "core/long_job_text.h"
 
 namespace halvane {
 namespace {
+
+/// From this size on, in bytes, the text of a field is handed over to the job rather than copied.
+constexpr std::size_t kHandedOver = 4096;
 
 /// How much of a field a message shows, in bytes.
 constexpr std::size_t kShownLength = 40;
@@ -62,31 +68,37 @@ std::string ShownField(std::string_view found) {
   return std::string(found.substr(0, end)) + "...";
 }
 
-JobReadFailure::JobReadFailure(FailureKind kind, int line, const FieldName& name,
-                               std::string_view found)
+JobReadFailure::JobReadFailure(FailureKind kind, int line, const FieldName& name, std::string found)
     : RuntimeFailure(kind, Where(line, name, found)),
       line_(line),
       field_(name.text()),
-      found_(found) {}
+      found_(std::move(found)) {}
 
 bool JobTextReader::ReadMarkerLine() {
-  static constexpr std::array<std::string_view, 5> kNames{"marker", "constant 1", "constant 2",
-                                                          "constant 3", "constant 4"};
-  bool isJobFile = false;
+  const bool isJobFile = ReadMarker();
+  ReadConstants();
+  return isJobFile;
+}
+
+bool JobTextReader::ReadMarker() {
+  TaggedField marker;
+  ReadField({"marker"}, marker);
+  return marker == TaggedField(kJobFileMarker);
+}
+
+void JobTextReader::ReadConstants() {
+  static constexpr std::array<std::string_view, kMarkerLineFields - 1> kNames{
+      "constant 1", "constant 2", "constant 3", "constant 4"};
   for (const std::string_view name : kNames) {
     TaggedField scratch;
     ReadField({name}, scratch);
-    if (name == kNames.front()) isJobFile = scratch == TaggedField(kJobFileMarker);
   }
-  return isJobFile;
 }
 
 JobTextReader::FieldText JobTextReader::NextField(const FieldName& name) {
   const std::size_t start = BlanksEnd(text_, position_);
-  if (start == text_.size()) {
-    fieldStart_ = position_ = text_.size();
-    throw JobReadFailure(FailureKind::InputPastEnd, fieldLine(), name, {});
-  }
+  // Of a file nothing is here, and positions are those in the file.
+  if (start >= text_.size()) return NextFieldOfFile(name);
   fieldStart_ = start;
   if (text_[start] != '"') {
     // Looks for a number on the way to the separator, so that most fields are gone through once.
@@ -105,6 +117,21 @@ JobTextReader::FieldText JobTextReader::NextField(const FieldName& name) {
   return {lastText_, true, {}};
 }
 
+JobTextReader::FieldText JobTextReader::NextFieldOfFile(const FieldName& name) {
+  // What the field before has taken, which may be as long as the file, makes room first.
+  std::string().swap(textOfFile_);
+  if (file_ == nullptr || nextOfFile_ == file_->fields().size()) {
+    fieldStart_ = position_ = file_ == nullptr ? text_.size() : file_->end();
+    throw JobReadFailure(FailureKind::InputPastEnd, fieldLine(), name, {});
+  }
+  const FieldPlace& field = file_->fields()[nextOfFile_++];
+  fieldStart_ = field.start;
+  position_ = field.next;
+  textOfFile_ = file_->TextOf(field);
+  lastText_ = textOfFile_;
+  return {lastText_, field.isQuoted, {}};
+}
+
 void JobTextReader::PassSeparator(std::size_t separator) {
   const bool lineEndOfTwo =
       separator + 1 < text_.size() && text_[separator] == '\r' && text_[separator + 1] == '\n';
@@ -112,18 +139,38 @@ void JobTextReader::PassSeparator(std::size_t separator) {
 }
 
 JobReadFailure JobTextReader::FailureAtLastField(FailureKind kind, const FieldName& name) const {
-  return {kind, fieldLine(), name, lastText_};
+  return {kind, fieldLine(), name, std::string(lastText_)};
 }
 
-JobReadFailure JobTextReader::FailureAtNextField(FailureKind kind, const FieldName& name) const {
-  // A copy reads ahead.
-  JobTextReader next(*this);
-  std::string_view found;
-  if (BlanksEnd(text_, position_) < text_.size()) found = next.NextField(name).text;
-  return {kind, LineAt(position_), name, found};
+JobReadFailure JobTextReader::FailureAtNextField(FailureKind kind, const FieldName& name) {
+  const int line = LineAt(position_);
+  std::string found;
+  try {
+    NextField(name);
+    found = TakeLastText();
+  } catch (const JobReadFailure&) {
+    // There is none.
+  }
+  return {kind, line, name, std::move(found)};
+}
+
+/// Stores the text of the field that was read last. Handed over, it stands where it stood, so that
+/// `lastText_` is right in the job too.
+template <typename T>
+void JobTextReader::StoreText(std::string_view text, T& target) {
+  if (textOfFile_.size() < kHandedOver) {
+    target = text;
+  } else {
+    target = std::move(textOfFile_);
+  }
+}
+
+std::string JobTextReader::TakeLastText() {
+  return file_ == nullptr ? std::string(lastText_) : std::move(textOfFile_);
 }
 
 int JobTextReader::LineAt(std::size_t position) const {
+  if (file_ != nullptr) return file_->LineAt(position);
   int line = 1;
   for (std::size_t i = 0; i < position; ++i) {
     const bool returnAlone = text_[i] == '\r' && (i + 1 == text_.size() || text_[i + 1] != '\n');
@@ -132,7 +179,7 @@ int JobTextReader::LineAt(std::size_t position) const {
   return line;
 }
 
-void JobTextReader::Read(FieldText field, std::string& target) { target = field.text; }
+void JobTextReader::Read(FieldText field, std::string& target) { StoreText(field.text, target); }
 
 void JobTextReader::Read(FieldText field, Integer& target) {
   target = ToInteger(field.number.length > 0 ? field.number.value : NumberIn(field.text));
@@ -144,7 +191,7 @@ void JobTextReader::Read(FieldText field, double& target) {
 
 void JobTextReader::Read(FieldText field, TaggedField& target) {
   if (field.quoted) {
-    target = field.text;
+    StoreText(field.text, target);
   } else if (field.number.length > 0) {
     Store(field.number.value, !field.number.hasPoint, target);
   } else if (field.text.empty()) {
@@ -152,7 +199,22 @@ void JobTextReader::Read(FieldText field, TaggedField& target) {
   } else if (const auto number = WholeTextAsNumber(field.text)) {
     Store(*number, field.text.find_first_of(".Ee") == std::string_view::npos, target);
   } else {
-    target = field.text;
+    StoreText(field.text, target);
+  }
+}
+
+double TaskCountAt(JobTextReader& reader) {
+  try {
+    TaggedField taskCount;
+    reader.HeaderLine();
+    reader.Line(Named("TaskCount", taskCount));
+    return taskCount.AsDouble();
+  } catch (const JobReadFailure&) {
+    return 0;
+  } catch (const RuntimeFailure& failure) {
+    // A text that reads as a number beyond a double.
+    if (failure.kind() != FailureKind::Overflow) throw;
+    return 0;
   }
 }
 

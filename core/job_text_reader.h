@@ -2,6 +2,7 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "core/job_fields.h"
 #include "core/plain_number.h"
@@ -9,17 +10,21 @@
 
 namespace halvane {
 
+class LongJobText;
+
 /// The text of a field as messages show it: a long one is cut, which "..." behind it tells.
 std::string ShownField(std::string_view found);
 
 /// A job file whose text could not be taken: where, which field, and what stood there.
 class JobReadFailure : public RuntimeFailure {
  public:
-  JobReadFailure(FailureKind kind, int line, const FieldName& name, std::string_view found);
+  JobReadFailure(FailureKind kind, int line, const FieldName& name, std::string found);
 
   [[nodiscard]] int line() const { return line_; }                   ///< counted from 1
   [[nodiscard]] const std::string& field() const { return field_; }  ///< "Hand", "TaskNames(2)"
   [[nodiscard]] const std::string& found() const { return found_; }  ///< the text as it stands
+  /// The same for who needs nothing else of it afterwards: it may be as long as the file.
+  [[nodiscard]] std::string TakeFound() { return std::move(found_); }
 
  private:
   int line_;
@@ -37,10 +42,16 @@ class JobTextReader {
  public:
   /// `text` is UTF-8 and has to outlive the reader.
   explicit JobTextReader(std::string_view text) : text_(text) {}
+  /// Takes the fields from a long file, which has to outlive the reader. Throws `FileError` besides
+  /// when the file cannot be read.
+  explicit JobTextReader(const LongJobText& file) : file_(&file) {}
 
   /// Reads the five fields of the first line and tells whether the first is the marker. All five
   /// are scratch values of any kind.
   bool ReadMarkerLine();
+  /// Its two parts.
+  bool ReadMarker();
+  void ReadConstants();
 
   void HeaderLine() { ReadMarkerLine(); }
 
@@ -52,6 +63,7 @@ class JobTextReader {
   /// Where the field that was read last begins, its text as it stands, and the line of a position,
   /// counted from 1.
   [[nodiscard]] std::size_t lastStart() const { return fieldStart_; }
+  /// The text stands until another field is read, or until the field's place in the job changes.
   [[nodiscard]] std::string_view lastText() const { return lastText_; }
   [[nodiscard]] int LineAt(std::size_t position) const;
   /// Where the next field begins.
@@ -59,8 +71,8 @@ class JobTextReader {
 
   /// The failure of what was to be done with the field that was read last.
   [[nodiscard]] JobReadFailure FailureAtLastField(FailureKind kind, const FieldName& name) const;
-  /// The failure of a field that has no place in the job, so that it was not read.
-  [[nodiscard]] JobReadFailure FailureAtNextField(FailureKind kind, const FieldName& name) const;
+  /// The failure of a field that has no place in the job: it is passed without being stored.
+  [[nodiscard]] JobReadFailure FailureAtNextField(FailureKind kind, const FieldName& name);
 
  private:
   struct FieldText {
@@ -77,23 +89,36 @@ class JobTextReader {
     } catch (const JobReadFailure&) {
       throw;
     } catch (const RuntimeFailure& failure) {
-      throw JobReadFailure(failure.kind(), fieldLine(), name, field.text);
+      throw JobReadFailure(failure.kind(), fieldLine(), name, TakeLastText());
     }
   }
 
   FieldText NextField(const FieldName& name);
+  /// Where no text is left in memory.
+  FieldText NextFieldOfFile(const FieldName& name);
   void PassSeparator(std::size_t separator);
   [[nodiscard]] int fieldLine() const { return LineAt(fieldStart_); }
+  [[nodiscard]] std::string TakeLastText();
 
-  static void Read(FieldText field, std::string& target);
+  void Read(FieldText field, std::string& target);
   static void Read(FieldText field, Integer& target);
   static void Read(FieldText field, double& target);
-  static void Read(FieldText field, TaggedField& target);
+  void Read(FieldText field, TaggedField& target);
+  template <typename T>
+  void StoreText(std::string_view text, T& target);
 
   std::string_view text_;
   std::size_t position_ = 0;
   std::size_t fieldStart_ = 0;
   std::string_view lastText_;
+
+  const LongJobText* file_ = nullptr;  ///< where the fields are taken from one
+  std::size_t nextOfFile_ = 0;
+  std::string textOfFile_;  ///< of the field that was read last
 };
+
+/// The number of tasks that `reader`, which stands in front of the first field, finds; 0 where it
+/// cannot be read. The reader then stands behind it.
+double TaskCountAt(JobTextReader& reader);
 
 }  // namespace halvane

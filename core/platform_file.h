@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -8,34 +7,6 @@
 #include "core/kept_copy.h"
 
 namespace halvane {
-
-/// A file opened for reading. Every failure is a `RuntimeFailure` of kind `FileError` that names
-/// the file and the system's reason.
-class InputFile {
- public:
-  /// Throws for a path that cannot be opened or is no regular file (a folder, a pipe, a device).
-  explicit InputFile(const std::string& path);
-  ~InputFile();
-  InputFile(const InputFile&) = delete;
-  InputFile& operator=(const InputFile&) = delete;
-
-  /// The whole content as bytes. Throws when the file has changed since it was opened: what was
-  /// read may be half of the old content and half of the new.
-  std::string ReadAll();
-
- private:
-  /// What changes when somebody writes into the file, as well as the system can tell.
-  struct Stamp {
-    std::int64_t size = 0;
-    std::int64_t seconds = 0;
-    std::int64_t nanoseconds = 0;
-    bool operator==(const Stamp&) const = default;
-  };
-
-  std::string path_;
-  int descriptor_ = -1;
-  Stamp opened_;
-};
 
 /// Replaces the content of a file in place, so that links, mode and owner stay as they are, and one
 /// whole version is on the disk at any moment, whatever fails and whenever the program is killed:

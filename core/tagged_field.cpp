@@ -9,7 +9,12 @@ double TaggedField::AsDouble() const {
   return 0;
 }
 
-std::string TaggedField::AsText() const {
+std::string TaggedField::AsText() && {
+  if (auto* text = std::get_if<std::string>(&value_)) return std::move(*text);
+  return std::as_const(*this).AsText();
+}
+
+std::string TaggedField::AsText() const& {
   if (const auto* text = std::get_if<std::string>(&value_)) return *text;
   if (std::holds_alternative<std::monostate>(value_)) return {};
   return PlainText(AsDouble());

@@ -52,7 +52,9 @@ class TaggedField {
   [[nodiscard]] double AsDouble() const;
 
   /// What a text box shows: the text, the plain text of the number, nothing when empty.
-  [[nodiscard]] std::string AsText() const;
+  [[nodiscard]] std::string AsText() const&;
+  /// The same of a field that is not needed any longer, whose text may be long.
+  [[nodiscard]] std::string AsText() &&;
 
   /// The kind and its content, for the job file.
   [[nodiscard]] const Value& value() const { return value_; }

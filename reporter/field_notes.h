@@ -1,6 +1,9 @@
 #pragma once
 
+#include <string>
 #include <string_view>
+#include <utility>
+#include <variant>
 #include <vector>
 
 #include "core/job_text_reader.h"
@@ -10,17 +13,24 @@ namespace halvane {
 /// One field of a job file as it stands there.
 struct FieldNote {
   FieldName name;
-  std::size_t start;       ///< where it begins in the text
-  std::string_view found;  ///< its text, without quotes
-  TaggedField value;       ///< what was read, as a number where its place holds one
+  std::size_t start;   ///< where it begins in the text
+  TaggedField value;   ///< what was read, as a number where its place holds one
+  std::string number;  ///< the text of a field that was read as a number, as it stands
+
+  /// Its text, without quotes.
+  [[nodiscard]] std::string_view found() const {
+    const auto* text = std::get_if<std::string>(&value.value());
+    return text != nullptr ? *text : number;
+  }
 };
 
 /// Reads a job and notes every field, repeated ones as often as they stand. For `VisitJobFields`;
-/// throws as `JobTextReader` does.
+/// throws as `JobTextReader` does. A text that is longer than any name goes into its note alone:
+/// the job has no copy of it afterwards.
 class FieldNotes {
  public:
-  /// `text` is UTF-8 and has to outlive the notes.
-  explicit FieldNotes(std::string_view text) : reader_(text) {}
+  /// `reader` stands in front of the first field; its text has to outlive the notes.
+  explicit FieldNotes(JobTextReader reader) : reader_(std::move(reader)) {}
 
   void HeaderLine() { reader_.HeaderLine(); }
 
@@ -39,8 +49,23 @@ class FieldNotes {
   template <typename T>
   void Note(const JobField<T>& field) {
     reader_.Line(field);
-    notes_.push_back({field.name, reader_.lastStart(), reader_.lastText(), field.value});
+    const std::string* text = TextIn(field.value);
+    std::string number;
+    if (text == nullptr) number = reader_.lastText();
+    // The task count is looked at again when the tasks are read.
+    const bool isMoved =
+        text != nullptr && text->size() > kLongestName && field.name.field != "TaskCount";
+    TaggedField value = isMoved ? TaggedField(std::move(field.value)) : TaggedField(field.value);
+    notes_.push_back({field.name, reader_.lastStart(), std::move(value), std::move(number)});
   }
+
+  static const std::string* TextIn(const std::string& text) { return &text; }
+  static const std::string* TextIn(const TaggedField& field) {
+    return std::get_if<std::string>(&field.value());
+  }
+  static const std::string* TextIn(double /*number*/) { return nullptr; }
+
+  static constexpr std::size_t kLongestName = 4096;  ///< bytes
 
   JobTextReader reader_;
   std::vector<FieldNote> notes_;

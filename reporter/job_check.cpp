@@ -1,10 +1,10 @@
 #include "reporter/job_check.h"
 
+#include <utility>
+
 #include "core/job_file.h"
 #include "core/job_state.h"
 #include "core/job_text_encoding.h"
-#include "core/job_text_reader.h"
-#include "core/platform_file.h"
 #include "reporter/job_warnings.h"
 
 namespace halvane {
@@ -22,22 +22,29 @@ std::string MessageOf(const JobReadFailure& failure) {
   }
 }
 
-JobProblem ProblemFrom(const JobReadFailure& failure) {
-  return {false, failure.line(), failure.field(), failure.found(), MessageOf(failure)};
+JobProblem ProblemFrom(JobReadFailure& failure) {
+  const std::string message = MessageOf(failure);
+  return {false, failure.line(), failure.field(), failure.TakeFound(), message};
 }
 
-JobProblem ForeignMarker(std::string_view text) {
-  JobTextReader reader(text);
-  TaggedField marker;
-  reader.Line(Named("marker", marker));
-  return {false, reader.LineAt(reader.lastStart()), "marker", std::string(reader.lastText()),
+JobProblem ForeignMarker(const JobText& text) {
+  JobTextReader reader = text.Reader();
+  std::string marker;
+  try {
+    reader.Line(Named("marker", marker));
+  } catch (const JobReadFailure&) {
+    // Nothing but blanks, as far as a long file was looked at.
+  }
+  // Of a long file the field may be cut anywhere.
+  marker.resize(WholeCharacters(marker));
+  return {false, reader.LineAt(reader.lastStart()), "marker", DecodeJobText(std::move(marker)),
           "is not \"" + std::string(kJobFileMarker) + "\", so this is no job file"};
 }
 
 /// Tells of a task count that no reading can come to the end of.
-void WarnOfTooManyTasks(std::vector<JobProblem>& problems, std::string_view text) {
+void WarnOfTooManyTasks(std::vector<JobProblem>& problems, const JobText& text) {
   if (Module1.TaskCount.AsDouble() < kHighestTask + 1) return;
-  JobTextReader reader(text);
+  JobTextReader reader = text.Reader();
   reader.HeaderLine();
   reader.Line(Named("TaskCount", Module1.TaskCount));
   problems.push_back({true, reader.LineAt(reader.lastStart()), "TaskCount",
@@ -45,8 +52,18 @@ void WarnOfTooManyTasks(std::vector<JobProblem>& problems, std::string_view text
                       "is more than the " + PlainText(kHighestTask) + " tasks of a job"});
 }
 
-void CheckText(JobCheck& check, std::string_view text) {
+/// Frees the texts of the job, of which one may be as long as its file, and keeps the places of its
+/// tasks.
+void EmptyJob() {
+  const JobState released = std::exchange(Module1, JobState{});
+  Module1.TaskCount = released.TaskCount;
+  ResizeTaskArrays();
+}
+
+void CheckText(JobCheck& check, const std::string& path) {
   check.verdict = JobVerdict::Refused;
+  InputFile file(path);
+  JobText text(file);
   try {
     if (SizeForJobText(text) == OpenOutcome::NotAJobFile) {
       check.problems.push_back(ForeignMarker(text));
@@ -55,12 +72,14 @@ void CheckText(JobCheck& check, std::string_view text) {
     check.verdict = JobVerdict::ReadInPart;
     WarnOfTooManyTasks(check.problems, text);
     ReadJobText(text);
-  } catch (const JobReadFailure& failure) {
+  } catch (JobReadFailure& failure) {
     check.problems.push_back(ProblemFrom(failure));
     return;
   }
   check.verdict = JobVerdict::Good;
+  EmptyJob();
   check.problems = WarningsOn(text);
+  text.TestUnchanged();
 }
 
 }  // namespace
@@ -69,7 +88,7 @@ JobCheck CheckJobFile(const std::string& file) {
   JobCheck check;
   check.failure = Try([&]() -> std::optional<ReportFailure> {
     Module1 = JobState{};
-    CheckText(check, DecodeJobText(InputFile(file).ReadAll()));
+    CheckText(check, file);
     return std::nullopt;
   });
   if (check.failure) check.verdict = JobVerdict::Refused;

@@ -35,9 +35,9 @@ std::vector<std::string> Summarise(JobSummary& summary, const std::string& file,
     summary.cells.clear();
     return {Complaint(file, *summary.failure)};
   }
-  summary.analyst = Module1.JobAnalyst.AsText();
-  summary.job = Module1.JobName.AsText();
-  summary.workstation = Module1.JobWorkstationId;
+  summary.analyst = NameFrom(Module1.JobAnalyst);
+  summary.job = NameFrom(Module1.JobName);
+  summary.workstation = NameFrom(Module1.JobWorkstationId);
 
   std::vector<std::string> complaints;
   summary.cells.resize(tools.size());

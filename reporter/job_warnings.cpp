@@ -12,13 +12,16 @@ namespace halvane {
 namespace {
 
 JobProblem Warning(const FieldNotes& notes, const FieldNote& note, std::string message) {
-  return {true, notes.LineOf(note), note.name.text(), std::string(note.found), std::move(message)};
+  return {true, notes.LineOf(note), note.name.text(), std::string(note.found()),
+          std::move(message)};
 }
 
 bool IsText(const TaggedField& field) { return std::holds_alternative<std::string>(field.value()); }
 
 /// Whether two copies of a field are one value, quoted or not.
 bool IsSame(const TaggedField& a, const TaggedField& b) {
+  // Looked at where they stand, since they may be long.
+  if (IsText(a) && IsText(b)) return a == b;
   if (IsText(a) || IsText(b)) return a.AsText() == b.AsText();
   return a.AsDouble() == b.AsDouble();
 }
@@ -31,7 +34,7 @@ void WarnOfCopies(std::vector<JobProblem>& warnings, const FieldNotes& notes) {
       warnings.push_back(Warning(notes, note,
                                  "differs from the copy on line " +
                                      PlainText(notes.LineOf(*before)) + ", \"" +
-                                     ShownField(before->found) + "\"; the later copy counts"));
+                                     ShownField(before->found()) + "\"; the later copy counts"));
     }
     before = &note;
   }
@@ -90,25 +93,25 @@ void WarnOfPairs(std::vector<JobProblem>& warnings, const FieldNotes& notes) {
 }
 
 void WarnOfTextBehindTheEnd(std::vector<JobProblem>& warnings, const FieldNotes& notes,
-                            std::string_view text) {
+                            const JobText& text) {
   // Blanks and line ends are none, nor is the mark that old systems put at the end of a text file.
   const auto isText = [](char c) { return static_cast<unsigned char>(c) > ' '; };
-  const auto* const found = std::find_if(
-      text.begin() + static_cast<std::ptrdiff_t>(notes.reader().position()), text.end(), isText);
-  if (found == text.end()) return;
-  const auto start = static_cast<std::size_t>(found - text.begin());
-  const std::string_view rest = text.substr(start);
+  const std::size_t end = notes.reader().position();
+  const std::string rest = text.From(end);
+  const auto found = std::ranges::find_if(rest, isText);
+  if (found == rest.end()) return;
+  const auto start = static_cast<std::size_t>(found - rest.begin());
   warnings.push_back({true,
-                      notes.reader().LineAt(start),
+                      notes.reader().LineAt(end + start),
                       {},
-                      std::string(rest.substr(0, rest.find_first_of("\r\n"))),
+                      rest.substr(start, rest.find_first_of("\r\n", start) - start),
                       "stands behind the last task and is not read"});
 }
 
 }  // namespace
 
-std::vector<JobProblem> WarningsOn(std::string_view text) {
-  FieldNotes notes(text);
+std::vector<JobProblem> WarningsOn(const JobText& text) {
+  FieldNotes notes(text.Reader());
   VisitJobFields(Module1, notes);
   std::vector<JobProblem> warnings;
   WarnOfCopies(warnings, notes);

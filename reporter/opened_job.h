@@ -3,6 +3,8 @@
 #include <optional>
 #include <span>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "core/job_state.h"
 #include "core/units.h"
@@ -15,15 +17,41 @@ namespace halvane {
 /// job file `file`: nothing of another file comes through. Gives what stopped it.
 std::optional<ReportFailure> OpenAfresh(const std::string& file, LengthUnit units);
 
+/// The text of a name of the job. A long one is taken out of the job, for who runs nothing on it
+/// afterwards that looks at names.
+std::string NameFrom(TaggedField& name);
+std::string NameFrom(std::string& name);
+
+/// The long names of a job, of which one may be as long as its file. They are put aside while the
+/// job is copied, so that there is one of each: no tool of the program stores a name.
+class LongNames {
+ public:
+  /// Moves them out of `Module1`, which is left without them.
+  void PutAside();
+  /// Moves them back to where they were.
+  void PutBack();
+
+ private:
+  std::vector<std::pair<int, TaggedField>> names_;  ///< by the number of the name in the job
+};
+
 /// Runs `action` with each tool and its place in `tools`, `Module1` being the job each time as it
 /// stands when this is called: nothing that one tool stores comes through to the next.
 template <typename Action>
 void ForEachTool(std::span<const ToolRow* const> tools, const Action& action) {
   // Lives on, so that the arrays keep their memory from job to job.
   static JobState opened;
-  if (tools.size() > 1) opened = Module1;
+  LongNames longNames;
   for (std::size_t i = 0; i < tools.size(); ++i) {
-    if (i > 0) Module1 = opened;
+    if (tools.size() > 1) {
+      longNames.PutAside();
+      if (i == 0) {
+        opened = Module1;
+      } else {
+        Module1 = opened;
+      }
+      longNames.PutBack();
+    }
     action(*tools[i], i);
   }
 }

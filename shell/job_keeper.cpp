@@ -4,8 +4,8 @@
 #include <QTimer>
 #include <new>
 
+#include "core/input_file.h"
 #include "core/job_state.h"
-#include "core/platform_file.h"
 #include "core/rescue_copy.h"
 #include "core/runtime_failure.h"
 #include "shell/platform.h"

@@ -73,6 +73,18 @@ TEST_F(JobFileReading, WhatFollowsTheLastTaskIsNotRead) {
   EXPECT_EQ(BytesAfterOpening(EmptyJobText() + "more, \"text"), EmptyJobText());
 }
 
+TEST_F(JobFileReading, WhatFollowsTheLastTaskDoesNotDecideTheEncoding) {
+  const std::string utf8 = EmptyJobWith(4, "\"Łódź\",\"\",\"\",0,8");
+  Open(utf8 + "caf\xE9");
+  EXPECT_EQ(Module1.JobAnalyst, TaggedField("Łódź"));
+  const std::string codePage = EmptyJobWith(4, "\"J\xF6rg\",\"\",\"\",0,8");
+  Open(codePage + "Łódź");
+  EXPECT_EQ(Module1.JobAnalyst, TaggedField("Jörg"));
+  // Where the job cannot be read to its end, all of the file counts.
+  EXPECT_EQ(FailureOf([&] { Open(EmptyJobWith(4, "\"Ł\",\"\xE9\",\"\",x,8")); }), "TypeMismatch");
+  EXPECT_EQ(Module1.JobAnalyst, TaggedField("Å\xC2\x81"));
+}
+
 TEST_F(JobFileReading, ConstantsOfTheFirstLineAreNotLookedAt) {
   EXPECT_EQ(BytesAfterOpening(EmptyJobWith(1, "\"qjt\",,\"x\",99999,2.5")), EmptyJobText());
 }

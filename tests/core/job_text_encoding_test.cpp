@@ -36,6 +36,27 @@ std::vector<std::string> Characters(std::string_view text) {
   return characters;
 }
 
+TEST(JobTextEncoding, CharacterCutAtTheEndIsToldApart) {
+  EXPECT_EQ(WholeCharacters(""), 0);
+  EXPECT_EQ(WholeCharacters("abc"), 3);
+  EXPECT_EQ(WholeCharacters("caf\xC3\xA9"), 5);
+  EXPECT_EQ(WholeCharacters("caf\xC3"), 3);
+  EXPECT_EQ(WholeCharacters("\xE2\x82"), 0);
+  EXPECT_EQ(WholeCharacters("a\xE2"), 1);
+  EXPECT_EQ(WholeCharacters("\xE2\x82\xAC"), 3);
+  EXPECT_EQ(WholeCharacters("a\xF0\x9F\x98"), 1);
+  EXPECT_EQ(WholeCharacters("a\xF0\x9F\x98\x80"), 5);
+  // No character either way.
+  EXPECT_EQ(WholeCharacters("\x80\x80\x80\x80"), 4);
+}
+
+TEST(JobTextEncoding, SizeOfTheCodePageInUtf8IsToldBefore) {
+  for (int byte = 0; byte < 256; ++byte) {
+    const std::string bytes = std::string(1, static_cast<char>(byte)) + "\xFF";
+    EXPECT_EQ(Utf8SizeOfWindows1252(bytes), DecodeJobText(bytes).size()) << byte;
+  }
+}
+
 TEST(JobTextEncoding, EveryByteOfTheUpperHalfHasItsLetter) {
   for (std::size_t row = 0; row < kUpperHalf.size(); ++row) {
     const std::vector<std::string> letters = Characters(kUpperHalf[row]);

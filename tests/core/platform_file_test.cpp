@@ -27,66 +27,6 @@ struct stat StatusOf(const std::string& path) {
 
 mode_t ModeOf(const std::string& path) { return StatusOf(path).st_mode & 07777U; }
 
-TEST(InputFileTest, FileThatMayNotBeReadFails) {
-  const TemporaryFolder folder;
-  const std::string path = folder.File("job.qjt");
-  WriteBytes(path, EmptyJobText());
-  ASSERT_EQ(chmod(path.c_str(), 0000), 0);
-  Module1 = JobState{};
-  Module1.JobFileName = path;
-  const RightsOfNobody rights;
-  EXPECT_EQ(FailureOf(OpenJobFile), "FileError");
-  EXPECT_FALSE(Module1.JobFileOpen);
-}
-
-TEST(InputFileTest, FileWithoutASizeIsReadToItsEnd) {
-  // The system tells size 0 for it, as it does for files that it makes up when they are read.
-  InputFile file("/proc/self/status");
-  EXPECT_NE(file.ReadAll().find("Name:"), std::string::npos);
-}
-
-TEST(InputFileTest, FileThatChangesWhileItIsReadFails) {
-  const TemporaryFolder folder;
-  const std::string path = folder.File("job.qjt");
-  const std::vector<std::pair<std::string, std::string>> rows = {
-      {"longer", EmptyJobText() + "0"}, {"shorter", "\"qjt\""}, {"emptied", ""}};
-  for (const auto& [label, after] : rows) {
-    WriteBytes(path, EmptyJobText());
-    InputFile file(path);
-    WriteBytes(path, after);
-    try {
-      file.ReadAll();
-      ADD_FAILURE() << label;
-    } catch (const RuntimeFailure& failure) {
-      EXPECT_EQ(std::string(failure.what()), "File error: " + path + ": changed while it was read")
-          << label;
-    }
-  }
-}
-
-TEST(InputFileTest, FileOfTheSameLengthThatChangesFails) {
-  const TemporaryFolder folder;
-  const std::string path = folder.File("job.qjt");
-  WriteBytes(path, EmptyJobText("0"));
-  InputFile file(path);
-  WriteBytes(path, EmptyJobText("1"));
-  // Two writes can fall within one tick of the file system's clock.
-  std::filesystem::last_write_time(
-      path, std::filesystem::file_time_type::clock::now() + std::chrono::seconds(1));
-  EXPECT_EQ(FailureOf([&file] { file.ReadAll(); }), "FileError");
-}
-
-TEST(InputFileTest, FileOfTheSameTimeThatChangesFails) {
-  const TemporaryFolder folder;
-  const std::string path = folder.File("job.qjt");
-  WriteBytes(path, EmptyJobText());
-  const auto time = std::filesystem::last_write_time(path);
-  InputFile file(path);
-  WriteBytes(path, EmptyJobText() + "0");
-  std::filesystem::last_write_time(path, time);
-  EXPECT_EQ(FailureOf([&file] { file.ReadAll(); }), "FileError");
-}
-
 TEST(WriteNewFileTest, TakenNameIsLeftAlone) {
   const TemporaryFolder folder;
   WriteBytes(folder.File("a"), "old");

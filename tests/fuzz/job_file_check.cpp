@@ -8,6 +8,7 @@
 
 #include "core/job_fields.h"
 #include "core/job_file.h"
+#include "core/job_text.h"
 #include "core/job_text_encoding.h"
 #include "core/runtime_failure.h"
 
@@ -62,15 +63,58 @@ class TextScan {
   bool allUtf8_ = true;
 };
 
-std::string Open(std::string_view bytes) {
+void StartAfresh(const MemoryFile& file) {
   Module1 = JobState{};
-  const MemoryFile file(bytes);
   Module1.JobFileName = file.path();
+}
+
+/// Starts from `JobState{}`; `open` opens `JobFileName`. What stopped it, if anything, is put into
+/// `told`.
+template <typename Action>
+std::string OutcomeOf(const MemoryFile& file, std::string& told, const Action& open) {
+  StartAfresh(file);
   try {
-    return OpenJobFile() == OpenOutcome::Opened ? "Opened" : "NotAJobFile";
+    return open() == OpenOutcome::Opened ? "Opened" : "NotAJobFile";
+  } catch (const JobReadFailure& failure) {
+    told = failure.what() + failure.found();
+    return std::string(KindName(failure.kind()));
   } catch (const RuntimeFailure& failure) {
+    told = failure.what();
     return std::string(KindName(failure.kind()));
   }
+}
+
+/// Opens the file as one that is too long to be held in memory. The blocks are so small that many
+/// fields cross from one into the next.
+OpenOutcome OpenAsLong(std::size_t size) {
+  constexpr std::size_t kBlock = 61;
+  InputFile file(Module1.JobFileName);
+  Module1.JobFileOpen = true;
+  JobText text(file, {size, kBlock});
+  if (SizeForJobText(text) == OpenOutcome::NotAJobFile) return OpenOutcome::NotAJobFile;
+  ReadJobText(text);
+  return OpenOutcome::Opened;
+}
+
+/// What differs between the two ways to read a file; leaves the job of the way for short files.
+std::string DifferenceOfWays(std::string_view bytes) {
+  const MemoryFile file(bytes);
+  std::string told;
+  const std::string outcome = OutcomeOf(file, told, [&] { return OpenAsLong(bytes.size()); });
+  const JobState job = Module1;
+  std::string toldOfShort;
+  const std::string expected = OutcomeOf(file, toldOfShort, OpenJobFile);
+  // A long file needs no five fields to be foreign.
+  if (bytes.empty() || outcome == "NotAJobFile") return {};
+  if (outcome != expected) return "as a long file: " + outcome;
+  if (told != toldOfShort) return "as a long file: " + told;
+  return job == Module1 ? "" : "as a long file: another job";
+}
+
+std::string Open(std::string_view bytes) {
+  const MemoryFile file(bytes);
+  std::string told;
+  return OutcomeOf(file, told, OpenJobFile);
 }
 
 /// What has to hold of the job after any try to open a file.
@@ -92,6 +136,8 @@ std::string ProblemOf(const std::string& outcome) {
 
 JobFileVerdict CheckJobFile(std::string_view bytes) {
   JobFileVerdict verdict;
+  verdict.problem = DifferenceOfWays(bytes);
+  if (!verdict.problem.empty()) return verdict;
   verdict.outcome = Open(bytes);
   verdict.problem = ProblemOf(verdict.outcome);
   if (!verdict.problem.empty() || verdict.outcome != "Opened") return verdict;

@@ -97,6 +97,40 @@ TEST_F(JobCheckTest, TellsWhatTheProgramWouldNotTake) {
   }
 }
 
+/// Two megabytes, which are not held in memory as a whole.
+std::string Long(std::string_view part) {
+  std::string text;
+  while (text.size() < 2'000'000) text += part;
+  return text;
+}
+
+TEST_F(JobCheckTest, LongFilesHaveTheSameProblems) {
+  const std::string name = Long("x");
+  const std::vector<BadRow> rows = {
+      {"one line", Long("all of it is one line "), JobVerdict::Refused,
+       "a.qjt:1: refused: marker: \"all of it is one line all of it is one l...\": is not \"qjt\", "
+       "so this is no job file\n"},
+      {"blanks", Long(" "), JobVerdict::Refused,
+       "a.qjt:1: refused: marker: is not \"qjt\", so this is no job file\n"},
+      {"letters", Long("日本"), JobVerdict::Refused,
+       "a.qjt:1: refused: marker: \"日本日本日本日本日本日本日...\": is not \"qjt\", so this is no "
+       "job file\n"},
+      {"text in a number", EmptyJobWith(8, name), JobVerdict::ReadInPart,
+       "a.qjt:8: read in part: RulaControlState(2): \"" + std::string(40, 'x') +
+           "...\": is no number\n"},
+      {"long name", EmptyJobWith(4, "\"" + name + "\",\"\",\"\",0,8"), JobVerdict::Good, ""},
+      {"copies", EmptyJobWith(4, "\"\",\"\",\"\",0,\"" + name + "\""), JobVerdict::Good,
+       "a.qjt:4: warning: JobDurationPerDay: \"" + std::string(40, 'x') +
+           "...\": differs from the copy on line 3, \"8\"; the later copy counts\n"},
+      {"behind the end", EmptyJobText() + "\r\nmore\r\n" + name, JobVerdict::Good,
+       "a.qjt:66: warning: \"more\": stands behind the last task and is not read\n"},
+  };
+  for (const BadRow& row : rows) {
+    EXPECT_EQ(Said(row.bytes), row.said) << row.label;
+    EXPECT_EQ(VerdictOn(row.bytes), row.verdict) << row.label;
+  }
+}
+
 TEST_F(JobCheckTest, FileThatCannotBeReadIsRefusedWithTheSystemsReason) {
   const JobCheck check = CheckJobFile(folder_.File("gone.qjt"));
   EXPECT_EQ(check.verdict, JobVerdict::Refused);

@@ -78,6 +78,16 @@ TEST_F(JobReports, NothingOfAnotherFileOrToolComesThrough) {
             "b.qjt good: Job: second, SiDutyRating 1\n");
 }
 
+TEST_F(JobReports, LongNameIsThereForEachTool) {
+  const std::string name(100'000, 'x');
+  const std::string path =
+      Write("a.qjt", EmptyJobWith(4, "\"" + name + "\",\"" + name + "y\",\"\",0,8"));
+  const std::vector<const ToolRow*> tools{&kGoodTool, &kGoodTool, &kGoodTool};
+  AppendReports(log_, writer_, path, LengthUnit::Metric, tools);
+  const std::string report = "a.qjt good: Job: " + name + "y, SiDutyRating 1\n";
+  EXPECT_EQ(log_, report + report + report);
+}
+
 TEST_F(JobReports, ToolWithoutAReportOnTheJobIsNoFailure) {
   const std::string path = Write("a.qjt", EmptyJobText());
   const std::vector<const ToolRow*> tools{&kSilentTool, &kGoodTool};
