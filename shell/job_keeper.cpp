@@ -92,6 +92,7 @@ void JobKeeper::RescueLeftJournals() {
 
 void JobKeeper::End() {
   timer_->stop();
+  if (Module1.JobDirty == kFalse) RescueJob();
   if (journal_ && !journalIsAll_) journal_->Remove();
 }
 

@@ -35,7 +35,8 @@ class JobKeeper : public QObject {
   /// Makes rescue copies of the journals that dead programs left.
   static void RescueLeftJournals();
 
-  /// The program has ended: the journal goes, unless it is all that there is of the job.
+  /// The program has ended. A job that a failed save or open marked as unchanged is rescued, since
+  /// nobody was asked about it; the journal goes, unless it is all that there is of the job.
   void End();
 
  private:

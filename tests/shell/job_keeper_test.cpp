@@ -144,6 +144,24 @@ TEST_F(JobKeeperTest, RescueWritesTheCopyAndRemovesTheJournal) {
   EXPECT_TRUE(Journals().empty());
 }
 
+TEST_F(JobKeeperTest, EndRescuesAJobThatAFailedSaveMarkedAsSavedAndNoOther) {
+  Module1.JobName = "Packing";
+  Module1.JobDirty = kTrue;
+  keeper.End();
+  EXPECT_EQ(folder.Names(), "") << "the user has answered";
+  Module1.JobFileName = folder.File("missing/job.qjt");
+  EXPECT_EQ(FailureOf(WriteJobFile), "FileError");
+  ASSERT_EQ(Module1.JobDirty, kFalse);
+  keeper.End();
+  EXPECT_EQ(folder.Names(), "job.rescue.qjt");
+  EXPECT_EQ(BytesOf(folder.File("job.rescue.qjt")), RescueBytes(Module1));
+  Module1.JobFileName = folder.File("job.qjt");
+  WriteJobFile();
+  std::filesystem::remove(folder.File("job.rescue.qjt"));
+  keeper.End();
+  EXPECT_EQ(folder.Names(), "job.qjt");
+}
+
 TEST_F(JobKeeperTest, RescueThatFindsNoPlaceBringsTheJournalUpToDateAndKeepsIt) {
   WriteBytes(folder.File("file"), "");
   platform.SetDocumentsFolder(File("file"));
