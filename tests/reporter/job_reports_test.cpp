@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "core/job_state.h"
+#include "reporter/opened_job.h"
 #include "tests/core/test_support.h"
 #include "tests/reporter/sample_report.h"
 
@@ -81,11 +82,20 @@ TEST_F(JobReports, NothingOfAnotherFileOrToolComesThrough) {
 TEST_F(JobReports, LongNameIsThereForEachTool) {
   const std::string name(100'000, 'x');
   const std::string path =
-      Write("a.qjt", EmptyJobWith(4, "\"" + name + "\",\"" + name + "y\",\"\",0,8"));
+      Write("a.qjt", EmptyJobWith(4, "\"" + name + "\",\"short\",\"" + name + "y\",0,8"));
   const std::vector<const ToolRow*> tools{&kGoodTool, &kGoodTool, &kGoodTool};
-  AppendReports(log_, writer_, path, LengthUnit::Metric, tools);
-  const std::string report = "a.qjt good: Job: " + name + "y, SiDutyRating 1\n";
-  EXPECT_EQ(log_, report + report + report);
+  ASSERT_FALSE(OpenAfresh(path, LengthUnit::Metric));
+  const JobState opened = Module1;
+  std::size_t seen = 0;
+  ForEachTool(tools, [&](const ToolRow& /*tool*/, std::size_t /*place*/) {
+    EXPECT_EQ(Module1, opened);
+    EXPECT_EQ(Module1.JobAnalyst, TaggedField(name));
+    EXPECT_EQ(Module1.JobWorkstationId, name + "y");
+    Module1.SiDutyRating = 5;
+    Module1.JobName = "changed";
+    ++seen;
+  });
+  EXPECT_EQ(seen, 3);
 }
 
 TEST_F(JobReports, ToolWithoutAReportOnTheJobIsNoFailure) {
