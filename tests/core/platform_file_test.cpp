@@ -6,11 +6,8 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <chrono>
 #include <filesystem>
 #include <string>
-#include <utility>
-#include <vector>
 
 #include "core/job_file.h"
 #include "core/rescue_copy.h"
@@ -108,11 +105,6 @@ TEST_F(SmallDisk, JobThatFitsInPlaceOfTheOldOneIsSavedWhereNoPlaceTakesACopy) {
   EXPECT_EQ(FailureOf(WriteJobFile), "none");
   EXPECT_EQ(BytesOf(path_), JobFileBytes(Module1));
   EXPECT_EQ(folder_.Names(), "job.qjt");
-}
-
-TEST_F(SmallDisk, NewFileThatDoesNotFitIsNotThere) {
-  EXPECT_EQ(FailureOf([&] { WriteNewFile(path_, std::string(100000, 'a')); }), "FileError");
-  EXPECT_EQ(folder_.Names(), "");
 }
 
 TEST_F(SmallDisk, NewFileThatDoesNotFitIsNotThere) {
