@@ -101,8 +101,13 @@ class BoxList {
     auto* box = form_.findChild<TextBox*>(name);
     if (box == nullptr) return;
     boxes.push_back({box, [box, differs, field = std::move(field)] {
-                       const std::optional<TaggedField> held = field();
-                       return held ? differs(*box, *held) : QString();
+                       try {
+                         const std::optional<TaggedField> held = field();
+                         return held ? differs(*box, *held) : QString();
+                       } catch (const RuntimeFailure&) {
+                         // A field of an odd file, which reads as no double.
+                         return QString();
+                       }
                      }});
   }
   [[nodiscard]] const ToolForm& form() const { return form_; }

@@ -94,7 +94,7 @@ void Monkey::LookAfter(const QPointer<QWidget>& focusBefore) {
     if (!isReload) BetweenShowings();
     if (!failure_) ShowForm();
     if (failure_) return LookAtFailure();
-    platform_.TakeHasOpened();
+    if (platform_.TakeHasOpened() && isReload) platform_.Loaded();
   } else {
     LookAtFocus(focusBefore);
   }

@@ -24,9 +24,12 @@ RandomPlatform::~RandomPlatform() { SetHelpViewer(nullptr); }
 
 void RandomPlatform::Forget() {
   openedAnOddJob_ = false;
+  lastIsOdd_ = false;
   savedInABadPlace_ = false;
   hasOpened_ = false;
 }
+
+void RandomPlatform::Loaded() { openedAnOddJob_ = lastIsOdd_; }
 
 bool RandomPlatform::TakeHasOpened() { return std::exchange(hasOpened_, false); }
 
@@ -48,7 +51,8 @@ QString RandomPlatform::ChooseFileToOpen(QWidget* parent, const QString& /*filte
   SampleJob job = dice_.Of(jobs_);
   if (job.isOdd && !dice_.OneIn(3)) job = jobs_.front();
   trace_.Add("opens " + job.path.section('/', -1));
-  openedAnOddJob_ = job.isOdd;
+  lastIsOdd_ = job.isOdd;
+  openedAnOddJob_ = openedAnOddJob_ || job.isOdd;
   hasOpened_ = true;
   savedInABadPlace_ = false;
   return job.path;

@@ -22,7 +22,9 @@ class RandomPlatform : public TestPlatform, public HelpViewer {
   /// Stands for a dialog of the toolkit on top of a window: called whenever there would be one.
   void SetDialog(std::function<void(QWidget*)> dialog) { dialog_ = std::move(dialog); }
 
-  /// Whether the last file that the user chose to open is an odd one.
+  /// Tells that the job that was opened last is the whole job in memory now.
+  void Loaded();
+  /// Whether something of an odd file is in the job: it may have been opened only half.
   [[nodiscard]] bool openedAnOddJob() const { return openedAnOddJob_; }
   /// Whether the last place that the user chose to save at can take no file.
   [[nodiscard]] bool savedInABadPlace() const { return savedInABadPlace_; }
@@ -53,6 +55,7 @@ class RandomPlatform : public TestPlatform, public HelpViewer {
   std::vector<SampleJob> jobs_;
   std::function<void(QWidget*)> dialog_ = [](QWidget*) {};
   bool openedAnOddJob_ = false;
+  bool lastIsOdd_ = false;
   bool savedInABadPlace_ = false;
   bool hasOpened_ = false;
 };
