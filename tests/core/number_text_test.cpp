@@ -211,5 +211,13 @@ TEST(NumberText, WholeNumberReadsAsItsDouble) {
   EXPECT_EQ(PlainText(-32768), "-32768");
 }
 
+TEST(TypedNumber, ReadsAsTextDoesAndGivesZeroBeyondADouble) {
+  EXPECT_EQ(TypedNumber(" 2.5 min"), 2.5);
+  EXPECT_EQ(TypedNumber("abc"), 0);
+  EXPECT_EQ(TypedNumber("1e308"), 1e308);
+  EXPECT_EQ(TypedNumber("1e309"), 0);
+  EXPECT_EQ(TypedNumber("-1e400"), 0);
+}
+
 }  // namespace
 }  // namespace halvane

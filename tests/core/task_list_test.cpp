@@ -45,6 +45,28 @@ TEST_F(TaskList, CountBeyondTheArraysFails) {
   EXPECT_EQ(FailureOf(AddTaskRecord), "Overflow");
 }
 
+TEST_F(TaskList, FirstActiveTaskIsEnoughAndTheArraysAreTheEnd) {
+  EXPECT_FALSE(AnyActiveTask());
+  AddTaskRecord();
+  AddTaskRecord();
+  Module1.TaskCount = Integer{200};
+  EXPECT_TRUE(AnyActiveTask());
+  Module1.TaskActive.at(1) = Integer{0};
+  EXPECT_TRUE(AnyActiveTask());
+  Module1.TaskActive.at(2) = Integer{0};
+  EXPECT_FALSE(AnyActiveTask()) << "and looks no further than there are places";
+}
+
+TEST_F(TaskList, TaskOnScreenIsTheCurrentOneWhileThereIsAny) {
+  Module1.CurrentTask = Integer{7};
+  EXPECT_EQ(TaskOnScreen(), std::nullopt);
+  AddTaskRecord();
+  Module1.CurrentTask = Integer{1};
+  EXPECT_EQ(TaskOnScreen(), 1);
+  Module1.TaskActive.at(1) = Integer{0};
+  EXPECT_EQ(TaskOnScreen(), std::nullopt);
+}
+
 TEST_F(TaskList, KeyIsTheNumberAndALine) {
   EXPECT_EQ(TaskKey(12), "12_");
   EXPECT_EQ(TaskOfKey("12_"), 12);
