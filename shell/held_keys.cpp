@@ -9,6 +9,11 @@
 namespace halvane {
 
 bool HeldKeys::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::ShortcutOverride && static_cast<QKeyEvent*>(event)->isAutoRepeat()) {
+    // Accepted, it is no shortcut; what has the focus gets the key as any other.
+    event->accept();
+    return true;
+  }
   // Keys reach the window first, and from there the popup or the widget with the focus.
   const bool isKey = event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease;
   if (isKey && watched->isWindowType() &&

@@ -10,7 +10,8 @@ namespace halvane {
 
 /// Keeps a key that is held down over a change of window from going on in the next one: the key
 /// that answered a message types nothing in the form behind it and chooses no button of the dialog
-/// that follows. Install it on the application.
+/// that follows. A shortcut runs once, however long its keys are held. Install it on the
+/// application.
 class HeldKeys : public QObject {
   Q_OBJECT
  public:

@@ -1,5 +1,6 @@
 #include "shell/controls/text_box.h"
 
+#include <QApplication>
 #include <QFocusEvent>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
@@ -76,6 +77,13 @@ bool TextBox::TakeRelease(const QKeyEvent& event) {
   const bool reachedByTab = IsTab(event) && tabBroughtFocus_;
   if (reachedByTab) tabBroughtFocus_ = false;
   return pressedHere || reachedByTab;
+}
+
+void TextBox::CountKeysDown() {
+  auto* box = qobject_cast<TextBox*>(QApplication::focusWidget());
+  if (box == nullptr || box->keysDown_.empty()) return;
+  box->keysDown_.clear();
+  box->TellOfRelease();
 }
 
 void TextBox::TellOfRelease() {

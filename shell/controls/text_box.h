@@ -19,6 +19,10 @@ class TextBox : public QLineEdit {
  public:
   explicit TextBox(const QString& name, QWidget* parent = nullptr);
 
+  /// Counts the keys that are down in the box with the focus as released. For a command that is
+  /// given without taking the focus, before it changes what the boxes show.
+  static void CountKeysDown();
+
  signals:
   void keyReleased();
 

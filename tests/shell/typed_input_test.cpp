@@ -119,6 +119,31 @@ TEST_F(TypedInput, PosturesWithoutATaskAreNobodys) {
   EXPECT_TRUE(platform.ends().empty());
 }
 
+TEST_F(TypedInput, KeyStillDownWhenATaskIsAddedByItsKeyBelongsToTheTaskBefore) {
+  ToolForm& ocra = Show(Tool::Ocra);
+  // Left over from another job.
+  Module1.CurrentTask = Integer{11};
+  auto& frequency = Find<QLineEdit>(ocra, "Text1(5)");
+  frequency.setFocus();
+  QTest::keyPress(&frequency, Qt::Key_8);
+  QTest::keyClick(&frequency, Qt::Key_A, Qt::AltModifier);
+  ASSERT_EQ(Module1.TaskCount.AsDouble(), 1) << "at once";
+  EXPECT_EQ(Module1.OcraActionFrequency.at(1).AsDouble(), 0);
+  EXPECT_TRUE(platform.ends().empty());
+
+  Module1 = JobState{};
+  AddTaskRecord();
+  ToolForm& ctd = Show(Tool::Ctd);
+  auto& work = Find<QLineEdit>(ctd, "Text1(2)");
+  work.setFocus();
+  QTest::keyPress(&work, Qt::Key_8);
+  QTest::keyClick(&work, Qt::Key_A, Qt::AltModifier);
+  ASSERT_EQ(Module1.TaskCount.AsDouble(), 2);
+  QTest::keyRelease(&work, Qt::Key_8);
+  EXPECT_EQ(Module1.CtdWorkTime.at(1).AsDouble(), 8);
+  EXPECT_EQ(Module1.CtdWorkTime.at(2).AsDouble(), 0);
+}
+
 struct NumberBoxRow {
   Tool tool;
   QString box;
