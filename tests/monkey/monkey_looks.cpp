@@ -100,7 +100,9 @@ void Monkey::LookAfter(const QPointer<QWidget>& focusBefore) {
   }
   if (platform_.TakeHasOpened()) showsAnotherJob_ = true;
   if (showsAnotherJob_) return;
-  LookAtBoxes();
+  // A code that names no ribbon leaves the boxes of its task on the CTD form as they were, and they
+  // stay so when a click has given the task another code.
+  if (tool_ != Tool::Ctd || !IsOdd()) LookAtBoxes();
   const QString wrong = WrongControl(tool_, *form_, IsOdd());
   if (!wrong.isEmpty()) trace_.Find(wrong);
   const double tasks = Module1.TaskCount.AsDouble();
