@@ -81,9 +81,7 @@ bool TextBox::TakeRelease(const QKeyEvent& event) {
 
 void TextBox::CountKeysDown() {
   auto* box = qobject_cast<TextBox*>(QApplication::focusWidget());
-  if (box == nullptr || box->keysDown_.empty()) return;
-  box->keysDown_.clear();
-  box->TellOfRelease();
+  if (box != nullptr && !box->keysDown_.empty()) box->TellOfRelease();
 }
 
 void TextBox::TellOfRelease() {

@@ -19,8 +19,9 @@ class TextBox : public QLineEdit {
  public:
   explicit TextBox(const QString& name, QWidget* parent = nullptr);
 
-  /// Counts the keys that are down in the box with the focus as released. For a command that is
-  /// given without taking the focus, before it changes what the boxes show.
+  /// Tells of the keys that are down in the box with the focus as if they came up now; when they
+  /// do they are told of once more. For a command that is given without taking the focus, before it
+  /// changes what the boxes show.
   static void CountKeysDown();
 
  signals:

@@ -292,6 +292,8 @@ void FrmOCRA::SSCommand1_Click(int index) {
   Module1.JobDirty = kTrue;
   switch (index) {
     case 0:
+      // Before the task is there: what is being typed belongs to the one before, if any.
+      TreeView1_->setFocus();
       AddTask(AddTaskRecord());
       OcraShowTask();
       break;
@@ -307,7 +309,6 @@ void FrmOCRA::SSCommand1_Click(int index) {
 }
 
 void FrmOCRA::AddTask(int task) {
-  TreeView1_->setFocus();
   TreeView1_->AddNode(task);
   TreeView1_->SelectAt(TreeView1_->topLevelItemCount() - 1);
   SSTab1_->setTabEnabled(kReportTab, true);
