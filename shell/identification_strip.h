@@ -8,7 +8,7 @@ class TextBox;
 
 /// A box of the strip: its name and that of its label.
 struct IdentificationBox {
-  const char* box;
+  const char* box = "";
   const char* label = "";
 };
 
@@ -17,7 +17,7 @@ struct IdentificationNames {
   IdentificationBox analyst;
   IdentificationBox jobName;
   IdentificationBox workstation;
-  const char* handOptions;  ///< control array of the two options
+  const char* handOptions = "";  ///< control array of the two options
 };
 
 /// Analyst, job name, workstation and hand in one row, the same on every tool. Its boxes store what
