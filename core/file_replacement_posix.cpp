@@ -128,7 +128,8 @@ bool FileReplacement::IsStillThere() const {
 void FileReplacement::OpenPart() {
   // Names of folders end so, and none of them can be made by writing a file.
   if (FileNameOf(target_).empty()) files::Fail(path_, path_.empty() ? ENOENT : EISDIR);
-  const std::string end = "." + PassingMark(target_) + std::string(kPartEnd);
+  std::string end(".");
+  end.append(PassingMark(target_)).append(kPartEnd);
   int error = 0;
   for (const std::string& name : NamesBeside(target_)) {
     std::string part(FolderOf(target_));

@@ -175,7 +175,8 @@ std::vector<std::string> NamesBeside(const std::string& target) {
 }
 
 KeptCopy MakeKeptCopy(const std::string& target, std::string_view bytes) {
-  const std::string end = "." + ChecksumOf(bytes) + std::string(kCopyEnd);
+  std::string end(".");
+  end.append(ChecksumOf(bytes)).append(kCopyEnd);
   KeptCopy first;
   for (const Place& place : PlacesFor(target)) {
     if (place.folder == StateFolder() + "/") MakeFolder(StateFolder());

@@ -50,7 +50,8 @@ bool IsKeptCopy(std::string_view name, std::string_view target, bool forManyJobs
   if (name == jobFile) return !forManyJobs;
   if (!TakeChecksum(name)) return false;
   if (name == jobFile) return !forManyJobs;
-  const std::string pathSum = "." + ChecksumOf(target);
+  std::string pathSum(".");
+  pathSum.append(ChecksumOf(target));
   if (!name.ends_with(pathSum)) return false;
   name.remove_suffix(pathSum.size());
   return !name.empty() && jobFile.starts_with(name);

@@ -103,6 +103,14 @@ class User:
         except FileNotFoundError:
             return []
 
+    def wait_for(self, text):
+        """Until what was typed has arrived in the program, which its journal tells, however slow the machine is."""
+        expected = job(text)
+        wait_until(
+            lambda: any(content_of(path).startswith(expected) for path in self.journals() if path.endswith(".qjt")),
+            f"'{text}' in the journal",
+        )
+
     def journal_of(self, expected):
         """The journal, once it begins with these bytes; the wait is short."""
         end = time.monotonic() + JOURNAL_DELAY + MACHINE_DELAY
@@ -154,12 +162,14 @@ def end_twice_with_the_same_job(desktop, program):
     user = User(desktop, program)
     for _ in range(2):
         process = user.start_and_type("Ann")
+        user.wait_for("Ann")
         for number in (signal.SIGHUP, signal.SIGTERM, signal.SIGHUP):
             process.send_signal(number)
         wait_until(lambda: process.poll() is not None, "the end of the program")
         assert -process.returncode in (signal.SIGHUP, signal.SIGTERM), process.returncode
         assert user.files() == ["Documents/Job.rescue.qjt"], user.files()
     process = user.start_and_type("Anna")
+    user.wait_for("Anna")
     process.terminate()
     wait_for_end(process, -signal.SIGTERM)
     assert user.files() == ["Documents/Job (2).rescue.qjt", "Documents/Job.rescue.qjt"], user.files()
@@ -237,6 +247,7 @@ def lose_the_display(desktop, program):
     """The display goes away: a copy stands."""
     user = User(desktop, program)
     process = user.start_and_type("Ann")
+    user.wait_for("Ann")
     desktop.processes[0].kill()
     wait_until(lambda: process.poll() is not None, "the end of the program")
     assert user.files() == ["Documents/Job.rescue.qjt"], user.files()
