@@ -56,7 +56,7 @@ EndSignals::~EndSignals() {
 }
 
 void EndSignals::Read() {
-  char byte = 0;
+  unsigned char byte = 0;
   int number = 0;
   while (read(ends[0], &byte, 1) == 1) number = byte;
   if (number != 0) emit came(number);
