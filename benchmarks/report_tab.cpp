@@ -7,11 +7,12 @@
 #include <string>
 #include <vector>
 
+#include "app/tool_forms.h"
 #include "benchmarks/benchmark_jobs.h"
-#include "shell/controls/rich_text_box.h"
 #include "shell/halvane_application.h"
 #include "shell/tool_form.h"
-#include "shell/tool_forms.h"
+#include "tools/tool_table.h"
+#include "widgets/rich_text_box.h"
 
 namespace halvane {
 namespace {

@@ -1,7 +1,7 @@
 #include "help/help_commands.h"
 
 #include "help/html_help.h"
-#include "shell/platform.h"
+#include "platform/platform.h"
 
 namespace halvane {
 namespace {

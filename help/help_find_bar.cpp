@@ -7,7 +7,7 @@
 #include <QToolButton>
 
 #include "help/help_browser.h"
-#include "shell/layout.h"
+#include "widgets/layout.h"
 
 namespace halvane {
 namespace {

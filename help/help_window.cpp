@@ -8,13 +8,13 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include "core/silently.h"
 #include "help/help_browser.h"
 #include "help/help_find_bar.h"
 #include "help/help_icons.h"
 #include "help/help_pages.h"
 #include "help/help_tree.h"
-#include "shell/platform.h"
-#include "shell/silently.h"
+#include "platform/platform.h"
 
 namespace halvane {
 namespace {

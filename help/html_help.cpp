@@ -2,11 +2,11 @@
 
 #include <QApplication>
 
+#include "core/program_title.h"
+#include "core/silently.h"
 #include "help/help_viewer.h"
-#include "shell/platform.h"
-#include "shell/program_title.h"
-#include "shell/registry.h"
-#include "shell/silently.h"
+#include "platform/platform.h"
+#include "platform/registry.h"
 
 namespace halvane {
 namespace {

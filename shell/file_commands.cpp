@@ -4,9 +4,9 @@
 
 #include "core/job_file.h"
 #include "core/job_state.h"
-#include "shell/platform.h"
-#include "shell/program_title.h"
-#include "shell/silently.h"
+#include "core/program_title.h"
+#include "core/silently.h"
+#include "platform/platform.h"
 
 namespace halvane {
 namespace {

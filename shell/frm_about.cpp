@@ -7,12 +7,12 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "shell/layout.h"
-#include "shell/platform.h"
-#include "shell/product_icon.h"
-#include "shell/program_title.h"
-#include "shell/registry.h"
-#include "shell/silently.h"
+#include "core/program_title.h"
+#include "core/silently.h"
+#include "platform/platform.h"
+#include "platform/registry.h"
+#include "widgets/layout.h"
+#include "widgets/product_icon.h"
 
 namespace halvane {
 namespace {

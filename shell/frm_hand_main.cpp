@@ -10,19 +10,18 @@
 #include <QTimer>
 
 #include "core/job_state.h"
+#include "core/program_title.h"
 #include "core/units.h"
 #include "help/help_commands.h"
-#include "shell/controls/link_label.h"
-#include "shell/controls/raised_button.h"
-#include "shell/controls/ribbon_button.h"
+#include "platform/platform.h"
 #include "shell/frm_about.h"
 #include "shell/hand_main_look.h"
-#include "shell/layout.h"
-#include "shell/menu_item.h"
-#include "shell/platform.h"
-#include "shell/program_title.h"
 #include "shell/tool_form.h"
-#include "shell/tool_forms.h"
+#include "widgets/layout.h"
+#include "widgets/link_label.h"
+#include "widgets/menu_item.h"
+#include "widgets/raised_button.h"
+#include "widgets/ribbon_button.h"
 
 namespace halvane {
 namespace {
@@ -33,7 +32,8 @@ constexpr auto kSaveQuestion = "Save data before exiting this program?";
 
 }  // namespace
 
-FrmHandMain::FrmHandMain() : fileCommands_(*this), Timer1_(new QTimer(this)) {
+FrmHandMain::FrmHandMain(ToolFormMaker makeToolForm)
+    : makeToolForm_(makeToolForm), fileCommands_(*this), Timer1_(new QTimer(this)) {
   setObjectName("frmHand_Main");
   setWindowTitle("Halvane Tools V1.0");
   HandMainLook::Arrange(*this);
@@ -95,12 +95,12 @@ void FrmHandMain::MakeMenus() {
 }
 
 void FrmHandMain::MakeButtons() {
-  for (const ToolRow& row : Tools()) {
-    if (row.buttonCaption.empty()) continue;
+  for (const ToolName& tool : kToolNames) {
+    if (tool.buttonCaption.empty()) continue;
     const int index = static_cast<int>(SSCommand2_.size());
     auto* button = new RaisedButton(ElementName("SSCommand2", index), this);
-    button->setText(ScreenText(row.buttonCaption));
-    button->setToolTip(ScreenText(row.buttonTip));
+    button->setText(ScreenText(tool.buttonCaption));
+    button->setToolTip(ScreenText(tool.buttonTip));
     connect(button, &RaisedButton::clicked, this, [this, index] { SSCommand2_Click(index); });
     SSCommand2_.push_back(button);
   }
@@ -186,9 +186,9 @@ void FrmHandMain::SSCommand1_Click() { ThePlatform().EndProgram(0); }
 
 void FrmHandMain::SSCommand2_Click(int index) {
   if (index >= 0 && index < static_cast<int>(SSCommand2_.size())) {
-    const Tool tool = Tools()[static_cast<std::size_t>(index)].tool;
+    const Tool tool = kToolNames.at(static_cast<std::size_t>(index)).tool;
     std::unique_ptr<ToolForm>& form = forms_[tool];
-    if (!form) form = MakeToolForm(tool, this);
+    if (!form) form = makeToolForm_(tool, this);
     // New and Open on a tool ask for another showing; so nothing nests, and one close comes back
     // here.
     do {

@@ -4,8 +4,8 @@
 #include <map>
 #include <memory>
 
+#include "core/tool_names.h"
 #include "shell/file_commands.h"
-#include "tools/tool_table.h"
 
 class QAction;
 class QLabel;
@@ -21,12 +21,15 @@ class RaisedButton;
 class RibbonButton;
 class ToolForm;
 
+/// Makes the form of a tool, not yet loaded.
+using ToolFormMaker = std::unique_ptr<ToolForm> (*)(Tool tool, QWidget* parent);
+
 /// The main window: opening phase, launch buttons, file and help menus, the way out. How it looks
 /// and where things stand is the business of `HandMainLook`.
 class FrmHandMain : public QWidget {
   Q_OBJECT
  public:
-  FrmHandMain();
+  explicit FrmHandMain(ToolFormMaker makeToolForm);
   ~FrmHandMain() override;
 
   // In the order of the screen.
@@ -79,6 +82,7 @@ class FrmHandMain : public QWidget {
   void ShowUnits();
   void EnableShortcuts(bool enabled);
 
+  ToolFormMaker makeToolForm_;
   FileCommands fileCommands_;
   QTimer* Timer1_;
   QWidget* SSSplash1_ = nullptr;

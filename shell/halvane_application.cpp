@@ -6,11 +6,11 @@
 #include <exception>
 #include <new>
 
+#include "core/program_title.h"
 #include "core/runtime_failure.h"
-#include "shell/end_signals.h"
+#include "platform/end_signals.h"
+#include "platform/platform.h"
 #include "shell/held_keys.h"
-#include "shell/platform.h"
-#include "shell/program_title.h"
 
 namespace halvane {
 namespace {

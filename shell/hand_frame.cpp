@@ -4,7 +4,7 @@
 #include <QHBoxLayout>
 #include <QRadioButton>
 
-#include "shell/layout.h"
+#include "widgets/layout.h"
 
 namespace halvane {
 

@@ -9,15 +9,15 @@
 #include <cmath>
 #include <vector>
 
-#include "shell/controls/gradient_panel.h"
-#include "shell/controls/link_label.h"
-#include "shell/controls/raised_button.h"
-#include "shell/controls/ribbon_button.h"
-#include "shell/controls/splash_picture.h"
+#include "core/program_title.h"
 #include "shell/frm_hand_main.h"
-#include "shell/layout.h"
-#include "shell/product_icon.h"
-#include "shell/program_title.h"
+#include "widgets/gradient_panel.h"
+#include "widgets/layout.h"
+#include "widgets/link_label.h"
+#include "widgets/product_icon.h"
+#include "widgets/raised_button.h"
+#include "widgets/ribbon_button.h"
+#include "widgets/splash_picture.h"
 
 namespace halvane {
 namespace {

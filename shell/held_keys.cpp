@@ -4,7 +4,7 @@
 #include <QKeyEvent>
 #include <QWidget>
 
-#include "shell/controls/key_place.h"
+#include "widgets/key_place.h"
 
 namespace halvane {
 

@@ -4,8 +4,8 @@
 #include <QLabel>
 
 #include "core/job_state.h"
-#include "shell/controls/text_box.h"
-#include "shell/layout.h"
+#include "widgets/layout.h"
+#include "widgets/text_box.h"
 
 namespace halvane {
 

@@ -8,8 +8,8 @@
 #include "core/job_state.h"
 #include "core/rescue_copy.h"
 #include "core/runtime_failure.h"
-#include "shell/platform.h"
-#include "shell/silently.h"
+#include "core/silently.h"
+#include "platform/platform.h"
 
 namespace halvane {
 namespace {

@@ -5,14 +5,14 @@
 #include <QMenuBar>
 #include <QVBoxLayout>
 
+#include "core/silently.h"
 #include "help/help_commands.h"
-#include "shell/controls/rich_text_box.h"
+#include "platform/platform.h"
 #include "shell/frm_about.h"
 #include "shell/hand_frame.h"
-#include "shell/layout.h"
-#include "shell/menu_item.h"
-#include "shell/platform.h"
-#include "shell/silently.h"
+#include "widgets/layout.h"
+#include "widgets/menu_item.h"
+#include "widgets/rich_text_box.h"
 
 namespace halvane {
 namespace {
@@ -24,9 +24,9 @@ constexpr QSize kLeastSize{960, 620};
 
 ToolForm::ToolForm(Tool tool, const char* objectName, const IdentificationNames& names,
                    QWidget* parent)
-    : QDialog(parent), row_(RowOf(tool)), names_(names), fileCommands_(*this) {
+    : QDialog(parent), toolName_(NameOf(tool)), names_(names), fileCommands_(*this) {
   setObjectName(objectName);
-  setWindowTitle(ScreenText(row_.title));
+  setWindowTitle(ScreenText(toolName_.title));
   setWindowFlags(Qt::Window | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                  Qt::WindowMinMaxButtonsHint | Qt::WindowCloseButtonHint);
   // Holds up the main window alone; the help beside it stays usable.
@@ -171,7 +171,7 @@ void ToolForm::CopySelection() {
   if (!selected.isEmpty()) ThePlatform().SetClipboardText(selected);
 }
 
-void ToolForm::mnuHelpContent_Click() { ShowHelpTopic(ScreenText(row_.helpTopic)); }
+void ToolForm::mnuHelpContent_Click() { ShowHelpTopic(ScreenText(toolName_.helpTopic)); }
 
 void ToolForm::mnuHelpAbout_Click() { FrmAbout(this).exec(); }
 

@@ -3,9 +3,9 @@
 #include <QDialog>
 
 #include "core/rich_text.h"
+#include "core/tool_names.h"
 #include "shell/file_commands.h"
 #include "shell/identification_strip.h"
-#include "tools/tool_table.h"
 
 class QMenu;
 class QTabWidget;
@@ -31,8 +31,8 @@ class ToolForm : public QDialog {
   /// throws.
   void load();
 
-  /// The tool that the form is for: caption, help topic and name of its row.
-  [[nodiscard]] const ToolRow& row() const { return row_; }
+  /// What the tool that the form is for is called.
+  [[nodiscard]] const ToolName& toolName() const { return toolName_; }
 
   // In the order of the menus.
   void mnuFileNew_Click();
@@ -89,7 +89,7 @@ class ToolForm : public QDialog {
   template <typename Write>
   void WriteAndShow(const Write& write);
 
-  const ToolRow& row_;
+  const ToolName& toolName_;
   const IdentificationNames& names_;
   FileCommands fileCommands_;
   RichText report_;

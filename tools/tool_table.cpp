@@ -25,25 +25,14 @@ namespace halvane {
 namespace {
 
 constexpr std::array kTools{
-    ToolRow{Tool::Ocra, "ocra", "OCRA", "Occupational Repetitive Actions Index",
-            "Occupational Repetitive Actions Index",
-            "Occupational Repetitive Actions Index (OCRA)2.htm", &kOcraHeadline, OcraReport,
-            OcraWorkingValues},
-    ToolRow{Tool::Ctd, "ctd", "CTD Risk Index", "Cumulative Trauma Disorders Risk Assessment Model",
-            "Cumulative Trauma Disorders Risk Assessment Model", "CTD2.htm", &kCtdHeadline,
-            CTDprint, CtdWorkingValues},
-    ToolRow{Tool::StrainIndex, "si", "SI", "Strain Index", "Strain Index", "Strain Index2.htm",
-            &kSiHeadline, SI_Report, SiWorkingValues},
-    ToolRow{Tool::Reba, "reba", "REBA", "Rapid Entire Body Assessment",
-            "Rapid Entire Body Assessment", "REBA (Rapid Entire Body Assessment)2.htm",
-            &kRebaHeadline, REBA_Report, RebaWorkingValues},
-    // The form's title differs from the button's tip, which is wanted.
-    ToolRow{Tool::Rula, "rula", "RULA", "Rapid Upper Limb Assessment",
-            "Repetitive Upper Limb Assessment", "RULA (Rapid Upper Limb Assessment)2.htm",
-            &kRulaHeadline, RULA_Report, RulaWorkingValues},
-    ToolRow{Tool::Hal, "hal", "", "", "ACGIH: Hand Activity Level",
-            "ACGIH Hand Activity Level2.htm", &kHalHeadline, HAL_Print, HalWorkingValues},
+    ToolRow{NameOf(Tool::Ocra), &kOcraHeadline, OcraReport, OcraWorkingValues},
+    ToolRow{NameOf(Tool::Ctd), &kCtdHeadline, CTDprint, CtdWorkingValues},
+    ToolRow{NameOf(Tool::StrainIndex), &kSiHeadline, SI_Report, SiWorkingValues},
+    ToolRow{NameOf(Tool::Reba), &kRebaHeadline, REBA_Report, RebaWorkingValues},
+    ToolRow{NameOf(Tool::Rula), &kRulaHeadline, RULA_Report, RulaWorkingValues},
+    ToolRow{NameOf(Tool::Hal), &kHalHeadline, HAL_Print, HalWorkingValues},
 };
+static_assert(kTools.size() == kToolNames.size(), "each tool that has a name does something");
 
 }  // namespace
 

@@ -5,7 +5,7 @@
 #include <string>
 
 #include "core/checked_math.h"
-#include "tests/core/test_support.h"
+#include "tests/support/test_support.h"
 
 namespace halvane {
 namespace {

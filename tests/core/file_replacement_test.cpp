@@ -13,7 +13,7 @@
 #include "core/job_file.h"
 #include "core/kept_copy.h"
 #include "core/platform_file.h"
-#include "tests/core/test_support.h"
+#include "tests/support/test_support.h"
 
 namespace {
 

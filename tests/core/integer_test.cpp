@@ -5,7 +5,7 @@
 #include <array>
 #include <limits>
 
-#include "tests/core/test_support.h"
+#include "tests/support/test_support.h"
 
 namespace halvane {
 namespace {

@@ -5,7 +5,7 @@
 #include <optional>
 #include <vector>
 
-#include "tests/core/test_support.h"
+#include "tests/support/test_support.h"
 
 namespace halvane {
 namespace {

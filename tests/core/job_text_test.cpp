@@ -5,7 +5,7 @@
 #include <string>
 
 #include "core/job_file.h"
-#include "tests/core/test_support.h"
+#include "tests/support/test_support.h"
 
 namespace halvane {
 namespace {

@@ -8,7 +8,7 @@
 #include <filesystem>
 
 #include "core/job_file.h"
-#include "tests/core/test_support.h"
+#include "tests/support/test_support.h"
 
 namespace halvane {
 namespace {

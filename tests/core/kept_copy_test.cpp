@@ -10,7 +10,7 @@
 #include <vector>
 
 #include "core/checksum.h"
-#include "tests/core/test_support.h"
+#include "tests/support/test_support.h"
 
 namespace halvane {
 namespace {

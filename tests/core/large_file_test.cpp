@@ -12,7 +12,7 @@
 #include "core/input_file.h"
 #include "core/job_file.h"
 #include "core/job_text_reader.h"
-#include "tests/core/test_support.h"
+#include "tests/support/test_support.h"
 
 namespace halvane {
 namespace {

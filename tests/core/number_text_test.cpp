@@ -9,7 +9,7 @@
 #include <string_view>
 #include <vector>
 
-#include "tests/core/test_support.h"
+#include "tests/support/test_support.h"
 
 namespace halvane {
 namespace {

@@ -11,7 +11,7 @@
 
 #include "core/job_file.h"
 #include "core/rescue_copy.h"
-#include "tests/core/test_support.h"
+#include "tests/support/test_support.h"
 
 namespace halvane {
 namespace {

@@ -4,7 +4,7 @@
 
 #include <vector>
 
-#include "tests/core/test_support.h"
+#include "tests/support/test_support.h"
 
 namespace halvane {
 namespace {

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "core/job_state.h"
-#include "tests/core/test_support.h"
+#include "tests/support/test_support.h"
 
 namespace halvane {
 namespace {

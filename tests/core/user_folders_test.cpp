@@ -6,7 +6,7 @@
 #include <optional>
 #include <string>
 
-#include "tests/core/test_support.h"
+#include "tests/support/test_support.h"
 
 namespace halvane {
 namespace {

@@ -6,8 +6,8 @@
 #include <string>
 #include <string_view>
 
-#include "tests/core/test_support.h"
 #include "tests/fuzz/help_file_check.h"
+#include "tests/support/test_support.h"
 
 namespace halvane {
 namespace {

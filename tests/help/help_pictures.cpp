@@ -7,7 +7,7 @@
 #include "help/help_find_bar.h"
 #include "help/help_window.h"
 #include "shell/halvane_application.h"
-#include "tests/shell/dark_palette.h"
+#include "tests/support/dark_palette.h"
 
 int main(int argc, char** argv) {
   halvane::HalvaneApplication application(argc, argv);

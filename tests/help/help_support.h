@@ -6,8 +6,8 @@
 #include "help/help_browser.h"
 #include "help/help_tree.h"
 #include "help/help_window_viewer.h"
-#include "tests/shell/dark_palette.h"
-#include "tests/shell/form_support.h"
+#include "tests/support/dark_palette.h"
+#include "tests/support/form_support.h"
 
 namespace halvane {
 

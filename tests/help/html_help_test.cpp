@@ -5,12 +5,12 @@
 #include <QTest>
 #include <ostream>
 
+#include "app/tool_forms.h"
 #include "help/help_commands.h"
 #include "help/help_viewer.h"
 #include "shell/frm_hand_main.h"
 #include "shell/tool_form.h"
-#include "shell/tool_forms.h"
-#include "tests/shell/form_support.h"
+#include "tests/support/form_support.h"
 #include "tools/strain_index/frm_si.h"
 
 namespace halvane {
@@ -218,7 +218,7 @@ TEST_F(HelpCommands, TheMainWindowOpensTheContents) {
 
 TEST_F(HelpCommands, TheLinkOnTheOpeningPanelOpensTheContents) {
   platform.AddFile("/program/QJT Tools 1.chm");
-  FrmHandMain opening;
+  FrmHandMain opening(MakeToolForm);
   ShowActive(opening);
   auto& link = Find<QAbstractButton>(opening, "Hyperlink1");
   EXPECT_EQ(link.text(), "How to use the program");

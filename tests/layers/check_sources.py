@@ -48,42 +48,67 @@ def sources(root):
     return [(path.relative_to(root), path.read_text(encoding="utf-8")) for path in found]
 
 
-def layer_of(path):
-    if rules.HELP_READER.fullmatch(path.as_posix()):
-        return "help reader"
-    if path.parts[0] == "tools":
-        return "forms" if path.name.startswith("frm_") else "logic"
-    return {"core": "core", "reporter": "reporter"}.get(path.parts[0], "forms")
+def room_of(path):
+    """The row of the room that a file stands in."""
+    for room in rules.ROOMS:
+        if room[1].fullmatch(path):
+            return room
+    return None
 
 
 def may_include(path, included):
-    layer = layer_of(path)
-    own = re.fullmatch(r'"([a-z0-9_]+)/(?:[a-z0-9_]+/)*([a-z0-9_.]+)"', included)
+    name, _, uses, _ = room_of(path.as_posix())
+    own = re.fullmatch(r'"((?:[a-z0-9_]+/)+[a-z0-9_.]+)"', included)
     if own:
-        is_form = own[1] == "tools" and own[2].startswith("frm_")
-        is_window = own[1] == "help" and not rules.HELP_READER.fullmatch(included.strip('"'))
-        if layer == "help reader" and is_window:
-            return False
-        return own[1] in rules.LAYERS[layer] and (layer == "forms" or not is_form)
+        other = room_of(own[1])
+        return other is not None and (other[0] == name or other[0] in uses)
     system = re.fullmatch(r"<([^>]+)>", included)
     if not system:
         return False
-    if system[1] in rules.STANDARD_HEADERS or layer not in rules.HEADLESS_LAYERS:
+    if system[1] in rules.STANDARD_HEADERS or name not in rules.HEADLESS_ROOMS:
         return True
-    if system[1] in rules.POSIX_HEADERS:
-        return bool(rules.POSIX_FILE.fullmatch(path.name))
+    if rules.POSIX_FILE.fullmatch(path.name):
+        return system[1] in rules.POSIX_HEADERS
+    if rules.WINDOWS_FILE.fullmatch(path.name):
+        return system[1] in rules.WINDOWS_HEADERS
     if system[1] == rules.HELP_UNPACKER.get(path.as_posix()):
         return True
-    return layer == "reporter" and bool(rules.REPORTER_LIBRARIES.match(system[1]))
+    return name in rules.PACKAGES and bool(rules.PACKAGES[name].match(system[1]))
 
 
 def check_includes(root):
-    """Nothing points down, and the headless layers know the standard library alone."""
+    """A room uses the rooms below it, and the headless ones know the standard library alone."""
     for path, text in sources(root):
         code = without(text, ("comment",))
         for match in INCLUDE.finditer(code):
             if not may_include(path, match[1]):
                 yield f"{path}:{line_of(code, match.start())}: may not include {match[1]}"
+
+
+def check_lists(root):
+    """Every source stands once in the list of its own folder, in the library of its room."""
+    listed = {}
+    for folder in rules.FOLDERS:
+        for page in sorted((root / folder).rglob("CMakeLists.txt")):
+            here = page.parent.relative_to(root)
+            text = re.sub(r"#.*", "", page.read_text(encoding="utf-8"))
+            for target, body in re.findall(
+                r"\b(?:add_library|add_executable|target_sources)\s*\(\s*([\w-]+)([^)]*)\)", text
+            ):
+                for source in re.findall(r"[\w./${}-]+\.(?:cpp|h)\b", body):
+                    path = (here / source).as_posix()
+                    where = page.relative_to(root)
+                    if "/" in source or not (page.parent / source).exists():
+                        yield f"{where}: lists {source}, which is no file of its folder"
+                        continue
+                    if path.endswith(".cpp"):
+                        listed[path] = listed.get(path, 0) + 1
+                    if target not in room_of(path)[3]:
+                        yield f"{where}: lists {source} for {target}, which is another room's"
+    for path, _ in sources(root):
+        times = listed.get(path.as_posix(), 0)
+        if path.suffix == ".cpp" and times != 1:
+            yield f"{path}: stands in {times} lists of sources"
 
 
 def check_raw_calls(root):
@@ -156,6 +181,7 @@ def check_documents(root):
 
 CHECKS = {
     "includes": check_includes,
+    "lists": check_lists,
     "raw-calls": check_raw_calls,
     "number-calls": check_number_calls,
     "sizes": check_sizes,

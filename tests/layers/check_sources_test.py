@@ -10,17 +10,69 @@ import check_sources
 CLEAN_TREE = {
     "core/text.h": '#pragma once\n#include <string>\n#include "core/other.h"\n',
     "core/number_text.cpp": "#include <charconv>\nauto r = std::from_chars(a, b, value);\n",
-    "core/platform_posix.cpp": "#include <fcntl.h>\n#include <unistd.h>\n",
+    "core/files_posix.cpp": "#include <fcntl.h>\n#include <unistd.h>\n",
+    "core/files_windows.cpp": "#include <windows.h>\n",
+    "core/CMakeLists.txt": "add_library(halvane_core STATIC\n  number_text.cpp # why\n"
+    "  $<IF:$<PLATFORM_ID:Windows>,files_windows.cpp,files_posix.cpp>\n)\n",
     "tools/rula/score.cpp": '#include <array>\n#include "core/text.h"\n#include "tools/table.h"\n',
     "tools/rula/frm_rula.h": '#include <QWidget>\n#include "shell/tool_form.h"\n',
-    "shell/main.cpp": "// QMessageBox is not for us\nint main() { return program.exec(); }\n",
-    "shell/platform_qt.cpp": "#include <QMessageBox>\nvoid End() { QCoreApplication::exit(1); }\n",
-    "help/viewer.cpp": '#include "shell/platform.h"\nconst char* kText = "strtod(";\n',
+    "tools/rula/frm_rula.cpp": '#include "tools/posture/posture_page.h"\n#include "tools/rula/score.h"\n',
+    "tools/rula/CMakeLists.txt": "target_sources(halvane_tools PRIVATE score.cpp)\n"
+    "target_sources(halvane_forms PRIVATE frm_rula.cpp)\n",
+    "tools/tool_table.cpp": '#include "tools/rula/score.h"\n',
+    "tools/CMakeLists.txt": "add_library(halvane_tools STATIC tool_table.cpp)\n",
+    "app/main.cpp": '// QMessageBox is not for us\n#include "tools/rula/frm_rula.h"\nint main() {}\n',
+    "app/CMakeLists.txt": "add_executable(halvane-tools main.cpp)\n",
+    "platform/platform_qt.cpp": "#include <QMessageBox>\nvoid End() { QCoreApplication::exit(1); }\n",
+    "platform/CMakeLists.txt": "add_library(halvane_platform STATIC platform_qt.cpp)\n",
+    "widgets/box.h": '#include <QWidget>\n#include "platform/platform.h"\n',
+    "shell/tool_form.h": '#include "help/viewer.h"\n#include "widgets/box.h"\n',
+    "help/viewer.cpp": '#include "platform/platform.h"\nconst char* kText = "strtod(";\n',
     "help/help_archive.cpp": '#include <mspack.h>\n#include "help/help_archive.h"\n',
     "help/help_file.h": '#include <string>\n#include "core/text.h"\n#include "help/help_contents.h"\n',
+    "help/CMakeLists.txt": "add_library(halvane_help_file STATIC help_archive.cpp)\n"
+    "add_library(halvane_help STATIC viewer.cpp)\n",
     "reporter/main.cpp": "#include <CLI/CLI.hpp>\nreturn app.exit(error);\n",
+    "reporter/CMakeLists.txt": "add_executable(halvane-report main.cpp)\n",
     "docs/architecture.md": "# How\n[`core/text.h`](../core/text.h), [above](#how)\n",
 }
+
+# An include of the room above for each room: (file, what it must not include).
+UPWARD = (
+    ("core/a.h", "platform/platform.h"),
+    ("platform/platform.h", "widgets/layout.h"),
+    ("platform/platform.h", "tools/rula/frm_rula.h"),
+    ("widgets/a.h", "help/help_window.h"),
+    ("help/help_file.h", "platform/platform.h"),
+    ("help/help_window.h", "shell/tool_form.h"),
+    ("shell/a.h", "tools/tool_table.h"),
+    ("shell/a.h", "tools/rula/frm_rula.h"),
+    ("shell/a.h", "app/tool_forms.h"),
+    ("tools/headline.h", "tools/rula/rula_score.h"),
+    ("tools/tool_table.h", "tools/rula/frm_rula.h"),
+    ("tools/posture/a.h", "tools/rula/rula_score.h"),
+    ("tools/posture/a.h", "tools/posture/posture_page.h"),
+    ("tools/posture/posture_page.h", "tools/rula/rula_controls.h"),
+    ("tools/task_list/task_tree.h", "tools/ocra/frm_ocra.h"),
+    ("tools/ctd/frm_ctd.h", "app/tool_forms.h"),
+    ("tools/ctd/frm_ctd.h", "tools/tool_table.h"),
+    ("app/tool_forms.h", "reporter/options.h"),
+    ("reporter/a.h", "platform/platform.h"),
+    ("reporter/a.h", "tools/rula/frm_rula.h"),
+)
+# A tool of another room, which is beside and not below.
+BESIDE = tuple(
+    (f"tools/{tool}/{stem}", f"tools/{other}/a.h")
+    for tool, other in (
+        ("ocra", "ctd"),
+        ("ctd", "ocra"),
+        ("strain_index", "hal"),
+        ("reba", "rula"),
+        ("rula", "reba"),
+        ("hal", "strain_index"),
+    )
+    for stem in ("a.h", "frm_a.h")
+)
 
 # (label, check, path, text, what the finding says)
 PLANTED = (
@@ -47,6 +99,27 @@ PLANTED = (
     ("the unpacker in core", "includes", "core/a.cpp", "#include <mspack.h>\n", "mspack"),
     ("core includes the help reader", "includes", "core/a.cpp", '#include "help/help_file.h"\n', "help_file"),
     ("a form includes the reporter", "includes", "shell/a.cpp", '#include "reporter/a.h"\n', "reporter"),
+    *(
+        (f"{path} includes {included}", "includes", path, f'#include "{included}"\n', included)
+        for path, included in (*UPWARD, *BESIDE)
+    ),
+    ("Windows elsewhere", "includes", "core/a.h", "#include <windows.h>\n", "<windows.h>"),
+    ("POSIX for Windows", "includes", "core/a_windows.h", "#include <unistd.h>\n", "<unistd.h>"),
+    ("a source in no list", "lists", "core/a.cpp", "", "core/a.cpp: stands in 0 lists"),
+    (
+        "a source of another folder",
+        "lists",
+        "widgets/CMakeLists.txt",
+        "add_library(halvane_widgets STATIC ../core/text.cpp)\n",
+        "no file of its folder",
+    ),
+    (
+        "a source in another library",
+        "lists",
+        "tools/rula/CMakeLists.txt",
+        "target_sources(halvane_tools PRIVATE score.cpp frm_rula.cpp)\n",
+        "lists frm_rula.cpp for halvane_tools",
+    ),
     ("a message box", "raw-calls", "shell/a.cpp", "QMessageBox box;\n", "QMessageBox"),
     ("a message box's header", "raw-calls", "shell/a.h", "#include <QMessageBox>\n", "QMessageBox"),
     ("a file dialog", "raw-calls", "tools/hal/frm_hal.cpp", "QFileDialog::getOpenFileName();\n", "QFileDialog"),

@@ -1,2 +1,2 @@
-// The whole of halvane_core and halvane_logic is linked into this program by force.
+// The whole of halvane_core and halvane_tools is linked into this program by force.
 int main() { return 0; }

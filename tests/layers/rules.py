@@ -26,29 +26,80 @@ POSIX_HEADERS = frozenset(
 )
 
 # Code for one operating system stands in files that say so.
-POSIX_FILE = re.compile(r"\w+_posix\.cpp")
+POSIX_FILE = re.compile(r"\w+_posix\.(cpp|h)")
+WINDOWS_FILE = re.compile(r"\w+_windows\.(cpp|h)")
+WINDOWS_HEADERS = frozenset("aclapi.h fcntl.h io.h knownfolders.h sddl.h shellapi.h shlobj.h windows.h".split())
 
-REPORTER_LIBRARIES = re.compile(r"(CLI|nlohmann)/")
-
-# The reader of help files is headless; the rest of help/ is the window that shows them.
-HELP_READER = re.compile(r"help/(help_(archive|contents|file|markup)|verify_help_file)\.(h|cpp)")
-# One file knows the unpacker.
+# The one file that knows the unpacker of help files.
 HELP_UNPACKER = {"help/help_archive.cpp": "mspack.h"}
 
-# The sources of the program; tests and generators are no layer.
-FOLDERS = ("core", "tools", "shell", "help", "reporter")
+TOOL_NAMES = {"ocra": "ocra", "ctd": "ctd", "strain_index": "si", "reba": "reba", "rula": "rula", "hal": "hal"}
+SCREENLESS_TOOLS = ("tool parts", "posture", *TOOL_NAMES)
+FORMS_OF_TOOLS = tuple(f"form of {tool}" for tool in TOOL_NAMES)
 
-# Layer: the folders whose headers it may include. The headless ones have nothing but the standard
-# library beside them, the reporter its two packages and the reader of help files its unpacker too,
-# the forms anything of Qt.
-LAYERS = {
-    "core": ("core",),
-    "logic": ("core", "tools"),
-    "help reader": ("core", "help"),
-    "forms": ("core", "tools", "shell", "help"),
-    "reporter": ("core", "tools", "reporter"),
-}
-HEADLESS_LAYERS = ("core", "logic", "help reader", "reporter")
+# Every room of the house: (name, its files, the rooms below that it may use, its library and programs).
+# A file belongs to the first room that its path fits.
+_SHELL_USES = ("core", "platform", "widgets", "help reader", "help")
+_FORM_USES = (*_SHELL_USES, "shell", "tool parts", "posture", "posture screen", "task list screen")
+ROOMS = tuple(
+    (name, re.compile(pattern), uses, targets)
+    for name, pattern, uses, targets in (
+        ("core", r"core/.*", (), ("halvane_core",)),
+        ("platform", r"platform/.*", ("core",), ("halvane_platform",)),
+        ("widgets", r"widgets/.*", ("core", "platform"), ("halvane_widgets",)),
+        (
+            "help reader",
+            r"help/(help_(archive|contents|file|markup)|verify_help_file)\.\w+",
+            ("core",),
+            ("halvane_help_file", "verify_help_file"),
+        ),
+        ("help", r"help/.*", ("core", "platform", "widgets", "help reader"), ("halvane_help",)),
+        ("shell", r"shell/.*", _SHELL_USES, ("halvane_shell",)),
+        ("tools", r"tools/tool_table\.\w+", ("core", *SCREENLESS_TOOLS), ("halvane_tools",)),
+        ("tool parts", r"tools/[^/]*", ("core",), ("halvane_tools",)),
+        (
+            "posture screen",
+            r"tools/posture/posture_(frame|page)\.\w+",
+            (*_SHELL_USES, "shell", "tool parts", "posture"),
+            ("halvane_forms",),
+        ),
+        ("posture", r"tools/posture/.*", ("core", "tool parts"), ("halvane_tools",)),
+        (
+            "task list screen",
+            r"tools/task_list/.*",
+            (*_SHELL_USES, "shell", "tool parts"),
+            ("halvane_forms",),
+        ),
+        *(
+            (f"form of {tool}", rf"tools/{tool}/frm_.*", (*_FORM_USES, tool), ("halvane_forms",))
+            for tool in TOOL_NAMES
+        ),
+        *(
+            (tool, rf"tools/{tool}/.*", ("core", "tool parts", "posture"), ("halvane_tools",))
+            for tool in TOOL_NAMES
+        ),
+        (
+            "app",
+            r"app/.*",
+            (*_FORM_USES, "tools", *TOOL_NAMES, *FORMS_OF_TOOLS),
+            ("app_forms", "halvane-tools"),
+        ),
+        (
+            "reporter",
+            r"reporter/.*",
+            ("core", "tools", *SCREENLESS_TOOLS),
+            ("halvane_reporter", "halvane-report"),
+        ),
+    )
+)
+ROOM_NAMES = tuple(name for name, *_ in ROOMS)
+
+# These have the standard library alone beside the rooms below them, those named here a package too.
+HEADLESS_ROOMS = frozenset(("core", "help reader", "tools", *SCREENLESS_TOOLS, "reporter"))
+PACKAGES = {"reporter": re.compile(r"(CLI|nlohmann)/")}
+
+# The sources of the program; tests and generators are in no room.
+FOLDERS = ("app", "core", "help", "platform", "reporter", "shell", "tools", "widgets")
 
 # (name, pattern): what reaches outside the program's own windows.
 RAW_CALLS = tuple(
@@ -66,7 +117,7 @@ RAW_CALLS = tuple(
         ("the end of the program", r"\b(_exit|_Exit|quick_exit|abort|terminate)\s*\("),
     )
 )
-RAW_CALLS_ALLOWED = re.compile(r"shell/platform\w*\.(h|cpp)")
+RAW_CALLS_ALLOWED = re.compile(r"platform/platform\w*\.(h|cpp)")
 
 # (name, pattern, files that may): text to number and back depends on the locale or loses digits
 # everywhere but in the one module for it.

@@ -9,13 +9,13 @@
 
 #include "core/job_state.h"
 #include "core/number_text.h"
-#include "shell/controls/ribbon_button.h"
-#include "shell/controls/task_tree.h"
-#include "shell/controls/text_box.h"
-#include "shell/layout.h"
 #include "tools/ctd/ctd_controls.h"
 #include "tools/hal/hal_controls.h"
 #include "tools/ocra/ocra_controls.h"
+#include "tools/task_list/task_tree.h"
+#include "widgets/layout.h"
+#include "widgets/ribbon_button.h"
+#include "widgets/text_box.h"
 
 namespace halvane {
 namespace {

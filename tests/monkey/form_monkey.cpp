@@ -13,6 +13,7 @@
 #include "shell/halvane_application.h"
 #include "shell/tool_form.h"
 #include "tests/monkey/monkey.h"
+#include "tools/tool_table.h"
 
 namespace {
 

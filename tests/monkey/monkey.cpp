@@ -9,10 +9,10 @@
 #include <QTabBar>
 #include <QTextEdit>
 
+#include "app/tool_forms.h"
 #include "core/units.h"
-#include "shell/controls/task_tree.h"
-#include "shell/controls/text_box.h"
-#include "shell/tool_forms.h"
+#include "tools/task_list/task_tree.h"
+#include "widgets/text_box.h"
 
 namespace halvane {
 namespace {

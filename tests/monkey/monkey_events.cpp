@@ -12,10 +12,10 @@
 #include <QTextEdit>
 #include <array>
 
-#include "shell/controls/task_tree.h"
-#include "shell/controls/text_box.h"
 #include "tests/monkey/monkey.h"
-#include "tests/shell/form_support.h"
+#include "tests/support/form_support.h"
+#include "tools/task_list/task_tree.h"
+#include "widgets/text_box.h"
 
 namespace halvane {
 namespace {

@@ -2,9 +2,9 @@
 #include <QApplication>
 #include <QMenuBar>
 
-#include "shell/controls/text_box.h"
 #include "tests/monkey/allowed_failures.h"
 #include "tests/monkey/monkey.h"
+#include "widgets/text_box.h"
 
 namespace halvane {
 

@@ -7,7 +7,7 @@
 #include "tests/monkey/dice.h"
 #include "tests/monkey/sample_jobs.h"
 #include "tests/monkey/trace.h"
-#include "tests/shell/test_platform.h"
+#include "tests/support/test_platform.h"
 
 namespace halvane {
 

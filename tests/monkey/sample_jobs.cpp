@@ -5,7 +5,7 @@
 #include "core/job_file.h"
 #include "core/job_state.h"
 #include "core/task_list.h"
-#include "tests/core/test_support.h"
+#include "tests/support/test_support.h"
 
 namespace halvane {
 namespace {

@@ -9,7 +9,7 @@
 #include "core/checksum.h"
 #include "core/journal.h"
 #include "reporter/check_command.h"
-#include "tests/core/test_support.h"
+#include "tests/support/test_support.h"
 
 namespace halvane {
 namespace {

@@ -2,8 +2,8 @@
 
 #include <nlohmann/json.hpp>
 
-#include "tests/core/test_support.h"
 #include "tests/reporter/running_program.h"
+#include "tests/support/test_support.h"
 #include "tools/tool_table.h"
 
 namespace halvane {

@@ -7,7 +7,7 @@
 #include <filesystem>
 
 #include "reporter/job_list.h"
-#include "tests/core/test_support.h"
+#include "tests/support/test_support.h"
 
 namespace halvane {
 namespace {

@@ -4,9 +4,9 @@
 
 #include <array>
 
-#include "tests/core/test_support.h"
 #include "tests/reporter/run_program.h"
 #include "tests/reporter/sample_summary.h"
+#include "tests/support/test_support.h"
 
 namespace halvane {
 namespace {

@@ -4,8 +4,8 @@
 #include <sys/stat.h>
 
 #include "reporter/check_command.h"
-#include "tests/core/test_support.h"
 #include "tests/reporter/run_program.h"
+#include "tests/support/test_support.h"
 
 namespace halvane {
 namespace {

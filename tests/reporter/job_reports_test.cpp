@@ -7,8 +7,8 @@
 
 #include "core/job_state.h"
 #include "reporter/opened_job.h"
-#include "tests/core/test_support.h"
 #include "tests/reporter/sample_report.h"
+#include "tests/support/test_support.h"
 
 namespace halvane {
 namespace {

@@ -4,8 +4,8 @@
 
 #include "core/job_state.h"
 #include "reporter/summary_command.h"
-#include "tests/core/test_support.h"
 #include "tests/reporter/sample_summary.h"
+#include "tests/support/test_support.h"
 
 namespace halvane {
 namespace {

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <filesystem>
 
-#include "tests/core/test_support.h"
 #include "tests/reporter/run_program.h"
+#include "tests/support/test_support.h"
 #include "tools/tool_table.h"
 
 namespace halvane {

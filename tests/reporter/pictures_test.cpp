@@ -3,8 +3,8 @@
 #include <gtest/gtest.h>
 
 #include "core/job_state.h"
-#include "tests/core/test_support.h"
 #include "tests/reporter/run_program.h"
+#include "tests/support/test_support.h"
 #include "tools/tool_table.h"
 
 namespace halvane {

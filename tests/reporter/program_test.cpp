@@ -4,8 +4,8 @@
 #include <sstream>
 #include <vector>
 
-#include "tests/core/test_support.h"
 #include "tests/reporter/run_program.h"
+#include "tests/support/test_support.h"
 #include "tools/tool_table.h"
 
 namespace halvane {

@@ -10,7 +10,7 @@
 #include <cstdlib>
 #include <system_error>
 
-#include "tests/core/test_support.h"
+#include "tests/support/test_support.h"
 
 namespace halvane {
 namespace {

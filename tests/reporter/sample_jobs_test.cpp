@@ -2,8 +2,8 @@
 
 #include "core/job_file.h"
 #include "core/job_state.h"
-#include "tests/core/test_support.h"
 #include "tests/reporter/run_program.h"
+#include "tests/support/test_support.h"
 
 namespace halvane {
 namespace {

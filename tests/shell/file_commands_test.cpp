@@ -6,7 +6,7 @@
 #include <filesystem>
 
 #include "shell/frm_hand_main.h"
-#include "tests/shell/form_support.h"
+#include "tests/support/form_support.h"
 #include "tools/strain_index/frm_si.h"
 
 namespace halvane {

@@ -5,7 +5,7 @@
 #include <QTest>
 
 #include "shell/frm_hand_main.h"
-#include "tests/shell/form_support.h"
+#include "tests/support/form_support.h"
 
 namespace halvane {
 namespace {

@@ -6,7 +6,7 @@
 
 #include "core/job_file.h"
 #include "core/rescue_copy.h"
-#include "tests/shell/form_support.h"
+#include "tests/support/form_support.h"
 #include "tools/strain_index/frm_si.h"
 
 namespace halvane {

@@ -3,8 +3,9 @@
 #include <QMenu>
 #include <QTest>
 
+#include "app/tool_forms.h"
 #include "shell/frm_hand_main.h"
-#include "tests/shell/form_support.h"
+#include "tests/support/form_support.h"
 
 namespace halvane {
 namespace {
@@ -130,7 +131,7 @@ TEST_F(MainWindowMouse, PressOnAButtonDragsNothing) {
 }
 
 TEST_F(MainWindowMouse, OpeningPanelDragsNothingAndTheStripDoes) {
-  FrmHandMain opening;
+  FrmHandMain opening(MakeToolForm);
   ShowActive(opening);
   for (const char* name : {"Picture3", "lblProductName(0)", "lblMaker"}) {
     Send(Find<QWidget>(opening, name), QEvent::MouseButtonPress, Qt::LeftButton);

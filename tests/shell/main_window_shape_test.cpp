@@ -6,9 +6,10 @@
 #include <QPainter>
 #include <cmath>
 
-#include "shell/controls/gradient_panel.h"
+#include "app/tool_forms.h"
 #include "shell/frm_hand_main.h"
-#include "tests/shell/form_support.h"
+#include "tests/support/form_support.h"
+#include "widgets/gradient_panel.h"
 
 namespace halvane {
 namespace {
@@ -53,7 +54,7 @@ void ExpectControlsInside(const QWidget& window, const QStringList& names) {
 }
 
 TEST_F(MainWindowShape, PictureAndMaskHaveTheWindowsSize) {
-  const FrmHandMain window;
+  const FrmHandMain window(MakeToolForm);
   EXPECT_EQ(window.minimumSize(), QSize(306, 501));
   EXPECT_EQ(window.maximumSize(), QSize(306, 501));
   EXPECT_EQ(Find<QWidget>(window, "SSSplash1").geometry(), QRect(0, 0, 306, 501));
@@ -65,12 +66,12 @@ TEST_F(MainWindowShape, PictureAndMaskHaveTheWindowsSize) {
 }
 
 TEST_F(MainWindowShape, WindowHasNoFrame) {
-  const FrmHandMain window;
+  const FrmHandMain window(MakeToolForm);
   EXPECT_TRUE(window.windowFlags().testFlag(Qt::FramelessWindowHint));
 }
 
 TEST_F(MainWindowShape, OutlineIsThatOfTheMask) {
-  FrmHandMain window;
+  FrmHandMain window(MakeToolForm);
   ShowActive(window);
   QImage drawn(306, 501, QImage::Format_Grayscale8);
   drawn.fill(Qt::black);
@@ -86,7 +87,7 @@ TEST_F(MainWindowShape, OutlineIsThatOfTheMask) {
 }
 
 TEST_F(MainWindowShape, NothingIsPaintedOutsideTheOutline) {
-  FrmHandMain window;
+  FrmHandMain window(MakeToolForm);
   ShowActive(window);
   const QImage shown = window.grab().toImage();
   const QImage mask = Mask("hand_mask.png");
@@ -100,7 +101,7 @@ TEST_F(MainWindowShape, NothingIsPaintedOutsideTheOutline) {
 }
 
 TEST_F(MainWindowShape, FingersAreThoseOfThePicture) {
-  FrmHandMain window;
+  FrmHandMain window(MakeToolForm);
   ShowActive(window);
   const QImage shown = window.grab().toImage();
   const QImage picture(":/assets/main_window/hand.png");
@@ -116,7 +117,7 @@ TEST_F(MainWindowShape, FingersAreThoseOfThePicture) {
 }
 
 TEST_F(MainWindowShape, EveryControlStandsWellInsideTheOutline) {
-  FrmHandMain opening;
+  FrmHandMain opening(MakeToolForm);
   ShowActive(opening);
   ExpectControlsInside(opening, {"Picture1", "Label1", "Picture3", "Hyperlink1"});
   const auto window = IdleMainWindow();
@@ -150,7 +151,7 @@ TEST_F(MainWindowShape, NoTwoControlsOverlapButTheTitleStripAndItsButtons) {
 }
 
 TEST_F(MainWindowShape, HandIsBehindEverything) {
-  const FrmHandMain window;
+  const FrmHandMain window(MakeToolForm);
   QStringList names;
   for (const auto* child : window.findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
     if (!child->isWindow()) names.append(child->objectName());
@@ -258,7 +259,7 @@ TEST_F(Gradient, IsTheSameAfterTheWindowWasCovered) {
 }
 
 TEST_F(Gradient, IsOnTitleStripAndOpeningPanelUnderWhiteText) {
-  FrmHandMain window;
+  FrmHandMain window(MakeToolForm);
   for (const char* name : {"Picture1", "Picture3"}) {
     auto& panel = Find<GradientPanel>(window, name);
     EXPECT_EQ(panel.palette().color(QPalette::WindowText), QColor(Qt::white)) << name;

@@ -7,9 +7,10 @@
 #include <QPushButton>
 #include <QTest>
 
+#include "app/tool_forms.h"
 #include "shell/frm_hand_main.h"
 #include "shell/tool_form.h"
-#include "tests/shell/form_support.h"
+#include "tests/support/form_support.h"
 
 namespace halvane {
 namespace {
@@ -60,13 +61,13 @@ void InStrainIndex(QWidget& window, const std::function<void(QWidget&)>& step) {
 TEST_F(MainWindow, StartsWithTheEmptyJobUnchanged) {
   Module1.JobDirty = kTrue;
   Module1.JobName = "left over";
-  const FrmHandMain window;
+  const FrmHandMain window(MakeToolForm);
   EXPECT_EQ(Module1.JobDirty, kFalse);
   EXPECT_EQ(Module1.JobName.AsText(), "");
 }
 
 TEST_F(MainWindow, OpeningPhaseShowsThePanelAndHidesEveryButton) {
-  FrmHandMain window;
+  FrmHandMain window(MakeToolForm);
   ShowActive(window);
   EXPECT_TRUE(Find<QWidget>(window, "Picture3").isVisible());
   EXPECT_EQ(VisibleButtons(window), QStringList("Hyperlink1"));
@@ -74,7 +75,7 @@ TEST_F(MainWindow, OpeningPhaseShowsThePanelAndHidesEveryButton) {
 }
 
 TEST_F(MainWindow, OpeningPhaseLastsOneTickOf3500Milliseconds) {
-  const FrmHandMain window;
+  const FrmHandMain window(MakeToolForm);
   const auto& timer = Find<QTimer>(window, "Timer1");
   EXPECT_TRUE(timer.isActive());
   EXPECT_EQ(timer.interval(), 3500);
@@ -82,7 +83,7 @@ TEST_F(MainWindow, OpeningPhaseLastsOneTickOf3500Milliseconds) {
 }
 
 TEST_F(MainWindow, OpeningPhaseHasNoShortcuts) {
-  FrmHandMain window;
+  FrmHandMain window(MakeToolForm);
   ShowActive(window);
   Module1.JobName = "kept";
   for (const Qt::Key key : {Qt::Key_N, Qt::Key_O, Qt::Key_S}) {
@@ -103,7 +104,7 @@ TEST_F(MainWindow, TickShowsEveryButtonAndParksTheFocus) {
 }
 
 TEST_F(MainWindow, TitlesAndProductNames) {
-  const FrmHandMain window;
+  const FrmHandMain window(MakeToolForm);
   EXPECT_EQ(window.windowTitle(), "Halvane Tools V1.0");
   EXPECT_EQ(Find<QLabel>(window, "Label1").text(), "Halvane Tools 1.8B");
   EXPECT_EQ(Find<QLabel>(window, "lblProductName(0)").text(), "Halvane Tools 1.8B");
@@ -165,7 +166,7 @@ TEST_F(MainWindow, MinimizeParksTheFocusAndKeepsTheJob) {
 }
 
 TEST_F(MainWindowMenus, FileMenuHasItsItems) {
-  const FrmHandMain window;
+  const FrmHandMain window(MakeToolForm);
   const auto& menu = Find<QMenu>(window, "mnuPopUp1");
   EXPECT_EQ(menu.title(), "Popup1");
   EXPECT_EQ(TextsOf(menu), (QStringList{"New", "Open", "-", "Save", "Save As...", "-", "Unit", "-",
@@ -179,7 +180,7 @@ TEST_F(MainWindowMenus, FileMenuHasItsItems) {
 }
 
 TEST_F(MainWindowMenus, HelpMenuHasItsItems) {
-  const FrmHandMain window;
+  const FrmHandMain window(MakeToolForm);
   const auto& menu = Find<QMenu>(window, "mnuPopup2");
   EXPECT_EQ(menu.title(), "Popup2");
   EXPECT_EQ(TextsOf(menu), (QStringList{"Content...", "-", "About Ostrel..."}));

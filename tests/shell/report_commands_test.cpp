@@ -8,10 +8,10 @@
 #include <QTabWidget>
 #include <QTest>
 
-#include "shell/controls/rich_text_box.h"
-#include "shell/platform_qt.h"
-#include "tests/shell/form_support.h"
+#include "platform/platform_qt.h"
+#include "tests/support/form_support.h"
 #include "tools/strain_index/frm_si.h"
+#include "widgets/rich_text_box.h"
 
 namespace halvane {
 namespace {

@@ -7,7 +7,7 @@
 
 #include "core/job_file.h"
 #include "shell/halvane_application.h"
-#include "tests/shell/form_support.h"
+#include "tests/support/form_support.h"
 
 namespace halvane {
 namespace {

@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "tests/core/test_support.h"
+#include "tests/support/test_support.h"
 #include "tools/reba/reba_controls.h"
 #include "tools/rula/rula_controls.h"
 

@@ -11,7 +11,7 @@
 
 #include "core/job_state.h"
 #include "core/task_list.h"
-#include "tests/core/test_support.h"
+#include "tests/support/test_support.h"
 #include "tools/ocra/ocra_report.h"
 #include "tools/reba/reba_score.h"
 #include "tools/rula/rula_score.h"

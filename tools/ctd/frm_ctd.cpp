@@ -10,22 +10,22 @@
 #include <QVBoxLayout>
 
 #include "core/job_state.h"
+#include "core/program_title.h"
+#include "core/silently.h"
 #include "core/task_list.h"
 #include "core/units.h"
-#include "shell/controls/ribbon_button.h"
-#include "shell/controls/rich_text_box.h"
-#include "shell/controls/tab_strip.h"
-#include "shell/controls/task_tree.h"
-#include "shell/controls/text_box.h"
+#include "platform/platform.h"
 #include "shell/hand_frame.h"
-#include "shell/layout.h"
-#include "shell/platform.h"
-#include "shell/program_title.h"
-#include "shell/silently.h"
-#include "shell/task_commands.h"
-#include "shell/task_list_frame.h"
 #include "tools/ctd/ctd_report.h"
 #include "tools/ctd/ctd_score.h"
+#include "tools/task_list/task_commands.h"
+#include "tools/task_list/task_list_frame.h"
+#include "tools/task_list/task_tree.h"
+#include "widgets/layout.h"
+#include "widgets/ribbon_button.h"
+#include "widgets/rich_text_box.h"
+#include "widgets/tab_strip.h"
+#include "widgets/text_box.h"
 
 namespace halvane {
 namespace {

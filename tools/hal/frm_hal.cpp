@@ -14,14 +14,14 @@
 #include <QVBoxLayout>
 
 #include "core/job_state.h"
-#include "shell/controls/labelled_scale.h"
-#include "shell/controls/mouse_slider.h"
-#include "shell/controls/rich_text_box.h"
-#include "shell/controls/text_box.h"
 #include "shell/hand_frame.h"
-#include "shell/layout.h"
 #include "tools/hal/hal_controls.h"
 #include "tools/hal/hal_score.h"
+#include "widgets/labelled_scale.h"
+#include "widgets/layout.h"
+#include "widgets/mouse_slider.h"
+#include "widgets/rich_text_box.h"
+#include "widgets/text_box.h"
 
 namespace halvane {
 namespace {

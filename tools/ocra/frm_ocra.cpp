@@ -12,18 +12,18 @@
 
 #include "core/job_state.h"
 #include "core/task_list.h"
-#include "shell/controls/pair_panel.h"
-#include "shell/controls/rich_text_box.h"
-#include "shell/controls/tab_strip.h"
-#include "shell/controls/task_tree.h"
-#include "shell/controls/text_box.h"
-#include "shell/controls/tick_labels.h"
 #include "shell/hand_frame.h"
-#include "shell/layout.h"
-#include "shell/task_commands.h"
-#include "shell/task_list_frame.h"
 #include "tools/ocra/ocra_report.h"
 #include "tools/ocra/ocra_score.h"
+#include "tools/task_list/task_commands.h"
+#include "tools/task_list/task_list_frame.h"
+#include "tools/task_list/task_tree.h"
+#include "widgets/layout.h"
+#include "widgets/pair_panel.h"
+#include "widgets/rich_text_box.h"
+#include "widgets/tab_strip.h"
+#include "widgets/text_box.h"
+#include "widgets/tick_labels.h"
 
 namespace halvane {
 namespace {

@@ -7,15 +7,15 @@
 #include <QVBoxLayout>
 #include <array>
 
-#include "shell/controls/ribbon_button.h"
-#include "shell/controls/rich_text_box.h"
-#include "shell/controls/tab_strip.h"
 #include "shell/hand_frame.h"
-#include "shell/layout.h"
-#include "shell/posture_frame.h"
-#include "shell/posture_page.h"
+#include "tools/posture/posture_frame.h"
+#include "tools/posture/posture_page.h"
 #include "tools/rula/rula_report.h"
 #include "tools/rula/rula_score.h"
+#include "widgets/layout.h"
+#include "widgets/ribbon_button.h"
+#include "widgets/rich_text_box.h"
+#include "widgets/tab_strip.h"
 
 namespace halvane {
 namespace {

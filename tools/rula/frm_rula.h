@@ -1,8 +1,8 @@
 #pragma once
 
-#include "shell/button_states.h"
 #include "shell/tool_form.h"
 #include "tools/rula/rula_controls.h"
+#include "widgets/button_states.h"
 
 namespace halvane {
 

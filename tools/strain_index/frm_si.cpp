@@ -10,13 +10,13 @@
 #include <QVBoxLayout>
 
 #include "core/job_state.h"
-#include "shell/controls/ribbon_button.h"
-#include "shell/controls/rich_text_box.h"
-#include "shell/controls/tab_strip.h"
-#include "shell/controls/text_box.h"
 #include "shell/hand_frame.h"
-#include "shell/layout.h"
 #include "tools/strain_index/si_score.h"
+#include "widgets/layout.h"
+#include "widgets/ribbon_button.h"
+#include "widgets/rich_text_box.h"
+#include "widgets/tab_strip.h"
+#include "widgets/text_box.h"
 
 namespace halvane {
 namespace {

@@ -7,7 +7,7 @@
 #include <string>
 
 #include "core/job_state.h"
-#include "tests/core/test_support.h"
+#include "tests/support/test_support.h"
 
 namespace halvane {
 namespace {

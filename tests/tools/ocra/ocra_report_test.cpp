@@ -9,7 +9,7 @@
 
 #include "core/job_state.h"
 #include "core/task_list.h"
-#include "tests/core/test_support.h"
+#include "tests/support/test_support.h"
 #include "tests/tools/report_page.h"
 #include "tools/ocra/ocra_score.h"
 

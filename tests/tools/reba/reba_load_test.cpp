@@ -7,7 +7,7 @@
 
 #include "core/job_file.h"
 #include "core/job_state.h"
-#include "tests/core/test_support.h"
+#include "tests/support/test_support.h"
 #include "tools/reba/reba_controls.h"
 #include "tools/reba/reba_score.h"
 

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "core/job_state.h"
-#include "tests/core/test_support.h"
+#include "tests/support/test_support.h"
 #include "tools/strain_index/si_controls.h"
 #include "tools/strain_index/si_score.h"
 

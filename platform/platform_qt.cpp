@@ -1,0 +1,184 @@
+#include "platform/platform_qt.h"
+
+#include <QClipboard>
+#include <QCoreApplication>
+#include <QCursor>
+#include <QDir>
+#include <QFile>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QGuiApplication>
+#include <QMessageBox>
+#include <QMouseEvent>
+#include <QPageSetupDialog>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QProcess>
+#include <QSaveFile>
+#include <QStandardPaths>
+#include <QTextDocument>
+#include <QWidget>
+#include <QWindow>
+#include <array>
+
+#include "core/user_folders.h"
+#include "platform/platform_x11.h"
+#include "platform/registry_access.h"
+#include "platform/system_viewer.h"
+
+namespace halvane {
+namespace {
+
+struct ButtonRow {
+  Answer answer;
+  QMessageBox::StandardButton button;
+};
+
+constexpr std::array kButtons{
+    ButtonRow{Answer::Yes, QMessageBox::Yes},
+    ButtonRow{Answer::No, QMessageBox::No},
+    ButtonRow{Answer::Cancel, QMessageBox::Cancel},
+    ButtonRow{Answer::Ok, QMessageBox::Ok},
+};
+
+QString RunFileDialog(QFileDialog& dialog, const QString& filter) {
+  dialog.setNameFilters(filter.split(";;"));
+  return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+}
+
+Platform* platformInUse = nullptr;
+
+}  // namespace
+
+Platform& ThePlatform() {
+  static QtPlatform real;
+  return platformInUse != nullptr ? *platformInUse : real;
+}
+
+void SetPlatform(Platform* platform) { platformInUse = platform; }
+
+QtPlatform::QtPlatform() = default;
+QtPlatform::~QtPlatform() = default;
+
+Answer QtPlatform::ShowMessage(QWidget* parent, const QString& title, const QString& text,
+                               const std::vector<Answer>& buttons) {
+  QMessageBox box(parent);
+  box.setWindowTitle(title);
+  box.setTextFormat(Qt::PlainText);
+  box.setText(text);
+  for (const Answer answer : buttons) {
+    box.addButton(kButtons.at(static_cast<std::size_t>(answer)).button);
+  }
+  box.setDefaultButton(kButtons.at(static_cast<std::size_t>(buttons.front())).button);
+  const int chosen = box.exec();
+  for (const ButtonRow& row : kButtons) {
+    if (row.button == chosen) return row.answer;
+  }
+  return buttons.back();
+}
+
+QString QtPlatform::ChooseFileToOpen(QWidget* parent, const QString& filter) {
+  QFileDialog dialog(parent, QFileDialog::tr("Open"));
+  dialog.setFileMode(QFileDialog::ExistingFile);
+  return RunFileDialog(dialog, filter);
+}
+
+QString QtPlatform::ChooseFileToSave(QWidget* parent, const QString& filter) {
+  QFileDialog dialog(parent, QFileDialog::tr("Save As"));
+  dialog.setAcceptMode(QFileDialog::AcceptSave);
+  for (;;) {
+    const QString name = RunFileDialog(dialog, filter);
+    if (name.isEmpty() || QFileInfo(QFileInfo(name).path()).isDir()) return name;
+    ShowMessage(parent, dialog.windowTitle(),
+                QFileInfo(name).path() + "\nThis folder does not exist.", {Answer::Ok});
+  }
+}
+
+QPrinter& QtPlatform::CurrentPrinter() {
+  if (!printer_) printer_ = std::make_unique<QPrinter>(QPrinter::HighResolution);
+  return *printer_;
+}
+
+bool QtPlatform::ChoosePrinter(QWidget* parent) {
+  QPrintDialog dialog(&CurrentPrinter(), parent);
+  // Printing to PDF stays on offer: here it is a printer of the list and not a box beside it.
+  dialog.setOption(QAbstractPrintDialog::PrintSelection, false);
+  dialog.setOption(QAbstractPrintDialog::PrintPageRange, false);
+  dialog.setOption(QAbstractPrintDialog::PrintCurrentPage, false);
+  return dialog.exec() == QDialog::Accepted;
+}
+
+void QtPlatform::SetUpPrinter(QWidget* parent) {
+  QPageSetupDialog dialog(&CurrentPrinter(), parent);
+  dialog.exec();
+}
+
+void QtPlatform::Print(const QTextDocument& document) { document.print(&CurrentPrinter()); }
+
+void QtPlatform::ClearClipboard() { QGuiApplication::clipboard()->clear(); }
+
+void QtPlatform::SetClipboardText(const QString& text) {
+  QGuiApplication::clipboard()->setText(text);
+}
+
+QString QtPlatform::ProgramFolder() { return QCoreApplication::applicationDirPath(); }
+
+QString QtPlatform::DataFolder() {
+  return QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+}
+
+bool QtPlatform::CopyFile(const QString& source, const QString& target) {
+  QDir().mkpath(QFileInfo(target).path());
+  QFile from(source);
+  // Replaces what is there only when the copy is whole.
+  QSaveFile to(target);
+  if (!from.open(QFile::ReadOnly) || !to.open(QFile::WriteOnly)) return false;
+  const QByteArray bytes = from.readAll();
+  if (from.error() != QFile::NoError || to.write(bytes) != bytes.size()) return false;
+  return to.commit();
+}
+
+std::vector<std::string> QtPlatform::RescueFolders() {
+  // Without a home, the toolkit would name a folder in the root of all.
+  const std::string documents =
+      qEnvironmentVariableIsEmpty("HOME")
+          ? std::string()
+          : QFile::encodeName(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation))
+                .toStdString();
+  return {documents, HomeFolder(), StateFolder(), SystemTemporaryFolder()};
+}
+
+std::string QtPlatform::StateFolder() { return halvane::StateFolder(); }
+
+bool QtPlatform::FileExists(const QString& path) { return QFileInfo::exists(path); }
+
+Registry& QtPlatform::TheRegistry() { return SystemRegistry(); }
+
+bool QtPlatform::StartProgram(const ProgramCall& call) {
+  return QProcess::startDetached(call.program, call.arguments);
+}
+
+ProgramCall QtPlatform::SystemViewer() {
+  const QStringList desktops = QString::fromLocal8Bit(qgetenv("XDG_CURRENT_DESKTOP")).split(':');
+  return FindSystemViewer(desktops, [](const QString& program) {
+    return !QStandardPaths::findExecutable(program).isEmpty();
+  });
+}
+
+void QtPlatform::StartWindowMove(QWidget& window, Qt::MouseButton button) {
+  QWindow* native = window.windowHandle();
+  if (native == nullptr) return;
+  if (!MoveX11Window(window, button)) {
+    native->startSystemMove();
+    return;
+  }
+  // The release goes to the window manager; without one, the pressed widget would keep the mouse.
+  const QPointF global = QCursor::pos();
+  QMouseEvent release(QEvent::MouseButtonRelease, native->mapFromGlobal(global), global, button,
+                      Qt::NoButton, Qt::NoModifier);
+  QCoreApplication::sendEvent(native, &release);
+}
+
+void QtPlatform::EndProgram(int exitStatus) { QCoreApplication::exit(exitStatus); }
+
+}  // namespace halvane

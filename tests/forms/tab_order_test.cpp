@@ -1,0 +1,377 @@
+// What every window has to keep: the Tab key follows the eye, the keyboard reaches everything, and
+// nothing is cut off.
+#include <QApplication>
+#include <QButtonGroup>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSlider>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QTest>
+#include <QTextEdit>
+#include <QTreeView>
+#include <algorithm>
+
+#include "app/tool_forms.h"
+#include "core/task_list.h"
+#include "shell/frm_about.h"
+#include "shell/frm_hand_main.h"
+#include "shell/tool_form.h"
+#include "tests/support/form_support.h"
+#include "tools/posture/posture_frame.h"
+#include "tools/posture/posture_page.h"
+#include "tools/strain_index/frm_si.h"
+#include "tools/tool_table.h"
+#include "widgets/layout.h"
+#include "widgets/ribbon_button.h"
+
+namespace halvane {
+namespace {
+
+class EveryWindow : public ShellTest {
+ protected:
+  /// Every window of the program, ready for input.
+  std::vector<std::unique_ptr<QWidget>> Windows() {
+    std::vector<std::unique_ptr<QWidget>> windows;
+    windows.push_back(IdleMainWindow());
+    windows.push_back(std::make_unique<FrmAbout>(nullptr));
+    for (auto& form : ToolForms()) windows.push_back(std::move(form));
+    return windows;
+  }
+
+  /// Every tool, on a job with a task.
+  static std::vector<std::unique_ptr<ToolForm>> ToolForms() {
+    if (Module1.TaskCount.AsDouble() == 0) AddTaskRecord();
+    std::vector<std::unique_ptr<ToolForm>> forms;
+    for (const ToolRow& row : Tools()) {
+      forms.push_back(MakeToolForm(row.tool, nullptr));
+      forms.back()->load();
+    }
+    return forms;
+  }
+};
+
+QRect PlaceOf(const QWidget& widget) {
+  return {widget.mapTo(widget.window(), QPoint(0, 0)), widget.size()};
+}
+
+/// True when `second` is read before `first`: it stands wholly above, or left of it in one row.
+bool IsReadBefore(const QRect& second, const QRect& first) {
+  const int overlap =
+      std::min(first.bottom(), second.bottom()) - std::max(first.top(), second.top());
+  const bool oneRow = overlap > std::min(first.height(), second.height()) / 2;
+  return oneRow ? second.left() < first.left() : second.top() < first.top();
+}
+
+/// The frame or panel that a control stands in, else the control itself.
+const QWidget& FrameOf(const QWidget& control) {
+  for (const QWidget* parent = control.parentWidget(); parent != nullptr;
+       parent = parent->parentWidget()) {
+    const bool isPanel = parent->objectName().startsWith("SSPanel");
+    if (isPanel || qobject_cast<const QGroupBox*>(parent) != nullptr) return *parent;
+  }
+  return control;
+}
+
+/// The page of frames in two columns that a control stands on, null elsewhere, and which column it
+/// is.
+struct ColumnPlace {
+  const QWidget* page = nullptr;
+  bool right = false;
+};
+ColumnPlace ColumnOf(const QWidget& control) {
+  for (const QWidget* frame = &control; frame != nullptr; frame = frame->parentWidget()) {
+    const auto* page = qobject_cast<const PosturePage*>(frame->parentWidget());
+    if (page == nullptr || qobject_cast<const PostureFrame*>(frame) == nullptr) continue;
+    return {page, frame->geometry().center().x() > page->width() / 2};
+  }
+  return {};
+}
+
+/// The same for frames, which may stand in columns: those are read one after the other.
+bool IsFrameReadBefore(const QWidget& second, const QWidget& first) {
+  const ColumnPlace secondPlace = ColumnOf(second);
+  const ColumnPlace firstPlace = ColumnOf(first);
+  if (secondPlace.page != nullptr && secondPlace.page == firstPlace.page &&
+      secondPlace.right != firstPlace.right) {
+    return firstPlace.right;
+  }
+  return IsReadBefore(PlaceOf(second), PlaceOf(first));
+}
+
+/// The stops of the Tab key in order, once round.
+std::vector<QWidget*> TabStops(QWidget& window) {
+  std::vector<QWidget*> stops;
+  QTest::keyClick(&window, Qt::Key_Tab);
+  for (QWidget* focus = window.focusWidget();
+       focus != nullptr && std::find(stops.begin(), stops.end(), focus) == stops.end();
+       focus = window.focusWidget()) {
+    stops.push_back(focus);
+    QTest::keyClick(focus, Qt::Key_Tab);
+  }
+  // The round may have begun anywhere; it is told from the stop that is read first.
+  const auto first = std::min_element(stops.begin(), stops.end(), [](auto* a, auto* b) {
+    return IsFrameReadBefore(FrameOf(*a), FrameOf(*b)) ||
+           (&FrameOf(*a) == &FrameOf(*b) && IsReadBefore(PlaceOf(*a), PlaceOf(*b)));
+  });
+  std::rotate(stops.begin(), first, stops.end());
+  return stops;
+}
+
+std::string NamesOf(const std::vector<QWidget*>& widgets) {
+  std::string names;
+  for (const QWidget* widget : widgets) names += widget->objectName().toStdString() + " ";
+  return names;
+}
+
+void ExpectReadingOrder(const std::vector<QWidget*>& stops) {
+  SCOPED_TRACE("stops: " + NamesOf(stops));
+  std::vector<const QWidget*> frames;
+  for (std::size_t i = 0; i < stops.size(); ++i) {
+    const QWidget& frame = FrameOf(*stops[i]);
+    const bool sameFrame = !frames.empty() && frames.back() == &frame;
+    if (!sameFrame) {
+      EXPECT_EQ(std::find(frames.begin(), frames.end(), &frame), frames.end())
+          << stops[i]->objectName().toStdString() << " comes back to a frame already left";
+      frames.push_back(&frame);
+    }
+    if (i == 0) continue;
+    const QWidget& before = sameFrame ? *stops[i - 1] : FrameOf(*stops[i - 1]);
+    const QWidget& after = sameFrame ? *stops[i] : frame;
+    EXPECT_FALSE(IsFrameReadBefore(after, before))
+        << stops[i]->objectName().toStdString() << " stands before "
+        << stops[i - 1]->objectName().toStdString();
+  }
+}
+
+/// The controls that the user can reach with Tab or, within an exclusive group, with arrow keys.
+QStringList Reached(const std::vector<QWidget*>& stops) {
+  QStringList names;
+  for (QWidget* stop : stops) {
+    auto* button = qobject_cast<QAbstractButton*>(stop);
+    if (button != nullptr && button->group() != nullptr && button->group()->exclusive()) {
+      for (const auto* member : button->group()->buttons()) names.append(member->objectName());
+    } else {
+      names.append(stop->objectName());
+    }
+  }
+  names.sort();
+  return names;
+}
+
+/// The controls of a window that take input now.
+QStringList InputsOf(const QWidget& window) {
+  QStringList names;
+  for (const auto* widget : window.findChildren<QWidget*>()) {
+    const bool isInput = qobject_cast<const QLineEdit*>(widget) != nullptr ||
+                         qobject_cast<const QAbstractButton*>(widget) != nullptr ||
+                         qobject_cast<const QTextEdit*>(widget) != nullptr ||
+                         qobject_cast<const QSlider*>(widget) != nullptr ||
+                         qobject_cast<const QComboBox*>(widget) != nullptr ||
+                         qobject_cast<const QTreeView*>(widget) != nullptr ||
+                         qobject_cast<const QTabBar*>(widget) != nullptr;
+    const bool isPart = widget->objectName().startsWith("qt_") ||
+                        qobject_cast<const QTabBar*>(widget->parentWidget()) != nullptr ||
+                        qobject_cast<const QMenuBar*>(widget->parentWidget()) != nullptr;
+    const bool isOwn = qobject_cast<const QTabBar*>(widget) != nullptr;
+    if (isInput && (isOwn || !isPart) && widget->isVisible() && widget->isEnabled()) {
+      names.append(widget->objectName());
+    }
+  }
+  names.sort();
+  return names;
+}
+
+TEST(ReadingOrder, RowsFromTheTopEachFromTheLeft) {
+  const QRect left(0, 0, 50, 20);
+  EXPECT_FALSE(IsReadBefore(QRect(60, 2, 50, 20), left));  // right of it, a little lower
+  EXPECT_FALSE(IsReadBefore(QRect(60, -2, 50, 20), left));
+  EXPECT_FALSE(IsReadBefore(QRect(0, 30, 50, 20), left));
+  EXPECT_TRUE(IsReadBefore(left, QRect(60, -2, 50, 20)));
+  EXPECT_TRUE(IsReadBefore(left, QRect(0, 30, 50, 20)));
+  EXPECT_TRUE(IsReadBefore(QRect(60, -30, 50, 20), left));
+}
+
+/// Runs `check` on every tab of a window, or once where it has none.
+template <typename Check>
+void OnEveryTab(QWidget& window, const Check& check) {
+  auto* tabs = window.findChild<QTabWidget*>("SSTab1");
+  for (int tab = 0; tab < (tabs == nullptr ? 1 : tabs->count()); ++tab) {
+    SCOPED_TRACE(window.objectName().toStdString() + ", tab " + std::to_string(tab));
+    if (tabs != nullptr) tabs->setCurrentIndex(tab);
+    check();
+    // The body parts of the CTD tool show their frames one after the other.
+    const int parts = window.objectName() == "frmCTD" && tab == 1 ? 4 : 0;
+    for (int part = 0; part < parts; ++part) {
+      SCOPED_TRACE("part " + std::to_string(part));
+      Find<RibbonButton>(window, ElementName("SSRibbon3", part)).click();
+      check();
+    }
+  }
+}
+
+TEST_F(EveryWindow, TabKeyFollowsReadingOrder) {
+  for (const auto& window : Windows()) {
+    ShowActive(*window);
+    OnEveryTab(*window, [&window] {
+      const auto stops = TabStops(*window);
+      EXPECT_FALSE(stops.empty());
+      ExpectReadingOrder(stops);
+    });
+    window->hide();
+  }
+}
+
+TEST_F(EveryWindow, KeyboardAloneReachesEveryControl) {
+  for (const auto& window : Windows()) {
+    ShowActive(*window);
+    OnEveryTab(*window, [&window] { EXPECT_EQ(Reached(TabStops(*window)), InputsOf(*window)); });
+    window->hide();
+  }
+}
+
+TEST_F(EveryWindow, KeyboardAloneOpensEveryMenu) {
+  for (const auto& [key, menu] :
+       {std::pair{Qt::Key_F, "mnuFile"}, {Qt::Key_E, "mnuEdit"}, {Qt::Key_H, "mnuHelp"}}) {
+    // New forms for each menu: one that was closed leaves its bar waiting for another key.
+    for (const auto& form : ToolForms()) {
+      ShowActive(*form);
+      // A form without tabs shows its report at all times.
+      if (auto* tabs = form->findChild<QTabWidget*>("SSTab1")) {
+        tabs->setCurrentIndex(tabs->count() - 1);
+      }
+      ModalSteps steps;
+      bool opened = false;
+      steps.Then<QMenu>(menu, [&](QMenu& popup) {
+        opened = true;
+        QTest::keyClick(&popup, Qt::Key_Escape);
+      });
+      QTest::keyClick(form.get(), key, Qt::AltModifier);
+      EXPECT_TRUE(QTest::qWaitFor([&] { return opened; })) << menu;
+    }
+  }
+}
+
+TEST_F(EveryWindow, KeyboardAloneOpensTheMenusOfTheMainWindow) {
+  const auto window = IdleMainWindow();
+  for (const auto& [ribbon, menu] :
+       {std::pair{"SSRibbon1(0)", "mnuPopUp1"}, {"SSRibbon1(1)", "mnuPopup2"}}) {
+    ModalSteps steps;
+    steps.Then<QMenu>(menu, [](QMenu& popup) { QTest::keyClick(&popup, Qt::Key_Escape); });
+    auto& button = Find<QAbstractButton>(*window, ribbon);
+    button.setFocus();
+    QTest::keyClick(&button, Qt::Key_Space);
+    EXPECT_TRUE(button.isChecked()) << ribbon;
+  }
+}
+
+TEST_F(EveryWindow, EscapeAndReturnDoNotCloseATool) {
+  for (const auto& form : ToolForms()) {
+    ShowActive(*form);
+    for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Return, Qt::Key_Enter}) {
+      QTest::keyClick(form->focusWidget() == nullptr ? form.get() : form->focusWidget(), key);
+      EXPECT_TRUE(form->isVisible()) << key;
+    }
+    form->hide();
+  }
+}
+
+TEST_F(EveryWindow, EveryInputHasABuddyOrAName) {
+  for (const auto& window : Windows()) {
+    window->show();
+    QList<QWidget*> buddies;
+    for (const auto* label : window->findChildren<QLabel*>()) {
+      if (!label->text().isEmpty()) buddies.append(label->buddy());
+    }
+    OnEveryTab(*window, [&] {
+      for (const QString& name : InputsOf(*window)) {
+        const auto& input = Find<QWidget>(*window, name);
+        const auto* button = qobject_cast<const QAbstractButton*>(&input);
+        const bool isNamed = !input.accessibleName().isEmpty() || buddies.contains(&input) ||
+                             (button != nullptr && !button->text().isEmpty()) ||
+                             qobject_cast<const QTabBar*>(&input) != nullptr;
+        EXPECT_TRUE(isNamed) << name.toStdString();
+      }
+    });
+    window->hide();
+  }
+}
+
+/// The room that a control needs for its text.
+QSize NeededBy(const QWidget& widget) {
+  if (const auto* label = qobject_cast<const QLabel*>(&widget);
+      label != nullptr && label->wordWrap()) {
+    return {label->minimumSizeHint().width(), label->heightForWidth(label->width())};
+  }
+  if (const auto* button = qobject_cast<const QPushButton*>(&widget)) {
+    // Less than the style's own least width does for a short caption.
+    constexpr int kSides = 16;
+    const int caption = button->fontMetrics().size(Qt::TextShowMnemonic, button->text()).width();
+    return {caption + kSides, button->sizeHint().height()};
+  }
+  const bool shrinks = qobject_cast<const QLineEdit*>(&widget) != nullptr ||
+                       qobject_cast<const RibbonButton*>(&widget) != nullptr;
+  if (shrinks) return widget.minimumSizeHint();
+  return widget.sizeHint();
+}
+
+void ExpectNothingClipped(QWidget& window) {
+  for (const auto* widget : window.findChildren<QWidget*>()) {
+    const bool hasText = qobject_cast<const QLabel*>(widget) != nullptr ||
+                         qobject_cast<const QLineEdit*>(widget) != nullptr ||
+                         (qobject_cast<const QAbstractButton*>(widget) != nullptr &&
+                          !widget->objectName().isEmpty());
+    if (!hasText || !widget->isVisible() || widget->objectName().startsWith("qt_")) continue;
+    const auto* label = qobject_cast<const QLabel*>(widget);
+    const std::string name =
+        (label != nullptr ? label->text() : widget->objectName()).toStdString();
+    const QSize needed = NeededBy(*widget);
+    EXPECT_GE(widget->width(), needed.width()) << name;
+    EXPECT_GE(widget->height(), needed.height()) << name;
+    for (const QWidget* parent = widget->parentWidget(); parent != nullptr && !widget->isWindow();
+         parent = parent->isWindow() ? nullptr : parent->parentWidget()) {
+      const QRect place(widget->mapTo(parent, QPoint(0, 0)), widget->size());
+      EXPECT_TRUE(parent->rect().contains(place)) << name << " stands out of its parent";
+    }
+  }
+}
+
+TEST_F(EveryWindow, NothingIsClippedInATool) {
+  for (const auto& form : ToolForms()) {
+    ShowActive(*form);
+    const std::vector<QSize> sizes{form->minimumSize(), form->size(), QSize(1280, 720)};
+    for (const QSize size : sizes) {
+      SCOPED_TRACE(form->objectName().toStdString() + " " + std::to_string(size.width()));
+      form->resize(size);
+      QCoreApplication::processEvents();
+      EXPECT_EQ(form->size(), size);
+      OnEveryTab(*form, [&form] {
+        QCoreApplication::processEvents();
+        ExpectNothingClipped(*form);
+      });
+    }
+    EXPECT_LE(form->minimumSize().width(), 960);
+    EXPECT_LE(form->minimumSize().height(), 620);
+    form->hide();
+  }
+}
+
+TEST_F(EveryWindow, NothingIsClippedInTheMainWindowAndTheAboutBox) {
+  const auto window = IdleMainWindow();
+  ExpectNothingClipped(*window);
+  FrmHandMain opening(MakeToolForm);
+  ShowActive(opening);
+  ExpectNothingClipped(opening);
+  FrmAbout about(nullptr);
+  ShowActive(about);
+  ExpectNothingClipped(about);
+}
+
+}  // namespace
+}  // namespace halvane

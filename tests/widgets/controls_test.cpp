@@ -1,0 +1,231 @@
+#include <gtest/gtest.h>
+
+#include <QAbstractTextDocumentLayout>
+#include <QApplication>
+#include <QImage>
+#include <QPainter>
+#include <QTest>
+#include <QTextBlock>
+
+#include "tests/support/form_support.h"
+#include "widgets/ribbon_button.h"
+#include "widgets/rich_text_box.h"
+
+namespace halvane {
+namespace {
+
+TEST(RibbonButton, WrapsACaptionThatIsLong) {
+  const RibbonButton shortOne("a", "3");
+  const RibbonButton longOne("b", "Substantial effort; changes facial expression");
+  EXPECT_GE(longOne.sizeHint().height(), 2 * longOne.fontMetrics().lineSpacing());
+  EXPECT_LT(longOne.sizeHint().width(), longOne.fontMetrics().horizontalAdvance(longOne.text()));
+  EXPECT_LT(shortOne.sizeHint().height(), 2 * shortOne.fontMetrics().lineSpacing());
+  EXPECT_EQ(longOne.minimumSizeHint(), longOne.sizeHint());
+}
+
+/// The colour that fills a ribbon, near its corner.
+QColor FillOf(RibbonButton& ribbon) { return ribbon.grab().toImage().pixelColor(3, 3); }
+
+TEST(RibbonButton, IsFilledWithTheHighlightColourWhileDown) {
+  QPalette palette;
+  palette.setColor(QPalette::Highlight, QColor(10, 20, 200));
+  palette.setColor(QPalette::Button, QColor(220, 221, 222));
+  RibbonButton ribbon("a", "");
+  ribbon.setPalette(palette);
+  ribbon.resize(60, 40);
+  EXPECT_EQ(FillOf(ribbon), QColor(220, 221, 222));
+  ribbon.setChecked(true);
+  EXPECT_EQ(FillOf(ribbon), QColor(10, 20, 200));
+}
+
+TEST(RibbonButton, ShowsItsFocus) {
+  RibbonButton ribbon("a", "");
+  ribbon.resize(60, 40);
+  ShowActive(ribbon);
+  ribbon.clearFocus();
+  const QImage without = ribbon.grab().toImage();
+  ribbon.setFocus();
+  EXPECT_NE(ribbon.grab().toImage(), without);
+}
+
+/// A pane that shows what `write` appends.
+class Pane : public testing::Test {
+ protected:
+  template <typename Write>
+  void Show(const Write& write) {
+    RichText report;
+    write(report);
+    box.ShowReport(report);
+  }
+
+  [[nodiscard]] QTextBlock Line(int number) const {
+    return box.document()->findBlockByNumber(number);
+  }
+
+  /// The size of the picture that is the first character.
+  [[nodiscard]] QSizeF PictureSize() const {
+    const QTextFormat format = Line(0).begin().fragment().charFormat();
+    auto* const layout = box.document()->documentLayout();
+    auto* const pictures = layout->handlerForObject(format.objectType());
+    return pictures == nullptr ? QSizeF() : pictures->intrinsicSize(box.document(), 0, format);
+  }
+
+  RichTextBox box;
+};
+
+TEST_F(Pane, TextHasTheReportsLines) {
+  Show([](RichText& report) { report.Append("first\r\n\r\nthird\ttab\r\n"); });
+  EXPECT_EQ(box.toPlainText(), "first\n\nthird\ttab\n");
+}
+
+TEST_F(Pane, TabStopsStandAtTheirTwips) {
+  Show([](RichText& report) {
+    report.SetTabCount(2);
+    report.SetTab(0, 1440);
+    report.SetTab(1, 4000);
+    report.Append("a\tb\tc");
+  });
+  const auto stops = Line(0).blockFormat().tabPositions();
+  ASSERT_EQ(stops.size(), 2);
+  // 1440 twips are an inch.
+  EXPECT_DOUBLE_EQ(stops[0].position, box.logicalDpiX());
+  EXPECT_DOUBLE_EQ(stops[1].position, 4000.0 * box.logicalDpiX() / 1440);
+  EXPECT_EQ(stops[1].type, QTextOption::LeftTab);
+  // And the text stands there.
+  box.resize(800, 200);
+  box.show();
+  QTextCursor cursor(box.document());
+  const int start = box.cursorRect(cursor).x();
+  cursor.setPosition(2);
+  EXPECT_NEAR(box.cursorRect(cursor).x() - start, box.logicalDpiX(), 1);
+}
+
+TEST_F(Pane, ParagraphsHaveTheirAlignment) {
+  Show([](RichText& report) {
+    report.SetAlignment(Alignment::Center);
+    report.Append("centred\r\n");
+    report.SetAlignment(Alignment::Right);
+    report.Append("right\r\n");
+    report.SetAlignment(Alignment::Left);
+    report.Append("left");
+  });
+  EXPECT_EQ(Line(0).blockFormat().alignment(), Qt::AlignHCenter);
+  EXPECT_EQ(Line(1).blockFormat().alignment(), Qt::AlignRight);
+  EXPECT_EQ(Line(2).blockFormat().alignment(), Qt::AlignLeft);
+}
+
+TEST_F(Pane, RunsHaveTheirFonts) {
+  Show([](RichText& report) {
+    report.SetFont({.size = 12, .bold = true, .underline = true});
+    report.Append("title");
+    report.SetFont({.size = 10, .bold = false, .underline = false});
+    report.Append("plain");
+  });
+  auto fragment = Line(0).begin();
+  const QTextCharFormat title = fragment.fragment().charFormat();
+  const QTextCharFormat plain = (++fragment).fragment().charFormat();
+  EXPECT_EQ(title.fontPointSize(), 12);
+  EXPECT_EQ(title.fontWeight(), QFont::Bold);
+  EXPECT_TRUE(title.fontUnderline());
+  EXPECT_EQ(plain.fontPointSize(), 10);
+  EXPECT_EQ(plain.fontWeight(), QFont::Normal);
+  EXPECT_FALSE(plain.fontUnderline());
+}
+
+TEST_F(Pane, PictureIsOneCharacterOfItsOwnSize) {
+  Show([](RichText& report) { report.AppendPicture("strain_index/risk_chart"); });
+  EXPECT_EQ(box.toPlainText(), QString(QChar::ObjectReplacementCharacter));
+  EXPECT_EQ(PictureSize(), QSizeF(494, 292));
+}
+
+TEST_F(Pane, JpegHasTheSizeThatItsDotsPerInchSay) {
+  Show([](RichText& report) { report.AppendPicture("ocra/zones"); });
+  EXPECT_EQ(PictureSize(), QSizeF(494, 296));
+}
+
+TEST_F(Pane, PicturesAreDrawn) {
+  Show([](RichText& report) { report.AppendPicture("ocra/zones"); });
+  box.resize(600, 400);
+  const QImage screen = box.viewport()->grab().toImage();
+  const int margin = static_cast<int>(box.document()->documentMargin());
+  // The first zone of the JPEG is green.
+  const QColor zone = screen.pixelColor(margin + 30, margin + 70);
+  EXPECT_NEAR(zone.red(), 0x9f, 8);
+  EXPECT_NEAR(zone.green(), 0xd3, 8);
+  EXPECT_NEAR(zone.blue(), 0xb4, 8);
+
+  Show([](RichText& report) { report.AppendPicture("strain_index/risk_chart"); });
+  const QImage chart = box.viewport()->grab().toImage();
+  EXPECT_NE(chart, screen);
+  int coloured = 0;
+  for (int x = 0; x < chart.width(); ++x) {
+    for (int y = 0; y < chart.height(); ++y) {
+      if (chart.pixelColor(x, y).saturation() > 60) ++coloured;
+    }
+  }
+  EXPECT_GT(coloured, 1000);
+}
+
+TEST_F(Pane, PictureOnPaperIsAsLargeAsOnTheScreen) {
+  Show([](RichText& report) { report.AppendPicture("strain_index/risk_chart"); });
+  QImage paper(100, 100, QImage::Format_RGB32);
+  paper.setDotsPerMeterX(23622);  // 600 to an inch
+  paper.setDotsPerMeterY(23622);
+  box.document()->documentLayout()->setPaintDevice(&paper);
+  EXPECT_NEAR(PictureSize().width(), 494 * 600 / 96.0, 1);
+}
+
+TEST_F(Pane, IsWhitePaperUnderADarkPalette) {
+  const QPalette before = QApplication::palette();
+  QApplication::setPalette(QPalette(QColor(45, 45, 48), QColor(45, 45, 48)));
+  RichTextBox dark;
+  dark.resize(200, 100);
+  dark.show();
+  const QImage picture = dark.viewport()->grab().toImage();
+  const QColor text = dark.palette().color(QPalette::Text);
+  QApplication::setPalette(before);
+  EXPECT_EQ(picture.pixelColor(picture.rect().center()), QColor(Qt::white));
+  EXPECT_EQ(text, QColor(Qt::black));
+}
+
+TEST_F(Pane, TakesNoTyping) {
+  Show([](RichText& report) { report.Append("report"); });
+  box.show();
+  QTest::keyClicks(&box, "typed");
+  EXPECT_EQ(box.toPlainText(), "report");
+}
+
+struct SelectionRow {
+  const char* label;
+  int start;
+  int length;
+  const char* selected;
+};
+
+TEST_F(Pane, SelectsWithinItsText) {
+  Show([](RichText& report) { report.Append("one\r\ntwo"); });
+  const std::vector<SelectionRow> rows{
+      {"nothing", 0, 0, ""},
+      {"from the start", 0, 2, "on"},
+      {"across a line end", 2, 3, "e\nt"},
+      {"beyond the end", 4, 100, "two"},
+      {"from beyond the end", 50, 3, ""},
+  };
+  for (const SelectionRow& row : rows) {
+    box.Select(row.start, row.length);
+    EXPECT_EQ(box.SelectedText(), row.selected) << row.label;
+  }
+  box.SelectAll();
+  EXPECT_EQ(box.SelectedText(), "one\ntwo");
+}
+
+TEST_F(Pane, ShownReportHasTheCaretAtItsStart) {
+  Show([](RichText& report) { report.Append("one\r\ntwo"); });
+  box.SelectAll();
+  Show([](RichText& report) { report.Append("three"); });
+  EXPECT_EQ(box.textCursor().position(), 0);
+  EXPECT_FALSE(box.textCursor().hasSelection());
+}
+
+}  // namespace
+}  // namespace halvane

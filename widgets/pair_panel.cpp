@@ -1,0 +1,32 @@
+#include "widgets/pair_panel.h"
+
+#include <QPainter>
+#include <QVBoxLayout>
+
+#include "widgets/layout.h"
+
+namespace halvane {
+namespace {
+
+constexpr float kTint = 0.08F;
+constexpr int kBracketWidth = 3;
+constexpr int kPadding = kGap / 2;
+
+}  // namespace
+
+PairPanel::PairPanel(QWidget* parent) : QWidget(parent) {
+  auto* column = new QVBoxLayout(this);
+  column->setContentsMargins(kPadding + kBracketWidth, kPadding, kPadding, kPadding);
+  column->setSpacing(kPadding);
+}
+
+void PairPanel::paintEvent(QPaintEvent* /*event*/) {
+  QPainter painter(this);
+  const QColor accent = palette().color(QPalette::Highlight);
+  QColor tint = accent;
+  tint.setAlphaF(kTint);
+  painter.fillRect(rect(), tint);
+  painter.fillRect(QRect(0, 0, kBracketWidth, height()), accent);
+}
+
+}  // namespace halvane

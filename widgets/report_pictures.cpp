@@ -1,0 +1,71 @@
+#include "widgets/report_pictures.h"
+
+#include <QAbstractTextDocumentLayout>
+#include <QFile>
+#include <QPaintDevice>
+#include <QPainter>
+#include <QSvgRenderer>
+#include <QTextCursor>
+#include <QTextDocument>
+
+namespace halvane {
+namespace {
+
+constexpr double kMetersPerInch = 0.0254;
+/// Of the pixels that the sizes of pictures are given in.
+constexpr double kLogicalDotsPerInch = 96;
+
+}  // namespace
+
+ReportPictures::ReportPictures(QObject* parent) : QObject(parent) {}
+ReportPictures::~ReportPictures() = default;
+
+void ReportPictures::Insert(QTextCursor& cursor, const QString& assetName) {
+  QTextCharFormat format;
+  format.setObjectType(kObjectType);
+  format.setProperty(kNameProperty, assetName);
+  cursor.insertText(QString(QChar::ObjectReplacementCharacter), format);
+}
+
+QSizeF ReportPictures::intrinsicSize(QTextDocument* document, int /*position*/,
+                                     const QTextFormat& format) {
+  const QPaintDevice* device = document->documentLayout()->paintDevice();
+  const double scale = device == nullptr ? 1 : device->logicalDpiY() / kLogicalDotsPerInch;
+  return PictureOf(format).size * scale;
+}
+
+void ReportPictures::drawObject(QPainter* painter, const QRectF& place, QTextDocument* /*document*/,
+                                int /*position*/, const QTextFormat& format) {
+  const Picture& picture = PictureOf(format);
+  if (picture.drawing) {
+    picture.drawing->render(painter, place);
+  } else {
+    painter->setRenderHint(QPainter::SmoothPixmapTransform);
+    painter->drawImage(place, picture.image);
+  }
+}
+
+const ReportPictures::Picture& ReportPictures::PictureOf(const QTextFormat& format) {
+  const QString name = format.property(kNameProperty).toString();
+  auto found = pictures_.find(name);
+  if (found == pictures_.end()) found = pictures_.emplace(name, Load(name)).first;
+  return found->second;
+}
+
+ReportPictures::Picture ReportPictures::Load(const QString& assetName) {
+  const QString base = ":/assets/" + assetName;
+  Picture picture;
+  if (QFile::exists(base + ".jpg")) {
+    picture.image = QImage(base + ".jpg");
+    // Its own dots per inch say how large it is meant to be.
+    const double dotsPerPixel =
+        picture.image.dotsPerMeterX() * kMetersPerInch / kLogicalDotsPerInch;
+    picture.size = (QSizeF(picture.image.size()) / dotsPerPixel).toSize();
+  } else {
+    picture.drawing = std::make_unique<QSvgRenderer>(base + ".svg");
+    picture.size = picture.drawing->defaultSize();
+  }
+  return picture;
+}
+
+}  // namespace halvane
