@@ -25,9 +25,11 @@ bool AnyActiveTask() {
   return false;
 }
 
+int CurrentTaskNumber() { return ToInteger(Module1.CurrentTask.AsDouble()); }
+
 std::optional<int> TaskOnScreen() {
   if (!AnyActiveTask()) return std::nullopt;
-  return ToInteger(Module1.CurrentTask.AsDouble());
+  return CurrentTaskNumber();
 }
 
 int AddTaskRecord() {

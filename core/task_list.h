@@ -14,6 +14,9 @@ std::vector<int> ActiveTasks();
 /// a file with an impossible `TaskCount` leaves shorter than the count.
 bool AnyActiveTask();
 
+/// The number in `CurrentTask`. Throws `Overflow` for one beyond 16 bits.
+int CurrentTaskNumber();
+
 /// The task that the inputs of a form write to: `CurrentTask`, nothing while no task exists. What
 /// `CurrentTask` then holds is left over from another task or job.
 std::optional<int> TaskOnScreen();
