@@ -8,8 +8,6 @@
 namespace halvane {
 namespace {
 
-constexpr int kHandOptions = 2;
-
 constexpr int kSideBentRibbon = 3;
 constexpr int kStableRibbon = 0;
 constexpr int kUnstableRibbon = 1;
@@ -222,14 +220,6 @@ void RebaControls::CheckSaved(RebaRegion region) {
   for (std::size_t i = 0; i < checks.size(); ++i) {
     if (State(checks[i].stateEntry) == 1) SetCheck(region, static_cast<int>(i), true);
   }
-}
-
-void RebaControls::ChooseHand(int index) {
-  CheckedSubscript(index, kHandOptions);
-  if (hand_ == index) return;
-  hand_ = index;
-  Module1.JobDirty = kTrue;
-  Module1.Hand = static_cast<Integer>(index);
 }
 
 void RebaControls::PressRibbon(RebaRegion region, int index) {

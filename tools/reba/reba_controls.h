@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "core/integer.h"
+#include "tools/hand_controls.h"
 
 namespace halvane {
 
@@ -83,9 +84,11 @@ extern const std::array<RebaCoupling, 4> kRebaCouplings;
 /// The controls of the REBA form without a screen: which are set, and the handlers that their
 /// events run. Each handler stores a working factor and the control's state and marks the job as
 /// changed. A new object is the form as designed, with nothing down, checked or chosen.
-class RebaControls {
+class RebaControls : public HandControls {
  public:
   static constexpr int kNothingChosen = -1;
+
+  RebaControls() : HandControls(kNoHand) {}
 
   /// Puts every control back to its design state; runs no handler.
   void Reset() { *this = RebaControls(); }
@@ -95,8 +98,6 @@ class RebaControls {
   /// which is wanted. Throws `SubscriptOutOfRange` for a saved value that names no control.
   void Load();
 
-  /// The user, or the load, chooses a hand. The chosen one stays as it is.
-  void ChooseHand(int index);
   /// Presses a ribbon; the one of its group that was down goes up. One that is down stays.
   void PressRibbon(RebaRegion region, int index);
   /// The user clicks a ribbon: presses it, or releases it where its group may be up.
@@ -108,7 +109,6 @@ class RebaControls {
   /// The user, or the load, chooses a coupling. The chosen one stays as it is.
   void ChooseCoupling(int index);
 
-  [[nodiscard]] int hand() const { return hand_; }
   [[nodiscard]] int loadLevel() const { return loadLevel_; }
   [[nodiscard]] int coupling() const { return coupling_; }
   [[nodiscard]] bool IsDown(RebaRegion region, int index) const;
@@ -124,7 +124,6 @@ class RebaControls {
 
   std::array<std::array<bool, kMostRibbons>, kRebaRegionCount> down_{};
   std::array<std::array<bool, kMostChecks>, kRebaRegionCount> checked_{};
-  int hand_ = kNothingChosen;
   int loadLevel_ = kNothingChosen;
   int coupling_ = kNothingChosen;
 };

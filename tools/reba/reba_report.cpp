@@ -1,11 +1,13 @@
 #include "tools/reba/reba_report.h"
 
+#include <array>
 #include <string>
 
 #include "core/checked_array.h"
 #include "core/job_state.h"
 #include "tools/reba/reba_controls.h"
 #include "tools/reba/reba_score.h"
+#include "tools/report_parts.h"
 
 namespace halvane {
 namespace {
@@ -13,6 +15,10 @@ namespace {
 constexpr CharacterFormat kTitle{.size = 12, .bold = true, .underline = true};
 constexpr CharacterFormat kHeading{.size = 10, .bold = true, .underline = true};
 constexpr CharacterFormat kPlain{.size = 10, .bold = false, .underline = false};
+
+// The second stop lies behind the third, which is wanted.
+constexpr std::array kFactorStops{2500, 8000, 7500, 8000};
+constexpr std::array kScoreStops{2500, 4500, 6300, 8000};
 
 int State(int entry) { return Module1.RebaControlState.at(entry); }
 
@@ -39,15 +45,6 @@ void WriteRow(RichText& RichTextBox1, std::string_view region, std::string_view 
 void WriteRow(RichText& RichTextBox1, std::string_view region, std::string_view description,
               Integer factor) {
   WriteRow(RichTextBox1, region, description, Whole(factor));
-}
-
-void WriteIdentification(RichText& RichTextBox1) {
-  RichTextBox1.Append(kNewLine, "Analyst: ", Module1.JobAnalyst.AsText());
-  RichTextBox1.Append(kNewLine, "Job Name: ", Module1.JobName.AsText());
-  RichTextBox1.Append(kNewLine, "Workstation ID: ", Module1.JobWorkstationId);
-  RichTextBox1.Append(kNewLine);
-  RichTextBox1.Append(kNewLine, Module1.Hand == 0 ? "Hand: Right Side" : "Hand: Left Side");
-  RichTextBox1.Append(kNewLine);
 }
 
 // Trailing blanks of the descriptions are wanted as they stand, and so is the wording that differs
@@ -121,12 +118,7 @@ void WriteUseRows(RichText& RichTextBox1) {
 void WriteFactorTable(RichText& RichTextBox1) {
   RichTextBox1.SetFont(kHeading);
   RichTextBox1.SetAlignment(Alignment::Left);
-  RichTextBox1.SetTabCount(4);
-  RichTextBox1.SetTab(0, 2500);
-  // The second stop lies behind the third, which is wanted.
-  RichTextBox1.SetTab(1, 8000);
-  RichTextBox1.SetTab(2, 7500);
-  RichTextBox1.SetTab(3, 8000);
+  SetStops(RichTextBox1, kFactorStops);
   RichTextBox1.Append(kNewLine, "Job Factors", kTab, "Categories", kTab, "REBA Score");
 
   RichTextBox1.SetFont(kPlain);
@@ -143,10 +135,7 @@ void WriteScoreTable(RichText& RichTextBox1) {
 
   RichTextBox1.SetFont(kPlain);
   // Set behind the header line, which so keeps the stops of the table above.
-  RichTextBox1.SetTab(0, 2500);
-  RichTextBox1.SetTab(1, 4500);
-  RichTextBox1.SetTab(2, 6300);
-  RichTextBox1.SetTab(3, 8000);
+  SetStops(RichTextBox1, kScoreStops);
   RichTextBox1.Append(kNewLine, "Neck+Leg+Trunk", kTab, Whole(Module1.RebaScoreA), kTab,
                       Whole(Module1.RebaForceScore), kTab, "  ", kTab,
                       Whole(Module1.RebaScoreATotal));
@@ -165,7 +154,7 @@ void REBA_Report(RichText& RichTextBox1) {
 
   RichTextBox1.SetFont(kPlain);
   RichTextBox1.SetAlignment(Alignment::Left);
-  WriteIdentification(RichTextBox1);
+  AppendIdentification(RichTextBox1);
   WriteFactorTable(RichTextBox1);
   WriteScoreTable(RichTextBox1);
   RichTextBox1.Append(kNewLine);

@@ -10,8 +10,6 @@ using Ribbons = RulaRibbonArray;
 using Checks = RulaCheckArray;
 using Options = RulaOptionArray;
 
-constexpr int kHandOptions = 2;
-
 constexpr int kTrunkSideBend = 1;
 constexpr int kTrunkNotSupported = 2;
 constexpr int kTrunkNotSupportedState = 19;
@@ -304,14 +302,6 @@ void RulaControls::ChooseOption(RulaOptionArray array, int index) {
   if (chosen == index) return;
   chosen = index;
   SSOption_Click(array, index);
-}
-
-void RulaControls::ChooseHand(int index) {
-  CheckedSubscript(index, kHandOptions);
-  if (hand_ == index) return;
-  hand_ = index;
-  Module1.JobDirty = kTrue;
-  Module1.Hand = static_cast<Integer>(index);
 }
 
 bool RulaControls::IsDown(RulaRibbonArray array, int index) const {

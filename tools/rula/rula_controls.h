@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "core/integer.h"
+#include "tools/hand_controls.h"
 
 namespace halvane {
 
@@ -84,9 +85,11 @@ std::string_view RulaCaption(RulaOptionArray array, int index);
 
 /// The two-state controls of the RULA form without a screen: which are set, and the setters that
 /// their events run. A new object is the form as designed, with nothing down, checked or chosen.
-class RulaControls {
+class RulaControls : public HandControls {
  public:
   static constexpr int kNone = -1;
+
+  RulaControls() : HandControls(kNoHand) {}
 
   /// Puts every control back to its design state; runs no setter.
   void Reset() { *this = RulaControls(); }
@@ -106,13 +109,11 @@ class RulaControls {
   void SetCheck(RulaCheckArray array, int index, bool checked);
   /// The user, or the load, chooses an option. The chosen one stays as it is.
   void ChooseOption(RulaOptionArray array, int index);
-  void ChooseHand(int index);
 
   [[nodiscard]] bool IsDown(RulaRibbonArray array, int index) const;
   [[nodiscard]] bool IsChecked(RulaCheckArray array, int index) const;
   /// The index of the chosen option; `kNone` while there is none.
   [[nodiscard]] int chosen(RulaOptionArray array) const;
-  [[nodiscard]] int hand() const { return hand_; }  ///< `kNone` while none is chosen
 
  private:
   static constexpr std::size_t kMostRibbons = 6;
@@ -124,7 +125,6 @@ class RulaControls {
   std::array<std::array<bool, kMostRibbons>, 5> down_{};
   std::array<std::array<bool, kMostChecks>, 4> checked_{};
   std::array<int, 3> chosen_{kNone, kNone, kNone};
-  int hand_ = kNone;
 };
 
 }  // namespace halvane

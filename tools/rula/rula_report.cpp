@@ -3,6 +3,7 @@
 #include <array>
 
 #include "core/job_state.h"
+#include "tools/report_parts.h"
 #include "tools/rula/rula_controls.h"
 #include "tools/rula/rula_score.h"
 
@@ -21,24 +22,9 @@ constexpr CharacterFormat kPlain{.size = 10, .bold = false, .underline = false};
 constexpr Stops kPostureStops{2500, 8000, 7500, 8000};
 constexpr Stops kTotalStops{2500, 4500, 6500, 8000};
 
-void SetStops(RichText& RichTextBox1, const Stops& stops) {
-  RichTextBox1.SetTabCount(static_cast<int>(stops.size()));
-  int stop = 0;
-  for (const int twips : stops) RichTextBox1.SetTab(stop++, twips);
-}
-
 std::string Whole(Integer score) { return Format(score, Pattern::Whole); }
 
 int State(int element) { return Module1.RulaControlState.at(element); }
-
-void WriteJob(RichText& RichTextBox1) {
-  RichTextBox1.Append(kNewLine, "Analyst: ", Module1.JobAnalyst.AsText());
-  RichTextBox1.Append(kNewLine, "Job Name: ", Module1.JobName.AsText());
-  RichTextBox1.Append(kNewLine, "Workstation ID: ", Module1.JobWorkstationId);
-  RichTextBox1.Append(kNewLine);
-  RichTextBox1.Append(kNewLine, Module1.Hand == 0 ? "Hand: Right Side" : "Hand: Left Side");
-  RichTextBox1.Append(kNewLine);
-}
 
 // Add-ons have the report's own wording, which is not always that of their controls.
 void WritePostures(RichText& RichTextBox1) {
@@ -112,7 +98,7 @@ void RULA_Report(RichText& RichTextBox1) {
 
   RichTextBox1.SetFont(kPlain);
   RichTextBox1.SetAlignment(Alignment::Left);
-  WriteJob(RichTextBox1);
+  AppendIdentification(RichTextBox1);
 
   RichTextBox1.SetFont(kHeading);
   SetStops(RichTextBox1, kPostureStops);

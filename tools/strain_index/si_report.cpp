@@ -1,6 +1,9 @@
 #include "tools/strain_index/si_report.h"
 
+#include <array>
+
 #include "core/job_state.h"
+#include "tools/report_parts.h"
 #include "tools/strain_index/si_score.h"
 
 namespace halvane {
@@ -10,6 +13,8 @@ constexpr CharacterFormat kTitle{.size = 12, .bold = true, .underline = true};
 constexpr CharacterFormat kHeading{.size = 10, .bold = true, .underline = true};
 constexpr CharacterFormat kScoreLabel{.size = 10, .bold = true, .underline = false};
 constexpr CharacterFormat kPlain{.size = 10, .bold = false, .underline = false};
+
+constexpr std::array kTableStops{4000, 6500, 7500};
 
 // Wording, "problably" included, is the report's own.
 constexpr std::string_view kNote =
@@ -26,23 +31,10 @@ void WriteFactor(RichText& RichTextBox1, std::string_view name, std::string_view
   RichTextBox1.Append(kNewLine, name, kTab, level, kTab, Format(multiplier, Pattern::OneDecimal));
 }
 
-void WriteIdentification(RichText& RichTextBox1) {
-  RichTextBox1.Append(kNewLine);
-  RichTextBox1.Append(kNewLine, "Analyst: ", Module1.JobAnalyst.AsText());
-  RichTextBox1.Append(kNewLine, "Job Name: ", Module1.JobName.AsText());
-  RichTextBox1.Append(kNewLine, "Workstation ID: ", Module1.JobWorkstationId);
-  RichTextBox1.Append(kNewLine);
-  RichTextBox1.Append(kNewLine, Module1.Hand == 0 ? "Hand: Right Side" : "Hand: Left Side");
-  RichTextBox1.Append(kNewLine);
-}
-
 void WriteFactorTable(RichText& RichTextBox1) {
   RichTextBox1.SetFont(kHeading);
   RichTextBox1.SetAlignment(Alignment::Left);
-  RichTextBox1.SetTabCount(3);
-  RichTextBox1.SetTab(0, 4000);
-  RichTextBox1.SetTab(1, 6500);
-  RichTextBox1.SetTab(2, 7500);
+  SetStops(RichTextBox1, kTableStops);
   RichTextBox1.Append(kNewLine, "Job Factors", kTab, "Level", kTab, "SI Score");
 
   RichTextBox1.SetFont(kPlain);
@@ -77,7 +69,8 @@ void SI_Report(RichText& RichTextBox1) {
 
   RichTextBox1.SetFont(kPlain);
   RichTextBox1.SetAlignment(Alignment::Left);
-  WriteIdentification(RichTextBox1);
+  RichTextBox1.Append(kNewLine);
+  AppendIdentification(RichTextBox1);
   WriteFactorTable(RichTextBox1);
   RichTextBox1.Append(kNewLine);
 
