@@ -9,7 +9,6 @@
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 
-#include "core/job_state.h"
 #include "shell/hand_frame.h"
 #include "tools/strain_index/si_score.h"
 #include "widgets/layout.h"
@@ -21,24 +20,14 @@
 namespace halvane {
 namespace {
 
-constexpr int kReportTab = 1;
 constexpr IdentificationNames kNames{{"Text1(6)"}, {"Text1(5)"}, {"Text1(4)"}, "SSOption5"};
-
-// The indexes of the boxes with numbers.
-constexpr int kExertionMinutes = 0;
-constexpr int kDutyObservationMinutes = 1;
-constexpr int kExertionCount = 2;
-constexpr int kEffortObservationMinutes = 3;
-constexpr int kDurationPerDay = 8;
-
-QString NumberText(const TaggedField& field) { return QString::fromStdString(field.AsText()); }
 
 }  // namespace
 
 FrmSI::FrmSI(QWidget* parent) : ToolForm(Tool::StrainIndex, "frmSI", kNames, parent) {
   SSTab1_ = new TabStrip("SSTab1", this);
-  SSTab1_->addTab(MakeInputTab(), " Task Information");
-  SSTab1_->addTab(&RichTextBox1(), "Strain Index");
+  SSTab1_->addTab(MakeInputTab(), ScreenText(kSiTabs[0]));
+  SSTab1_->addTab(&RichTextBox1(), ScreenText(kSiTabs[kSiReportTab]));
   body().addWidget(SSTab1_);
   connect(SSTab1_, &TabStrip::tabClicked, this, &FrmSI::SSTab1_Click);
 }
@@ -65,26 +54,16 @@ QWidget* FrmSI::MakeNumberFrames(QWidget* parent) {
   auto* row = new QHBoxLayout(frames);
   row->setContentsMargins(0, 0, 0, 0);
   row->setSpacing(kGap);
-  const auto addFrame = [&](const QString& caption) {
-    QGroupBox* box = MakeFrame(caption, frames).box;
+  for (const SiNumberFrame& frame : kSiNumberFrames) {
+    const auto [box, grid] = MakeFrame(ScreenText(frame.caption), frames);
     row->addWidget(box, 1);
-    return box;
-  };
-  AddNumber(addFrame("Task Duration"), "Duration per Day (hour):", kDurationPerDay);
-  QGroupBox* exertion = addFrame("Duration of Exertion");
-  AddNumber(exertion, "Duration of all exertion (min.):", kExertionMinutes);
-  AddNumber(exertion, "Total Observation time (min.):", kDutyObservationMinutes);
-  QGroupBox* efforts = addFrame("Efforts per Minute");
-  AddNumber(efforts, "Number of exertions:", kExertionCount);
-  AddNumber(efforts, "Total Observation time (min.):", kEffortObservationMinutes);
+    for (const SiBox& number : frame.boxes) {
+      const int index = number.index;
+      Text1_[index] = AddNumberRow(*grid, ScreenText(number.label), ElementName("Text1", index));
+      connect(Text1_[index], &TextBox::keyReleased, this, [this, index] { Text1_KeyUp(index); });
+    }
+  }
   return frames;
-}
-
-void FrmSI::AddNumber(QWidget* frame, const QString& label, int index) {
-  auto& grid = *qobject_cast<QGridLayout*>(frame->layout());
-  TextBox* box = AddNumberRow(grid, label, ElementName("Text1", index));
-  Text1_.at(static_cast<std::size_t>(index)) = box;
-  connect(box, &TextBox::keyReleased, this, [this, index] { Text1_KeyUp(index); });
 }
 
 QWidget* FrmSI::MakeRibbonFrame(SiRibbonArray array, QWidget* parent) {
@@ -129,14 +108,9 @@ void FrmSI::loadFromJob() {
   }
   controls_.Reset();
   controls_.Load();
-  const auto show = [this](int index, const TaggedField& field) {
-    Text1_.at(static_cast<std::size_t>(index))->setText(NumberText(field));
-  };
-  show(kExertionMinutes, Module1.SiExertionMinutes);
-  show(kDutyObservationMinutes, Module1.SiDutyObservationMinutes);
-  show(kExertionCount, Module1.SiExertionCount);
-  show(kEffortObservationMinutes, Module1.SiEffortObservationMinutes);
-  show(kDurationPerDay, Module1.JobDurationPerDay);
+  for (const auto& [index, box] : Text1_) {
+    box->setText(QString::fromStdString(NumberIn(SiBoxAt(index).field).AsText()));
+  }
   ShowControls();
 }
 
@@ -153,8 +127,8 @@ void FrmSI::ShowControls() {
 }
 
 void FrmSI::SSTab1_Click(int tab) {
-  mnuEdit().setEnabled(tab == kReportTab);
-  if (tab == kReportTab) ShowReport();
+  mnuEdit().setEnabled(tab == kSiReportTab);
+  if (tab == kSiReportTab) ShowReport();
 }
 
 void FrmSI::SSOption5_Click(int index) {
@@ -168,17 +142,7 @@ void FrmSI::SSRibbon_Click(SiRibbonArray array, int index) {
 }
 
 void FrmSI::Text1_KeyUp(int index) {
-  Module1.JobDirty = kTrue;
-  const TextBox& box = *Text1_.at(static_cast<std::size_t>(index));
-  const double number = TypedNumber(box.text().toStdString());
-  switch (index) {
-    case kExertionMinutes: Module1.SiExertionMinutes = number; break;
-    case kDutyObservationMinutes: Module1.SiDutyObservationMinutes = number; break;
-    case kExertionCount: Module1.SiExertionCount = number; break;
-    case kEffortObservationMinutes: Module1.SiEffortObservationMinutes = number; break;
-    case kDurationPerDay: Module1.JobDurationPerDay = number; break;
-    default: break;
-  }
+  NumberTyped(SiBoxAt(index).field, Text1_.at(index)->text().toStdString());
 }
 
 void FrmSI::writeReport(RichText& RichTextBox1) { SI_Calculate(RichTextBox1); }

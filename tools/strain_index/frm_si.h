@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <map>
 #include <vector>
 
 #include "shell/tool_form.h"
@@ -33,13 +34,12 @@ class FrmSI : public ToolForm {
   QWidget* MakeInputTab();
   QWidget* MakeNumberFrames(QWidget* parent);
   QWidget* MakeRibbonFrame(SiRibbonArray array, QWidget* parent);
-  void AddNumber(QWidget* frame, const QString& label, int index);
   void ShowControls();
 
   SiControls controls_;
   TabStrip* SSTab1_;
-  std::array<TextBox*, 9> Text1_{};  ///< the boxes with numbers, at their own indexes
-  std::array<std::vector<RibbonButton*>, 3> ribbons_;
+  std::map<int, TextBox*> Text1_;  ///< the boxes with numbers, by index
+  std::array<std::vector<RibbonButton*>, kSiRibbonArrays.size()> ribbons_;
 };
 
 }  // namespace halvane

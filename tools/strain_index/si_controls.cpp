@@ -1,12 +1,24 @@
 #include "tools/strain_index/si_controls.h"
 
+#include <algorithm>
+
 #include "core/checked_array.h"
-#include "core/job_state.h"
 
 namespace halvane {
 namespace {
 
-constexpr int kHandOptions = 2;
+constexpr std::array kDurationBoxes{
+    // index, label, field
+    SiBox{8, "Duration per Day (hour):", &JobState::JobDurationPerDay},
+};
+constexpr std::array kExertionBoxes{
+    SiBox{0, "Duration of all exertion (min.):", &JobState::SiExertionMinutes},
+    SiBox{1, "Total Observation time (min.):", &JobState::SiDutyObservationMinutes},
+};
+constexpr std::array kEffortBoxes{
+    SiBox{2, "Number of exertions:", &JobState::SiExertionCount},
+    SiBox{3, "Total Observation time (min.):", &JobState::SiEffortObservationMinutes},
+};
 
 // One row a column of ribbons, its captions from rating 1 to rating 5.
 constexpr std::array kIntensityColumns{
@@ -35,46 +47,48 @@ constexpr std::array kSpeedColumns{
 };
 
 constexpr std::array kFrames{
-    SiFrame{"SSRibbon1", "Intensity of Exertion", kIntensityColumns},
-    SiFrame{"SSRibbon2", "Hand/Wrist Posture (degrees)", kPostureColumns},
-    SiFrame{"SSRibbon3", "Speed of Work", kSpeedColumns},
+    // array, name, caption, columns, pick, rating
+    SiFrame{SiRibbonArray::SSRibbon1, "SSRibbon1", "Intensity of Exertion", kIntensityColumns,
+            &JobState::SiIntensityPick, &JobState::SiIntensityRating},
+    SiFrame{SiRibbonArray::SSRibbon2, "SSRibbon2", "Hand/Wrist Posture (degrees)", kPostureColumns,
+            &JobState::SiPosturePick, &JobState::SiPostureRating},
+    SiFrame{SiRibbonArray::SSRibbon3, "SSRibbon3", "Speed of Work", kSpeedColumns,
+            &JobState::SiSpeedPick, &JobState::SiSpeedRating},
 };
+static_assert(std::ranges::equal(kFrames, kSiRibbonArrays, {}, &SiFrame::array),
+              "a frame stands at the number of its array");
 
 constexpr std::size_t Row(SiRibbonArray array) { return static_cast<std::size_t>(array); }
-
-void StorePick(SiRibbonArray array, Integer index) {
-  switch (array) {
-    case SiRibbonArray::SSRibbon1: Module1.SiIntensityPick = index; break;
-    case SiRibbonArray::SSRibbon2: Module1.SiPosturePick = index; break;
-    case SiRibbonArray::SSRibbon3: Module1.SiSpeedPick = index; break;
-  }
-}
-
-void StoreRating(SiRibbonArray array, Integer rating) {
-  switch (array) {
-    case SiRibbonArray::SSRibbon1: Module1.SiIntensityRating = rating; break;
-    case SiRibbonArray::SSRibbon2: Module1.SiPostureRating = rating; break;
-    case SiRibbonArray::SSRibbon3: Module1.SiSpeedRating = rating; break;
-  }
-}
+static_assert(std::ranges::all_of(kSiRibbonArrays,
+                                  [](SiRibbonArray array) {
+                                    return kSiRibbonArrays.at(Row(array)) == array;
+                                  }),
+              "an array stands at its number");
 
 }  // namespace
+
+constexpr std::array<SiNumberFrame, 3> kSiNumberFrames{{
+    {"Task Duration", kDurationBoxes},
+    {"Duration of Exertion", kExertionBoxes},
+    {"Efforts per Minute", kEffortBoxes},
+}};
+
+const SiBox& SiBoxAt(int index) {
+  for (const SiNumberFrame& frame : kSiNumberFrames) {
+    for (const SiBox& box : frame.boxes) {
+      if (box.index == index) return box;
+    }
+  }
+  throw RuntimeFailure(FailureKind::SubscriptOutOfRange);
+}
 
 const SiFrame& SiFrameOf(SiRibbonArray array) { return kFrames[Row(array)]; }
 
 void SiControls::Load() {
   ChooseHand(Module1.Hand);
-  PressRibbon(SiRibbonArray::SSRibbon1, ToInteger(Module1.SiIntensityPick.AsDouble()));
-  PressRibbon(SiRibbonArray::SSRibbon2, ToInteger(Module1.SiPosturePick.AsDouble()));
-  PressRibbon(SiRibbonArray::SSRibbon3, Module1.SiSpeedPick);
-}
-
-void SiControls::ChooseHand(int index) {
-  CheckedSubscript(index, kHandOptions);
-  if (hand_ == index) return;
-  hand_ = index;
-  Module1.Hand = static_cast<Integer>(index);
-  Module1.JobDirty = kTrue;
+  for (const SiFrame& frame : kFrames) {
+    PressRibbon(frame.array, ToInteger(NumberIn(frame.pick).AsDouble()));
+  }
 }
 
 void SiControls::PressRibbon(SiRibbonArray array, int index) {
@@ -95,13 +109,13 @@ void SiControls::RibbonClick(SiRibbonArray array, int index, bool pressed) {
   Module1.JobDirty = kTrue;
   // A ribbon that goes up stores its index too, and so does every ribbon of the row that follows
   // below. The pick ends on whichever was handled last and means no more than a member of the row.
-  StorePick(array, static_cast<Integer>(index));
+  StoreNumber(SiFrameOf(array).pick, 0, static_cast<Integer>(index));
   if (!pressed) return;
   const int row = index % kSiRatings;
   for (int other = row; other < SiFrameOf(array).ribbonCount(); other += kSiRatings) {
     PressRibbon(array, other);
   }
-  StoreRating(array, static_cast<Integer>(row + 1));
+  Module1.*SiFrameOf(array).rating = static_cast<Integer>(row + 1);
 }
 
 bool SiControls::IsDown(SiRibbonArray array, int index) const {

@@ -6,8 +6,30 @@
 #include <string_view>
 
 #include "core/integer.h"
+#include "tools/hand_controls.h"
+#include "tools/number_field.h"
 
 namespace halvane {
+
+/// The tabs, by index of `SSTab1`. The first blank is wanted.
+inline constexpr std::array<std::string_view, 2> kSiTabs{" Task Information", "Strain Index"};
+inline constexpr int kSiReportTab = 1;
+
+/// A box for a number: its index of `Text1`, its label and its field.
+struct SiBox {
+  int index;
+  std::string_view label;
+  NumberField field;
+};
+/// A frame of such boxes.
+struct SiNumberFrame {
+  std::string_view caption;
+  std::span<const SiBox> boxes;
+};
+/// In the order of the screen.
+extern const std::array<SiNumberFrame, 3> kSiNumberFrames;
+/// The row of `Text1(index)`. Throws `SubscriptOutOfRange` where there is none.
+const SiBox& SiBoxAt(int index);
 
 /// The three arrays of ribbons on the form, in the order of the screen.
 enum class SiRibbonArray { SSRibbon1, SSRibbon2, SSRibbon3 };
@@ -24,9 +46,12 @@ struct SiColumn {
 
 /// One frame of ribbons: its columns are parallel scales that are kept on the same row.
 struct SiFrame {
+  SiRibbonArray array;
   std::string_view objectName;  ///< of the ribbons, without the index
   std::string_view caption;
   std::span<const SiColumn> columns;  ///< column c holds the indexes 5c to 5c + 4
+  NumberField pick;                   ///< index of a ribbon of the row that is down
+  Integer JobState::*rating;          ///< 1 to 5
 
   [[nodiscard]] int ribbonCount() const { return static_cast<int>(columns.size()) * kSiRatings; }
 };
@@ -39,9 +64,9 @@ inline constexpr std::array kSiRibbonArrays{SiRibbonArray::SSRibbon1, SiRibbonAr
 /// The two-state controls of the Strain Index form without a screen: which option is chosen, which
 /// ribbons are down, and the handlers that their events run. A new object is the form as designed,
 /// with nothing chosen or down.
-class SiControls {
+class SiControls : public HandControls {
  public:
-  static constexpr int kNoHand = -1;
+  SiControls() : HandControls(kNoHand) {}
 
   /// Puts every control back to its design state; runs no handler.
   void Reset() { *this = SiControls(); }
@@ -54,12 +79,7 @@ class SiControls {
   /// `SubscriptOutOfRange` for an index that names no ribbon.
   void PressRibbon(SiRibbonArray array, int index);
 
-  /// The user, or the load, chooses an option. The chosen one stays as it is. Throws
-  /// `SubscriptOutOfRange` for an index that names no option.
-  void ChooseHand(int index);
-
   [[nodiscard]] bool IsDown(SiRibbonArray array, int index) const;
-  [[nodiscard]] int hand() const { return hand_; }  ///< `kNoHand` while none is chosen
 
  private:
   static constexpr std::size_t kMostRibbons = 20;
@@ -67,8 +87,7 @@ class SiControls {
   void RibbonClick(SiRibbonArray array, int index, bool pressed);
   bool& Down(SiRibbonArray array, int index);
 
-  std::array<std::array<bool, kMostRibbons>, 3> down_{};
-  int hand_ = kNoHand;
+  std::array<std::array<bool, kMostRibbons>, kSiRibbonArrays.size()> down_{};
 };
 
 }  // namespace halvane
