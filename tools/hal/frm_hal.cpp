@@ -29,10 +29,6 @@ namespace {
 constexpr IdentificationNames kNames{
     {"Text3(0)", "Label1(11)"}, {"Text3(1)", "Label1(10)"}, {"Text3(2)", "Label1(9)"}, "SSOption5"};
 
-// The indexes of the boxes with numbers.
-constexpr int kFrequencyBox = 0;
-constexpr int kDutyBox = 1;
-
 // Of the width; so the report's longest line fits at the default size.
 constexpr int kInputsShare = 5;
 constexpr int kReportShare = 6;
@@ -40,11 +36,6 @@ constexpr int kLevelPage = 2;
 constexpr int kDutyPage = 5;
 constexpr auto kForceScale = "hal/force_scale";
 constexpr double kNoteScale = 0.9;
-constexpr auto kNote =
-    "Note: TLV do not include the following factors - Sustained non-neutral postures, contact "
-    "stresses, low temperatures and vibration.";
-
-QString NumberText(const TaggedField& field) { return QString::fromStdString(field.AsText()); }
 
 /// The printed scale in words: "0 Nothing At All, 1.0 Very Weak, ...".
 QString ForceScaleInWords() {
@@ -100,37 +91,43 @@ QWidget* FrmHAL::MakeInputs() {
 }
 
 QGroupBox* FrmHAL::MakeExertionFrame(QWidget* parent) {
-  const auto [frame, grid] = MakeFrame("Exertion:", parent);
+  const auto [frame, grid] = MakeFrame(ScreenText(kHalExertionCaption), parent);
   frame->setObjectName("SSFrame1(4)");
-  frequency_ = AddNumberWithUnit(*grid, ElementName("Text1", kFrequencyBox), "Exertion Frequency",
-                                 "no. of exertion per min.", "Label2(5)");
-  connect(frequency_, &TextBox::keyReleased, this, [this] { Text1_KeyUp(kFrequencyBox); });
+  const HalBox& row = kHalBoxes[kHalFrequency];
+  AddText1(kHalFrequency,
+           AddNumberWithUnit(*grid, ElementName("Text1", kHalFrequency), ScreenText(row.name),
+                             ScreenText(row.unit), "Label2(5)"));
   return frame;
 }
 
 QGroupBox* FrmHAL::MakeDutyFrame(QWidget* parent) {
-  const auto [frame, grid] = MakeFrame("Duty Cycle (% Work Cycle)", parent);
+  const auto [frame, grid] = MakeFrame(ScreenText(kHalDutyCaption), parent);
   frame->setObjectName("SSFrame1(3)");
-  duty_ = MakeNumberBox(ElementName("Text1", kDutyBox), frame->title(), frame);
-  connect(duty_, &TextBox::keyReleased, this, [this] { Text1_KeyUp(kDutyBox); });
+  AddText1(kHalDuty, MakeNumberBox(ElementName("Text1", kHalDuty),
+                                   ScreenText(kHalBoxes[kHalDuty].name), frame));
   Slider3_ = new MouseSlider(frame);
   SetUpSlider(*Slider3_, "Slider3", kHalHighestDuty, kDutyPage);
   Slider3_->setAccessibleName(frame->title());
-  grid->addWidget(duty_, 0, 0);
+  grid->addWidget(Text1_[kHalDuty], 0, 0);
   grid->addWidget(Slider3_, 0, 1);
   connect(Slider3_, &MouseSlider::mouseHeld, this, &FrmHAL::Slider3_MouseMove);
   return frame;
 }
 
+void FrmHAL::AddText1(int index, TextBox* box) {
+  Text1_.at(static_cast<std::size_t>(index)) = box;
+  connect(box, &TextBox::keyReleased, this, [this, index] { Text1_KeyUp(index); });
+}
+
 QGroupBox* FrmHAL::MakeLevelFrame(QWidget* parent) {
-  const auto [frame, grid] = MakeFrame("Rate The Hand Activity Level:", parent);
+  const auto [frame, grid] = MakeFrame(ScreenText(kHalLevelCaption), parent);
   frame->setObjectName("SSFrame1(2)");
   grid->setContentsMargins(kGap / 2, kGap / 2, kGap / 2, kGap / 2);
   Slider1_ = new QSlider(frame);
   SetUpSlider(*Slider1_, "Slider1", kHalHighestLevel, kLevelPage);
   Slider1_->setTickPosition(QSlider::TicksAbove);
   Slider1_->setAccessibleName(frame->title());
-  Slider1_->setToolTip("Hand Activity Level Scale");
+  Slider1_->setToolTip(ScreenText(kHalLevelTip));
   auto* scale = new LabelledScale(Slider1_, frame);
   for (int i = 0; const HalMark& mark : kHalLevelMarks) {
     scale->AddMark(ScreenText(mark.tick), ElementName("Label4", i), ScreenText(mark.words),
@@ -148,11 +145,11 @@ QGroupBox* FrmHAL::MakeLimitFrame(QWidget* parent) {
   SSPanel4_->setObjectName("SSPanel4");
   grid->addWidget(MakeForceScale(panel), 0, 0);
   auto* row = new QHBoxLayout;
-  limits_[kHalActionLevel] = AddLimit(*row, 0, "Action Level:", 1);
+  AddLimit(*row, kHalActionLevel, 0, 1);
   row->addStretch(1);
-  limits_[kHalThresholdLimitValue] = AddLimit(*row, 3, "Threshold Limit Value:", 2);
+  AddLimit(*row, kHalThresholdLimitValue, 3, 2);
   grid->addLayout(row, 1, 0);
-  auto* note = new QLabel(kNote, panel);
+  auto* note = new QLabel(ScreenText(kHalNote), panel);
   note->setObjectName("Label6");
   note->setWordWrap(true);
   QFont font = note->font();
@@ -162,20 +159,20 @@ QGroupBox* FrmHAL::MakeLimitFrame(QWidget* parent) {
   return panel;
 }
 
-QLabel* FrmHAL::AddLimit(QBoxLayout& row, int captionIndex, const QString& caption,
-                         int valueIndex) {
-  auto* text = new QLabel(caption, SSPanel4_);
+void FrmHAL::AddLimit(QBoxLayout& row, int element, int captionIndex, int valueIndex) {
+  const auto at = static_cast<std::size_t>(element);
+  auto* text = new QLabel(ScreenText(kHalLimitCaptions.at(at)), SSPanel4_);
   text->setObjectName(ElementName("Label7", captionIndex));
   QLabel* value = MakeReadout("10.00", SSPanel4_);
   value->setObjectName(ElementName("Label3", valueIndex));
   value->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
   row.addWidget(text);
   row.addWidget(value);
-  return value;
+  limits_.at(at) = value;
 }
 
 QGroupBox* FrmHAL::MakeForceScale(QWidget* parent) {
-  const auto [panel, grid] = MakeFrame("Borg Scale", parent);
+  const auto [panel, grid] = MakeFrame(ScreenText(kHalForceCaption), parent);
   panel->setObjectName("SSPanel3");
   auto* picture = new QLabel(panel);
   const QString path = QString(":/assets/%1.svg").arg(kForceScale);
@@ -192,8 +189,9 @@ void FrmHAL::loadFromJob() {
   HalLoad();
   SSPanel4_->setTitle(ScreenText(HalLimitHeading()));
   hand().ShowHand(Module1.Hand);
-  frequency_->setText(NumberText(Module1.HalExertionFrequency));
-  duty_->setText(NumberText(Module1.HalDutyCycle));
+  for (std::size_t i = 0; i < Text1_.size(); ++i) {
+    Text1_[i]->setText(QString::fromStdString(NumberIn(kHalBoxes[i].field).AsText()));
+  }
   ShowDuty();
   ShowLevel();
   mnuEdit().setEnabled(true);
@@ -213,17 +211,14 @@ void FrmHAL::SSOption5_Click(int index) {
 }
 
 void FrmHAL::Text1_KeyUp(int index) {
-  if (index == kFrequencyBox) HalFrequencyTyped(frequency_->text().toStdString());
-  if (index == kDutyBox) {
-    HalDutyTyped(duty_->text().toStdString());
-    ShowDuty();
-  }
+  HalTyped(index, Text1_.at(static_cast<std::size_t>(index))->text().toStdString());
+  if (index == kHalDuty) ShowDuty();
   ShowLevel();
   ShowReport();
 }
 
 void FrmHAL::Slider3_MouseMove() {
-  duty_->setText(QString::fromStdString(HalDutyDragged(Slider3_->value())));
+  Text1_[kHalDuty]->setText(QString::fromStdString(HalDutyDragged(Slider3_->value())));
   ShowLevel();
   ShowReport();
 }
@@ -231,8 +226,7 @@ void FrmHAL::Slider3_MouseMove() {
 void FrmHAL::Slider1_Scroll(int value) {
   const std::string level = HalLevelMoved(value);
   ShowTip(*Slider1_, QString::fromStdString(level));
-  frequency_->clear();
-  duty_->clear();
+  for (TextBox* box : Text1_) box->clear();
   ShowReport();
 }
 

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "shell/tool_form.h"
+#include "tools/hal/hal_controls.h"
 
 class QBoxLayout;
 class QGroupBox;
@@ -45,14 +46,15 @@ class FrmHAL : public ToolForm {
   QGroupBox* MakeLevelFrame(QWidget* parent);
   QGroupBox* MakeLimitFrame(QWidget* parent);
   QGroupBox* MakeForceScale(QWidget* parent);
-  /// Adds "Label7(captionIndex)" and, behind it, "Label3(valueIndex)", which it gives.
-  QLabel* AddLimit(QBoxLayout& row, int captionIndex, const QString& caption, int valueIndex);
+  void AddText1(int index, TextBox* box);
+  /// Adds "Label7(captionIndex)" and, behind it, "Label3(valueIndex)" for an element of
+  /// `HalLimits`.
+  void AddLimit(QBoxLayout& row, int element, int captionIndex, int valueIndex);
   void ShowLevel();
   void ShowDuty();
 
   std::array<QGroupBox*, 3> inputFrames_{};
-  TextBox* frequency_ = nullptr;
-  TextBox* duty_ = nullptr;
+  std::array<TextBox*, kHalBoxes.size()> Text1_{};
   MouseSlider* Slider3_ = nullptr;
   QSlider* Slider1_ = nullptr;
   QGroupBox* SSPanel4_ = nullptr;

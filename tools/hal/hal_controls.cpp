@@ -5,11 +5,10 @@
 #include "core/checked_array.h"
 #include "core/job_state.h"
 #include "tools/hal/hal_score.h"
+#include "tools/hand_controls.h"
 
 namespace halvane {
 namespace {
-
-constexpr int kHandOptions = 2;
 
 int NearestPosition(double value, double highest) {
   return ToInteger(std::clamp(value, 0.0, highest));
@@ -42,6 +41,11 @@ constexpr std::array<HalMark, 11> kHalForceMarks{{
 }};
 // clang-format on
 
+static_assert(std::ssize(kHalLimitCaptions) == decltype(JobState::HalLimits)::size(),
+              "a caption a limit");
+static_assert(kHalThresholdLimitValue == 0 && kHalActionLevel == 1, "captions stand so");
+static_assert(kHalBoxes[kHalDuty].name == kHalDutyCaption, "a box stands at its index");
+
 std::string_view HalLimitHeading() {
   return Module1.HalForceMode == kFalse
              ? "Activity Limit"
@@ -58,21 +62,14 @@ void HalHandChosen(int index) {
   Module1.Hand = static_cast<Integer>(index);
 }
 
-void HalFrequencyTyped(std::string_view text) {
-  Module1.JobDirty = kTrue;
-  Module1.HalExertionFrequency = TypedNumber(text);
-  GetExertionLevel();
-}
-
-void HalDutyTyped(std::string_view text) {
-  Module1.JobDirty = kTrue;
-  Module1.HalDutyCycle = TypedNumber(text);
+void HalTyped(int index, std::string_view text) {
+  NumberTyped(kHalBoxes[CheckedSubscript(index, kHalBoxes.size())].field, text);
   GetExertionLevel();
 }
 
 std::string HalDutyDragged(int sliderValue) {
   std::string text = PlainText(sliderValue);
-  HalDutyTyped(text);
+  HalTyped(kHalDuty, text);
   return text;
 }
 

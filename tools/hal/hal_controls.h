@@ -4,7 +4,37 @@
 #include <string>
 #include <string_view>
 
+#include "tools/number_field.h"
+
 namespace halvane {
+
+// Captions of the frames, in the order of the screen; the last is the scale's tip.
+inline constexpr std::string_view kHalExertionCaption = "Exertion:";
+inline constexpr std::string_view kHalDutyCaption = "Duty Cycle (% Work Cycle)";
+inline constexpr std::string_view kHalLevelCaption = "Rate The Hand Activity Level:";
+inline constexpr std::string_view kHalForceCaption = "Borg Scale";
+inline constexpr std::string_view kHalLevelTip = "Hand Activity Level Scale";
+/// What stands before a limit, on the form and in the report; by element of `HalLimits`.
+inline constexpr std::array<std::string_view, 2> kHalLimitCaptions{"Threshold Limit Value:",
+                                                                   "Action Level:"};
+/// The small print under the limits.
+inline constexpr std::string_view kHalNote =
+    "Note: TLV do not include the following factors - Sustained non-neutral postures, contact "
+    "stresses, low temperatures and vibration.";
+
+/// A box for a number.
+struct HalBox {
+  std::string_view name;
+  std::string_view unit;  ///< empty: none
+  NumberField field;
+};
+inline constexpr int kHalFrequency = 0;
+inline constexpr int kHalDuty = 1;
+/// A box stands at its index of `Text1`.
+inline constexpr std::array kHalBoxes{
+    HalBox{"Exertion Frequency", "no. of exertion per min.", &JobState::HalExertionFrequency},
+    HalBox{kHalDutyCaption, "", &JobState::HalDutyCycle},
+};
 
 /// A place on a scale of the form: its number, the tick label there and the words under it.
 struct HalMark {
@@ -36,10 +66,8 @@ void HalHandChosen(int index);
 // What the other inputs do to the job. Each marks it as changed; the caller computes the limits
 // then.
 
-/// A key was released in the box of the exertions per minute.
-void HalFrequencyTyped(std::string_view text);
-/// A key was released in the box of the duty cycle.
-void HalDutyTyped(std::string_view text);
+/// A key was released in `Text1(index)`. Throws `SubscriptOutOfRange` for an index without a box.
+void HalTyped(int index, std::string_view text);
 /// The mouse moved the slider of the duty cycle, a button held; gives the text for the box.
 std::string HalDutyDragged(int sliderValue);
 /// The user moved the scale, which takes the place of both boxes: their fields become 0. Gives the

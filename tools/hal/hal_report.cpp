@@ -3,6 +3,7 @@
 #include "core/job_state.h"
 #include "tools/hal/hal_controls.h"
 #include "tools/hal/hal_score.h"
+#include "tools/report_parts.h"
 
 namespace halvane {
 namespace {
@@ -18,8 +19,9 @@ constexpr CharacterFormat kTitle{.size = 12, .bold = true, .underline = true};
 constexpr CharacterFormat kHeading{.size = 10, .bold = true, .underline = true};
 constexpr CharacterFormat kPlain{.size = 10, .bold = false, .underline = false};
 
-std::string Limit(int element) {
-  return Format(Module1.HalLimits.at(element), Pattern::TwoDecimals);
+void WriteLimit(RichText& RichTextBox1, int element) {
+  RichTextBox1.Append(kNewLine, kHalLimitCaptions.at(static_cast<std::size_t>(element)), " ",
+                      Format(Module1.HalLimits.at(element), Pattern::TwoDecimals));
 }
 
 /// How long the text was when a part of it was done.
@@ -32,12 +34,7 @@ struct Marks {
 
 void WriteJob(RichText& RichTextBox1) {
   RichTextBox1.Append(kTitleText, kNewLine);
-  RichTextBox1.Append(kNewLine, "Analyst: ", Module1.JobAnalyst.AsText());
-  RichTextBox1.Append(kNewLine, "Job Name: ", Module1.JobName.AsText());
-  RichTextBox1.Append(kNewLine, "Workstation ID: ", Module1.JobWorkstationId);
-  RichTextBox1.Append(kNewLine);
-  RichTextBox1.Append(kNewLine, Module1.Hand == 0 ? "Hand: Right Side" : "Hand: Left Side");
-  RichTextBox1.Append(kNewLine);
+  AppendIdentification(RichTextBox1);
 }
 
 void WriteInput(RichText& RichTextBox1) {
@@ -55,8 +52,8 @@ void WriteInput(RichText& RichTextBox1) {
 
 void WriteLimits(RichText& RichTextBox1) {
   RichTextBox1.Append(kNewLine);
-  RichTextBox1.Append(kNewLine, "Action Level: ", Limit(kHalActionLevel));
-  RichTextBox1.Append(kNewLine, "Threshold Limit Value: ", Limit(kHalThresholdLimitValue));
+  WriteLimit(RichTextBox1, kHalActionLevel);
+  WriteLimit(RichTextBox1, kHalThresholdLimitValue);
 }
 
 Marks WriteText(RichText& RichTextBox1) {

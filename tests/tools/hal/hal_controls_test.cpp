@@ -57,6 +57,27 @@ TEST(HalScales, ForceHasElevenMarks) {
                  MarkRow{9, "9.0", "Extremely Strong (Almost max.)"}, MarkRow{10, "10", ""}});
 }
 
+TEST(HalCaptions, FramesBoxesAndLimitsReadAsOnTheForm) {
+  EXPECT_EQ(kHalExertionCaption, "Exertion:");
+  EXPECT_EQ(kHalDutyCaption, "Duty Cycle (% Work Cycle)");
+  EXPECT_EQ(kHalLevelCaption, "Rate The Hand Activity Level:");
+  EXPECT_EQ(kHalForceCaption, "Borg Scale");
+  EXPECT_EQ(kHalLevelTip, "Hand Activity Level Scale");
+  EXPECT_EQ(kHalLimitCaptions,
+            (std::array<std::string_view, 2>{"Threshold Limit Value:", "Action Level:"}));
+  EXPECT_EQ(kHalNote,
+            "Note: TLV do not include the following factors - Sustained non-neutral postures, "
+            "contact stresses, low temperatures and vibration.");
+  EXPECT_EQ(kHalBoxes[0].name, "Exertion Frequency");
+  EXPECT_EQ(kHalBoxes[0].unit, "no. of exertion per min.");
+  EXPECT_EQ(kHalBoxes[1].name, kHalDutyCaption);
+}
+
+TEST_F(HalInputs, IndexWithoutABoxFails) {
+  EXPECT_EQ(FailureOf([] { HalTyped(2, "5"); }), "SubscriptOutOfRange");
+  EXPECT_EQ(Module1, JobState{});
+}
+
 TEST_F(HalInputs, HeadingNamesWhatTheModeLimits) {
   Module1.HalForceMode = kTrue;
   EXPECT_EQ(HalLimitHeading(),
@@ -121,23 +142,24 @@ TEST_F(HalInputs, EachStoresItsFieldsMarksTheJobAndTouchesNothingElse) {
   const TaggedField frequency = 33.0;
   const TaggedField duty = 44.0;
   const std::array rows{
-      InputRow{"frequency", [] { return NoText([] { HalFrequencyTyped("20"); }); }, "", 20.0, duty,
-               Integer{5}},
+      InputRow{"frequency", [] { return NoText([] { HalTyped(kHalFrequency, "20"); }); }, "", 20.0,
+               duty, Integer{5}},
       InputRow{"frequency with words",
-               [] { return NoText([] { HalFrequencyTyped(" 61 or so"); }); }, "", 61.0, duty,
+               [] { return NoText([] { HalTyped(kHalFrequency, " 61 or so"); }); }, "", 61.0, duty,
                Integer{6}},
-      InputRow{"frequency of letters", [] { return NoText([] { HalFrequencyTyped("abc"); }); }, "",
+      InputRow{"frequency of letters",
+               [] { return NoText([] { HalTyped(kHalFrequency, "abc"); }); }, "", 0.0, duty,
+               Integer{1}},
+      InputRow{"empty frequency", [] { return NoText([] { HalTyped(kHalFrequency, ""); }); }, "",
                0.0, duty, Integer{1}},
-      InputRow{"empty frequency", [] { return NoText([] { HalFrequencyTyped(""); }); }, "", 0.0,
-               duty, Integer{1}},
-      InputRow{"negative frequency", [] { return NoText([] { HalFrequencyTyped("-5"); }); }, "",
-               -5.0, duty, Integer{1}},
-      InputRow{"duty", [] { return NoText([] { HalDutyTyped("85.5"); }); }, "", frequency, 85.5,
-               Integer{7}},
-      InputRow{"duty above 100", [] { return NoText([] { HalDutyTyped("150"); }); }, "", frequency,
-               150.0, Integer{7}},
-      InputRow{"duty of letters", [] { return NoText([] { HalDutyTyped("abc"); }); }, "", frequency,
-               0.0, Integer{4}},
+      InputRow{"negative frequency", [] { return NoText([] { HalTyped(kHalFrequency, "-5"); }); },
+               "", -5.0, duty, Integer{1}},
+      InputRow{"duty", [] { return NoText([] { HalTyped(kHalDuty, "85.5"); }); }, "", frequency,
+               85.5, Integer{7}},
+      InputRow{"duty above 100", [] { return NoText([] { HalTyped(kHalDuty, "150"); }); }, "",
+               frequency, 150.0, Integer{7}},
+      InputRow{"duty of letters", [] { return NoText([] { HalTyped(kHalDuty, "abc"); }); }, "",
+               frequency, 0.0, Integer{4}},
       InputRow{"slider of the duty", [] { return HalDutyDragged(61); }, "61", frequency, 61.0,
                Integer{6}},
       InputRow{"slider of the duty at 0", [] { return HalDutyDragged(0); }, "0", frequency, 0.0,
@@ -166,18 +188,18 @@ TEST_F(HalInputs, EachStoresItsFieldsMarksTheJobAndTouchesNothingElse) {
 
 TEST_F(HalInputs, DutyWithoutALevelKeepsTheOneSetByHand) {
   HalLevelMoved(7);
-  HalDutyTyped("101");
+  HalTyped(kHalDuty, "101");
   EXPECT_EQ(Module1.HalActivityLevel, TaggedField("7.0"));
   EXPECT_EQ(Module1.HalDutyCycle, TaggedField(101.0));
 }
 
 TEST_F(HalInputs, NumberBeyondADoubleReadsAsNoNumber) {
-  HalFrequencyTyped("12");
-  HalFrequencyTyped("1E999");
+  HalTyped(kHalFrequency, "12");
+  HalTyped(kHalFrequency, "1E999");
   EXPECT_EQ(Module1.JobDirty, kTrue);
   EXPECT_EQ(Module1.HalExertionFrequency, TaggedField(0.0));
-  HalDutyTyped("12");
-  HalDutyTyped("1E999");
+  HalTyped(kHalDuty, "12");
+  HalTyped(kHalDuty, "1E999");
   EXPECT_EQ(Module1.HalDutyCycle, TaggedField(0.0));
 }
 

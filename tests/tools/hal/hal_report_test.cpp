@@ -59,8 +59,8 @@ void FillJob() {
   Module1.JobName = "Café line, 2nd shift";
   Module1.JobWorkstationId = "Wörk 17";
   Module1.Hand = 1;
-  HalFrequencyTyped("20");
-  HalDutyTyped("50");
+  HalTyped(kHalFrequency, "20");
+  HalTyped(kHalDuty, "50");
 }
 
 constexpr std::string_view kFilledPage = R"(ACGIH Hand Activity Level (HAL)
