@@ -2,15 +2,11 @@
 
 #include <algorithm>
 
-#include "core/checked_math.h"
-#include "core/job_state.h"
+#include "core/checked_array.h"
 #include "core/task_list.h"
 
 namespace halvane {
 namespace {
-
-constexpr int kHandOptions = 2;
-constexpr double kMinutesPerHour = 60;
 
 // clang-format off
 constexpr std::array kGrips{
@@ -87,39 +83,44 @@ constexpr std::array kNeck{
 };
 // clang-format on
 
-void StoreCode(CtdGroup group, int task, Integer index) {
-  switch (group) {
-    case CtdGroup::Grip: Module1.CtdGripType.at(task) = index; break;
-    case CtdGroup::Wrist: Module1.CtdWristPosition.at(task) = index; break;
-    case CtdGroup::RadialUlnar: Module1.CtdRadUlnDeviation.at(task) = index; break;
-    case CtdGroup::FlexionExtension: Module1.CtdFlexExtDeviation.at(task) = index; break;
-  }
-}
-
-int CurrentTask() { return ToInteger(Module1.CurrentTask.AsDouble()); }
-
 }  // namespace
 
+// clang-format off
 constexpr std::array<CtdGroupRow, 4> kCtdGroups{{
-    {"SSRibbon1", "Grip Type", kGrips},
-    {"SSRibbon2", "Wrist Position", kWrists},
-    {"SSRibbon4", "Radial/Ulnar Deviation Angle:", kRadialUlnar},
-    {"SSRibbon5", "Flexion/Extension Angle:", kFlexionExtension},
+    // group,                     name,        caption,                         ribbons,           field
+    {CtdGroup::Grip,             "SSRibbon1", "Grip Type",                     kGrips,            &JobState::CtdGripType},
+    {CtdGroup::Wrist,            "SSRibbon2", "Wrist Position",                kWrists,           &JobState::CtdWristPosition},
+    {CtdGroup::RadialUlnar,      "SSRibbon4", "Radial/Ulnar Deviation Angle:", kRadialUlnar,      &JobState::CtdRadUlnDeviation},
+    {CtdGroup::FlexionExtension, "SSRibbon5", "Flexion/Extension Angle:",      kFlexionExtension, &JobState::CtdFlexExtDeviation},
 }};
+// clang-format on
+static_assert(std::ranges::all_of(kCtdGroups,
+                                  [](const CtdGroupRow& row) {
+                                    return &kCtdGroups.at(static_cast<std::size_t>(row.group)) ==
+                                           &row;
+                                  }),
+              "a group stands at its number");
 
 // Labels, "Flextion" and trailing blanks included, are wanted as they stand.
 // clang-format off
 constexpr std::array<CtdSlot, kCtdSlotCount> kCtdSlots{{
-    // report label,          frame caption,                      ribbons,             categories,           frame slot
-    {"Lt Shoulder Flex/Ext",   "Left Shoulder Flexion/Extension",   "SSctdLtShoulFlexT", kLeftShoulderFlexion,    1},
-    {"Rt Shoulder Flex/Ext",   "Right Shoulder Flextion/Extension", "SSctdRtShoulFlexT", kRightShoulderFlexion,   0},
-    {"Lt Shoulder Abd/Add",    "Left Shoulder Abduction",           "SSctdLtShoulABD",   kLeftShoulderAbduction,  3},
-    {"Rt Shoulder Abd/Add",    "Right Shoulder Abduction",          "SSctdRtShoulABD",   kRightShoulderAbduction, 2},
-    {"Lt Elbow Flex/Ext   ",   "Left Elbow Flextion/Extension",     "SSctdLtElbowFlexT", kLeftElbow,              4},
-    {"Rt elbow Flex/Ext   ",   "Right Elbow Flexion/Extension",     "SSctdRtElbowFlexT", kRightElbow,             5},
-    {"Back Flexion          ", "Back Flexion",                      "SSctdBack",         kBack,                   6},
-    {"Neck Flexion          ", "Neck Flexion",                      "SSctdNeck",         kNeck,                   7},
+    // report label,          frame caption,                      ribbons,             categories,              field,                             frame slot
+    {"Lt Shoulder Flex/Ext",   "Left Shoulder Flexion/Extension",   "SSctdLtShoulFlexT", kLeftShoulderFlexion,    &JobState::CtdLtShoulderFlexion,   1},
+    {"Rt Shoulder Flex/Ext",   "Right Shoulder Flextion/Extension", "SSctdRtShoulFlexT", kRightShoulderFlexion,   &JobState::CtdRtShoulderFlexion,   0},
+    {"Lt Shoulder Abd/Add",    "Left Shoulder Abduction",           "SSctdLtShoulABD",   kLeftShoulderAbduction,  &JobState::CtdLtShoulderAbduction, 3},
+    {"Rt Shoulder Abd/Add",    "Right Shoulder Abduction",          "SSctdRtShoulABD",   kRightShoulderAbduction, &JobState::CtdRtShoulderAbduction, 2},
+    {"Lt Elbow Flex/Ext   ",   "Left Elbow Flextion/Extension",     "SSctdLtElbowFlexT", kLeftElbow,              &JobState::CtdLtElbowFlexion,      4},
+    {"Rt elbow Flex/Ext   ",   "Right Elbow Flexion/Extension",     "SSctdRtElbowFlexT", kRightElbow,             &JobState::CtdRtElbowFlexion,      5},
+    {"Back Flexion          ", "Back Flexion",                      "SSctdBack",         kBack,                   &JobState::CtdBackFlexion,         6},
+    {"Neck Flexion          ", "Neck Flexion",                      "SSctdNeck",         kNeck,                   &JobState::CtdNeckFlexion,         7},
 }};
+static_assert(kCtdSlots[kCtdNeckSlot].categories.data() == kNeck.data());
+static_assert(
+    std::ranges::all_of(kCtdSlots, [](const CtdSlot& slot) {
+      return &kCtdSlots.at(static_cast<std::size_t>(
+                 kCtdSlots.at(static_cast<std::size_t>(slot.frameSlot)).frameSlot)) == &slot;
+    }),
+    "slots are crossed in pairs");
 // clang-format on
 
 constexpr std::array<CtdBodyPart, 4> kCtdBodyParts{{
@@ -128,6 +129,25 @@ constexpr std::array<CtdBodyPart, 4> kCtdBodyParts{{
     {"Elbow Flexion/Extension", "ctd/part_elbow", {4, 5}},
     {"Neck + Back", "ctd/part_neck_back", {6, 7}},
 }};
+static_assert(kCtdBodyParts.size() * kCtdBodyParts[0].shownSlots.size() == kCtdSlotCount,
+              "each slot is shown with a part");
+
+const CtdBox& CtdBoxAt(std::span<const CtdBox> boxes, int index) {
+  for (const CtdBox& box : boxes) {
+    if (box.index == index) return box;
+  }
+  throw RuntimeFailure(FailureKind::SubscriptOutOfRange);
+}
+
+namespace {
+
+const CtdGroupRow& GroupRow(CtdGroup group) {
+  return kCtdGroups[CheckedSubscript(static_cast<int>(group), kCtdGroups.size())];
+}
+
+const CtdSlot& SlotRow(int slot) { return kCtdSlots[CheckedSubscript(slot, kCtdSlots.size())]; }
+
+}  // namespace
 
 const CtdRibbon& CtdRibbonAt(std::span<const CtdRibbon> ribbons, int index) {
   for (const CtdRibbon& ribbon : ribbons) {
@@ -137,60 +157,18 @@ const CtdRibbon& CtdRibbonAt(std::span<const CtdRibbon> ribbons, int index) {
 }
 
 int CtdCodeOf(CtdGroup group, int task) {
-  switch (group) {
-    case CtdGroup::Grip: return ToInteger(Module1.CtdGripType.at(task).AsDouble());
-    case CtdGroup::Wrist: return Module1.CtdWristPosition.at(task);
-    case CtdGroup::RadialUlnar: return ToInteger(Module1.CtdRadUlnDeviation.at(task));
-    case CtdGroup::FlexionExtension:
-      return ToInteger(Module1.CtdFlexExtDeviation.at(task).AsDouble());
-  }
-  throw RuntimeFailure(FailureKind::SubscriptOutOfRange);
+  return ToInteger(NumberIn(GroupRow(group).field, task).AsDouble());
 }
 
-double CtdCategoryOf(int slot, int task) {
-  switch (slot) {
-    case 0: return Module1.CtdLtShoulderFlexion.at(task).AsDouble();
-    case 1: return Module1.CtdRtShoulderFlexion.at(task).AsDouble();
-    case 2: return Module1.CtdLtShoulderAbduction.at(task).AsDouble();
-    case 3: return Module1.CtdRtShoulderAbduction.at(task).AsDouble();
-    case 4: return Module1.CtdLtElbowFlexion.at(task).AsDouble();
-    case 5: return Module1.CtdRtElbowFlexion.at(task).AsDouble();
-    case 6: return Module1.CtdBackFlexion.at(task).AsDouble();
-    case 7: return Module1.CtdNeckFlexion.at(task);
-    default: throw RuntimeFailure(FailureKind::SubscriptOutOfRange);
-  }
-}
+double CtdCategoryOf(int slot, int task) { return NumberIn(SlotRow(slot).field, task).AsDouble(); }
 
 void StoreCtdCategory(int slot, int task, Integer category) {
-  switch (slot) {
-    case 0: Module1.CtdLtShoulderFlexion.at(task) = category; break;
-    case 1: Module1.CtdRtShoulderFlexion.at(task) = category; break;
-    case 2: Module1.CtdLtShoulderAbduction.at(task) = category; break;
-    case 3: Module1.CtdRtShoulderAbduction.at(task) = category; break;
-    case 4: Module1.CtdLtElbowFlexion.at(task) = category; break;
-    case 5: Module1.CtdRtElbowFlexion.at(task) = category; break;
-    case 6: Module1.CtdBackFlexion.at(task) = category; break;
-    case 7: Module1.CtdNeckFlexion.at(task) = category; break;
-    default: throw RuntimeFailure(FailureKind::SubscriptOutOfRange);
-  }
-}
-
-void ComputeCtdRestTime(int task) {
-  const double worked =
-      Product(Module1.CtdRepetitions.at(task), Module1.CtdWorkTime.at(task).AsDouble());
-  Module1.CtdRestTime.at(task) = std::max(Finite(Module1.JobCycleTime - worked), 0.0);
-}
-
-double ComputeCtdCyclesPerShift() {
-  if (Module1.JobCycleTime <= 0) return 0;
-  Module1.CtdCyclesPerShift = Quotient(
-      Product(Module1.JobDurationPerDay.AsDouble(), kMinutesPerHour), Module1.JobCycleTime);
-  return Module1.CtdCyclesPerShift;
+  StoreNumber(SlotRow(slot).field, task, category);
 }
 
 void CtdControls::Load(const std::function<void(int task)>& shown) {
   for (const int task : ActiveTasks()) {
-    Module1.CurrentTask = static_cast<Integer>(task);
+    TaskShown(task);
     try {
       PressStoredRibbons();
       shown(task);
@@ -203,28 +181,18 @@ void CtdControls::Load(const std::function<void(int task)>& shown) {
 }
 
 void CtdControls::PressStoredRibbons() {
-  const int task = CurrentTask();
-  for (const CtdGroup group :
-       {CtdGroup::Grip, CtdGroup::Wrist, CtdGroup::RadialUlnar, CtdGroup::FlexionExtension}) {
-    PressRibbon(group, CtdCodeOf(group, task));
-  }
-}
-
-void CtdControls::ChooseHand(int index) {
-  CheckedSubscript(index, kHandOptions);
-  if (hand_ == index) return;
-  hand_ = index;
-  Module1.JobDirty = kTrue;
-  Module1.Hand = static_cast<Integer>(index);
+  const int task = CurrentTaskNumber();
+  for (const CtdGroupRow& row : kCtdGroups) PressRibbon(row.group, CtdCodeOf(row.group, task));
 }
 
 void CtdControls::PressRibbon(CtdGroup group, int index) {
-  CtdRibbonAt(kCtdGroups[static_cast<std::size_t>(group)].ribbons, index);
+  const CtdGroupRow& row = GroupRow(group);
+  CtdRibbonAt(row.ribbons, index);
   int& down = down_[static_cast<std::size_t>(group)];
   if (down == index) return;
   down = index;
   Module1.JobDirty = kTrue;
-  if (const auto task = TaskOnScreen()) StoreCode(group, *task, static_cast<Integer>(index));
+  StoreOnScreen(row.field, static_cast<Integer>(index));
 }
 
 void CtdControls::PressBodyPart(int index) {
@@ -237,14 +205,13 @@ void CtdControls::PressBodyPart(int index) {
 }
 
 void CtdControls::PressCategory(int slot, int index) {
-  const auto at = CheckedSubscript(slot, kCtdSlots.size());
-  CtdRibbonAt(kCtdSlots[at].categories, index);
-  if (category_[at] == index) return;
-  category_[at] = index;
+  const CtdSlot& row = SlotRow(slot);
+  CtdRibbonAt(row.categories, index);
+  int& category = category_[static_cast<std::size_t>(slot)];
+  if (category == index) return;
+  category = index;
   Module1.JobDirty = kTrue;
-  if (const auto task = TaskOnScreen()) {
-    StoreCtdCategory(slot, *task, static_cast<Integer>(index));
-  }
+  StoreOnScreen(row.field, static_cast<Integer>(index));
 }
 
 }  // namespace halvane

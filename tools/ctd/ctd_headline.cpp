@@ -1,9 +1,8 @@
 #include "tools/ctd/ctd_headline.h"
 
 #include "core/job_state.h"
-#include "tools/ctd/ctd_controls.h"
+#include "tools/ctd/ctd_input.h"
 #include "tools/ctd/ctd_report.h"
-#include "tools/ctd/ctd_score.h"
 
 namespace halvane {
 namespace {
@@ -15,12 +14,10 @@ constexpr std::array kColumns{
 constexpr double kFullBar = 20;
 
 bool Compute() {
-  CtdControls controls;
-  controls.Load();
-  // The form's report tab does nothing in a job that never had a task.
-  if (Module1.TaskCount.AsDouble() == 0) return false;
-  CTDcalculate();
-  CtdTestCaptions();
+  if (!CtdOpen()) return false;
+  // The report fails at a code without a caption, which the computation does not look at.
+  RichText page;
+  CtdComputeAndReport(page);
   return true;
 }
 

@@ -4,7 +4,9 @@
 
 #include "core/job_state.h"
 #include "core/task_list.h"
-#include "tools/ctd/ctd_controls.h"
+#include "tools/ctd/ctd_input.h"
+#include "tools/ctd/ctd_score.h"
+#include "tools/report_parts.h"
 
 namespace halvane {
 namespace {
@@ -20,24 +22,17 @@ constexpr Stops kRowStops{2500, 4300, 5750, 7200};
 constexpr Stops kFirstHeadingStops{2500, 2500, 2500, 2500};
 constexpr Stops kLaterHeadingStops{2500, 4300, 2500, 2500};
 
-void SetStops(RichText& RichTextBox1, const Stops& stops) {
-  RichTextBox1.SetTabCount(static_cast<int>(stops.size()));
-  for (std::size_t i = 0; i < stops.size(); ++i) {
-    RichTextBox1.SetTab(static_cast<int>(i), stops[i]);
-  }
-}
+constexpr const CtdBox& kHours = kCtdText2[0];
+constexpr const CtdBox& kCycleTime = kCtdText2[1];
 
 void WriteJob(RichText& RichTextBox1) {
-  RichTextBox1.Append(kNewLine, Module1.Hand == 0 ? "Hand: Right Side" : "Hand: Left Side");
+  RichTextBox1.Append(kNewLine, HandLine());
   RichTextBox1.Append(kNewLine);
-  RichTextBox1.Append(kNewLine, "Analyst: ", Module1.JobAnalyst.AsText());
-  RichTextBox1.Append(kNewLine, "Job Name: ", Module1.JobName.AsText());
-  RichTextBox1.Append(kNewLine, "Workstation ID: ", Module1.JobWorkstationId);
+  AppendNames(RichTextBox1);
   RichTextBox1.Append(kNewLine, kNewLine);
-  RichTextBox1.Append("Hours Worked per Shift: ",
-                      Format(Module1.JobDurationPerDay, Pattern::Whole));
-  RichTextBox1.Append(kNewLine,
-                      "Job Cycle Time (min): ", Format(Module1.JobCycleTime, Pattern::TwoDecimals));
+  RichTextBox1.Append(kHours.label, " ", Format(NumberIn(kHours.field), Pattern::Whole));
+  RichTextBox1.Append(kNewLine, kCycleTime.label, " ",
+                      Format(NumberIn(kCycleTime.field), Pattern::TwoDecimals));
   RichTextBox1.Append(kNewLine, kNewLine);
 }
 
@@ -47,8 +42,7 @@ void WriteEffortTable(RichText& RichTextBox1) {
   RichTextBox1.SetFont(kHeading);
   SetStops(RichTextBox1, kFirstHeadingStops);
   RichTextBox1.Append(kNewLine, "Task ID", kTab, "Task Dur. (min)", kTab, "Action (#/min)", kTab,
-                      "Force (%MVC)", kTab,
-                      Module1.Units == 1 ? "Hand Span (in)" : "Hand Span (cm)");
+                      "Force (%MVC)", kTab, kCtdSpanCaption, " (", CtdSpanUnit(), ")");
   RichTextBox1.SetFont(kPlain);
   for (const int task : ActiveTasks()) {
     SetStops(RichTextBox1, kRowStops);
@@ -61,9 +55,10 @@ void WriteEffortTable(RichText& RichTextBox1) {
   RichTextBox1.Append(kNewLine, kNewLine);
 }
 
+const CtdGroupRow& GroupRow(CtdGroup group) { return kCtdGroups[static_cast<std::size_t>(group)]; }
+
 std::string_view CodeCaption(CtdGroup group, int task) {
-  return CtdRibbonAt(kCtdGroups[static_cast<std::size_t>(group)].ribbons, CtdCodeOf(group, task))
-      .caption;
+  return CtdRibbonAt(GroupRow(group).ribbons, CtdCodeOf(group, task)).caption;
 }
 
 std::string_view CategoryCaption(int slot, int task) {
@@ -75,23 +70,23 @@ std::string_view CategoryCaption(int slot, int task) {
 void WriteGripTable(RichText& RichTextBox1) {
   RichTextBox1.SetFont(kHeading);
   SetStops(RichTextBox1, kLaterHeadingStops);
-  RichTextBox1.Append("Task ID  ", kTab, "Grip Type", kTab, "Wrist Position", kTab, "Rad/Uln Dev.",
-                      kTab, "Flex/Ext Dev.");
+  RichTextBox1.Append("Task ID  ", kTab, GroupRow(CtdGroup::Grip).caption, kTab,
+                      GroupRow(CtdGroup::Wrist).caption, kTab, "Rad/Uln Dev.", kTab,
+                      "Flex/Ext Dev.");
   RichTextBox1.SetFont(kPlain);
   for (const int task : ActiveTasks()) {
     SetStops(RichTextBox1, kRowStops);
     RichTextBox1.Append(kNewLine, ShownTaskName(task));
-    RichTextBox1.Append(kTab, CodeCaption(CtdGroup::Grip, task));
-    RichTextBox1.Append(kTab, CodeCaption(CtdGroup::Wrist, task));
-    RichTextBox1.Append(kTab, CodeCaption(CtdGroup::RadialUlnar, task));
-    RichTextBox1.Append(kTab, CodeCaption(CtdGroup::FlexionExtension, task));
+    for (const CtdGroupRow& row : kCtdGroups) {
+      RichTextBox1.Append(kTab, CodeCaption(row.group, task));
+    }
   }
   RichTextBox1.Append(kNewLine, kNewLine);
 }
 
 void WritePostureRow(RichText& RichTextBox1, int slot, int task) {
   const CtdSlot& row = kCtdSlots[static_cast<std::size_t>(slot)];
-  const bool neck = slot == kCtdSlotCount - 1;
+  const bool neck = slot == kCtdNeckSlot;
   RichTextBox1.Append(row.reportLabel);
   RichTextBox1.Append(kTab, CategoryCaption(slot, task));
   RichTextBox1.Append(
@@ -108,8 +103,8 @@ void WritePostureRow(RichText& RichTextBox1, int slot, int task) {
 void WritePostureTable(RichText& RichTextBox1) {
   RichTextBox1.SetFont(kHeading);
   SetStops(RichTextBox1, kLaterHeadingStops);
-  RichTextBox1.Append("Body Posture        ", kTab, "Angle   ", kTab, "Load Held", kTab, "Duration",
-                      kTab, "Max. Posture Score");
+  RichTextBox1.Append("Body Posture        ", kTab, "Angle   ", kTab, kCtdLoad.caption, kTab,
+                      "Duration", kTab, "Max. Posture Score");
   RichTextBox1.Append(kNewLine);
   RichTextBox1.SetFont(kPlain);
   SetStops(RichTextBox1, kRowStops);
@@ -156,16 +151,9 @@ void CTDprint(RichText& RichTextBox1) {
   RichTextBox1.SetLocked(true);
 }
 
-void CtdTestCaptions() {
-  for (const int task : ActiveTasks()) {
-    for (const CtdGroup group :
-         {CtdGroup::Grip, CtdGroup::Wrist, CtdGroup::RadialUlnar, CtdGroup::FlexionExtension}) {
-      CodeCaption(group, task);
-    }
-  }
-  for (int slot = 0; slot < kCtdSlotCount; ++slot) {
-    CategoryCaption(slot, Module1.CtdPostureFactorTask);
-  }
+void CtdComputeAndReport(RichText& RichTextBox1) {
+  CTDcalculate();
+  CTDprint(RichTextBox1);
 }
 
 }  // namespace halvane

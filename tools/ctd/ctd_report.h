@@ -9,7 +9,7 @@ namespace halvane {
 /// without task 1.
 void CTDprint(RichText& RichTextBox1);
 
-/// Looks up every caption that `CTDprint` would print, and throws what it would throw.
-void CtdTestCaptions();
+/// Computes the job and writes its report. Throws what the two throw.
+void CtdComputeAndReport(RichText& RichTextBox1);
 
 }  // namespace halvane

@@ -6,7 +6,7 @@
 #include "core/checked_math.h"
 #include "core/job_state.h"
 #include "core/units.h"
-#include "tools/ctd/ctd_controls.h"
+#include "tools/ctd/ctd_input.h"
 
 namespace halvane {
 namespace {
@@ -22,7 +22,6 @@ constexpr double kPoundsPerKilogram = 2.2;
 constexpr double kNoCapacityScore = 150;
 constexpr double kNeutralCapacity = 100;
 constexpr double kNeutralScore = 0.5;
-constexpr int kNeckSlot = 7;
 
 struct StrengthRow {
   double pronation, neutral, supination;  // power grip, by wrist position
@@ -78,7 +77,7 @@ double Power(double base, double exponent) {
 
 /// What a category does to the capacity of its joint.
 double CategoryMultiplier(int slot, double category) {
-  if (slot == kNeckSlot) return 1;
+  if (slot == kCtdNeckSlot) return 1;
   // Elbows take the number itself, so that their second category doubles the capacity; it is
   // wanted.
   if (slot == 4 || slot == 5) return category;
@@ -97,7 +96,7 @@ double NeckBase(double category) {
 }
 
 double LoadBase(int slot, int task, double category) {
-  if (slot == kNeckSlot) return NeckBase(category);
+  if (slot == kCtdNeckSlot) return NeckBase(category);
   return Finite((Module1.CtdLoadHeld.at(task, slot) * kPoundsPerKilogram + 5) / 50);
 }
 

@@ -13,11 +13,10 @@
 #include "core/program_title.h"
 #include "core/silently.h"
 #include "core/task_list.h"
-#include "core/units.h"
 #include "platform/platform.h"
 #include "shell/hand_frame.h"
+#include "tools/ctd/ctd_input.h"
 #include "tools/ctd/ctd_report.h"
-#include "tools/ctd/ctd_score.h"
 #include "tools/task_list/task_commands.h"
 #include "tools/task_list/task_list_frame.h"
 #include "tools/task_list/task_tree.h"
@@ -30,19 +29,14 @@
 namespace halvane {
 namespace {
 
-constexpr int kReportTab = 2;
-constexpr int kNeckSlot = 7;
 constexpr IdentificationNames kNames{
     {"Text1(8)", "Label1(10)"}, {"Text1(7)", "Label1(9)"}, {"Text1(4)", "Label1(8)"}, "SSOption1"};
 constexpr auto kPdaFile = "/me.pda";
 
-bool HasTasks() { return Module1.TaskCount.AsDouble() != 0; }
+std::string TextIn(const TextBox& box) { return box.text().toStdString(); }
 
-double NumberIn(const TextBox& box) { return TypedNumber(box.text().toStdString()); }
-QString NumberText(double number) { return QString::fromStdString(PlainText(number)); }
-QString NumberText(const TaggedField& field) { return QString::fromStdString(field.AsText()); }
-QString TwoDecimals(const TaggedField& field) {
-  return QString::fromStdString(Format(field, Pattern::TwoDecimals));
+void ShowNumber(TextBox& box, const NumberField& field, int task = 0) {
+  box.setText(QString::fromStdString(NumberIn(field, task).AsText()));
 }
 
 }  // namespace
@@ -53,18 +47,16 @@ FrmCTD::FrmCTD(QWidget* parent) : ToolForm(Tool::Ctd, "frmCTD", kNames, parent) 
   SSTab2_ = MakeTaskList();
   row->addWidget(SSTab2_, 1);
   SSTab1_ = new TabStrip("SSTab1", this);
-  SSTab1_->addTab(MakeEffortTab(), "Force Freq. Factors");
-  SSTab1_->addTab(MakePostureTab(), "Body Posture Factors");
-  SSTab1_->addTab(&RichTextBox1(), "Grand Score");
+  SSTab1_->addTab(MakeEffortTab(), ScreenText(kCtdTabs[0]));
+  SSTab1_->addTab(MakePostureTab(), ScreenText(kCtdTabs[1]));
+  SSTab1_->addTab(&RichTextBox1(), ScreenText(kCtdTabs[kCtdReportTab]));
   row->addWidget(SSTab1_, 4);
   body().addLayout(row);
   connect(SSTab1_, &TabStrip::tabClicked, this, &FrmCTD::SSTab1_Click);
 }
 
 QWidget* FrmCTD::MakeTaskList() {
-  static constexpr std::array<TaskButton, 3> kButtons{
-      {{"&Add", "Add Task"}, {"&Delete", "Delete Task"}, {"&Edit", "Edit Task"}}};
-  auto* frame = new TaskListFrame("SSTab2", kButtons, this);
+  auto* frame = new TaskListFrame("SSTab2", kCtdTaskButtons, this);
   TreeView1_ = &frame->tree();
   connect(frame, &TaskListFrame::buttonClicked, this, &FrmCTD::SSCommand1_Click);
   connect(TreeView1_, &TaskTree::taskSelected, this, &FrmCTD::TreeView1_Select);
@@ -108,43 +100,50 @@ void FrmCTD::MakeNumberFrames(QVBoxLayout& column) {
     column.addLayout(row);
     return row;
   };
-  const auto addFrame = [this, tab](QHBoxLayout& row, const QString& caption) -> QGridLayout& {
-    const auto [frame, grid] = MakeFrame(caption, tab);
+  const auto addFrame = [this, tab](QHBoxLayout& row, std::string_view caption) -> QGridLayout& {
+    const auto [frame, grid] = MakeFrame(ScreenText(caption), tab);
     AddInputFrame(*frame);
     row.addWidget(frame);
     return *grid;
   };
 
+  const auto addText1 = [this](QGridLayout& grid, int row, int index) {
+    const QString label = ScreenText(CtdBoxAt(kCtdText1, index).label);
+    AddText1(index, AddNumberAt(grid, row, 0, label, ElementName("Text1", index)));
+  };
+
   QHBoxLayout& durations = *addRow();
-  QGridLayout& job = addFrame(durations, "Job Duration");
-  AddText2(0, AddNumberAt(job, 0, 0, "Hours Worked per Shift:", "Text2(0)"));
-  AddText2(1, AddNumberAt(job, 1, 0, "Job Cycle Time (min):", "Text2(1)"));
-  AddText2(2, AddNumberAt(job, 1, 2, "No. Of Cycles:", "Text2(2)"));
-  QGridLayout& task = addFrame(durations, "Task Duration (per Cycle Time)");
-  AddText1(2, AddNumberAt(task, 0, 0, "Work Time (min):", "Text1(2)"));
-  AddText1(3, AddNumberAt(task, 1, 0, "Rest Time (min):", "Text1(3)"));
-  // Computed, not typed.
-  Text1_.at(3)->setReadOnly(true);
-  Text2_.at(2)->setReadOnly(true);
+  QGridLayout& job = addFrame(durations, kCtdJobCaption);
+  AddText2(job, 0, 0, 0);
+  AddText2(job, 1, 0, 1);
+  AddText2(job, 1, 2, 2);
+  QGridLayout& task = addFrame(durations, kCtdTaskCaption);
+  addText1(task, 0, 2);
+  addText1(task, 1, 3);
 
   QHBoxLayout& effort = *addRow();
-  QGridLayout& repetition = addFrame(effort, "Repetition");
-  AddText1(5, AddNumberAt(repetition, 0, 0, "No. Of Rep.", "Text1(5)"));
-  QGridLayout& strength = addFrame(effort, "Strength Data:");
-  Text5_ = AddNumberAt(strength, 0, 0, "MVC % Required:", "Text5");
+  addText1(addFrame(effort, kCtdRepetitionCaption), 0, 5);
+  QGridLayout& strength = addFrame(effort, kCtdStrengthCaption);
+  Text5_ = AddNumberAt(strength, 0, 0, ScreenText(kCtdText5.label), "Text5");
   connect(Text5_, &TextBox::keyReleased, this, &FrmCTD::Text5_KeyUp);
-  QGridLayout& span = addFrame(effort, "Hand Span");
-  AddText1(6, AddNumberWithUnit(span, "Text1(6)", "Hand Span", "", "Label2(1)"));
+  QGridLayout& span = addFrame(effort, kCtdSpanCaption);
+  AddText1(6, AddNumberWithUnit(span, "Text1(6)", ScreenText(CtdBoxAt(kCtdText1, 6).label), "",
+                                "Label2(1)"));
   Label2_ = span.parentWidget()->findChild<QLabel*>();
 }
 
 void FrmCTD::AddText1(int index, TextBox* box) {
   Text1_[index] = box;
+  box->setReadOnly(CtdBoxAt(kCtdText1, index).isComputed);
   connect(box, &TextBox::keyReleased, this, [this, index] { Text1_KeyUp(index); });
 }
 
-void FrmCTD::AddText2(int index, TextBox* box) {
+void FrmCTD::AddText2(QGridLayout& grid, int row, int column, int index) {
+  const CtdBox& number = CtdBoxAt(kCtdText2, index);
+  TextBox* box =
+      AddNumberAt(grid, row, column, ScreenText(number.label), ElementName("Text2", index));
   Text2_[index] = box;
+  box->setReadOnly(number.isComputed);
   connect(box, &TextBox::keyReleased, this, [this, index] { Text2_KeyUp(index); });
 }
 
@@ -196,7 +195,7 @@ QWidget* FrmCTD::MakePostureTab() {
   column->addStretch(1);
   grid->addWidget(parts, 0, 0, kCtdSlotCount + 1, 1);
   for (int slot = 0; slot < kCtdSlotCount; ++slot) grid->addWidget(MakeSlot(slot, tab), slot, 1);
-  choosePart_ = new QLabel("Choose a body part", tab);
+  choosePart_ = new QLabel(ScreenText(kCtdChoosePart), tab);
   choosePart_->setForegroundRole(QPalette::PlaceholderText);
   choosePart_->setAlignment(Qt::AlignCenter);
   grid->addWidget(choosePart_, kCtdSlotCount, 1);
@@ -225,19 +224,18 @@ QGroupBox* FrmCTD::MakeSlot(int slot, QWidget* parent) {
   numbers->setSpacing(kGap / 2);
   grid->addLayout(numbers, 0, static_cast<int>(row.categories.size()), 2, 1);
   const int stored = row.frameSlot;
-  const auto addNumber = [&, box = frame](const QString& caption, const QString& array,
-                                          const QString& unit) {
-    const auto [inner, innerGrid] = MakeFrame(caption, box);
+  const auto addNumber = [&, box = frame](const CtdSlotBox& number) {
+    const auto [inner, innerGrid] = MakeFrame(ScreenText(number.caption), box);
     numbers->addWidget(inner);
-    return AddNumberWithUnit(*innerGrid, ElementName(array, stored), caption, unit);
+    return AddNumberWithUnit(*innerGrid, ElementName(ScreenText(number.objectName), stored),
+                             inner->title(), ScreenText(number.unit));
   };
-  // The neck carries no load.
-  if (stored != kNeckSlot) {
-    TextBox* box = addNumber("Load Held", "Text3", "kg");
+  if (stored != kCtdNeckSlot) {
+    TextBox* box = addNumber(kCtdLoad);
     connect(box, &TextBox::keyReleased, this, [this, stored] { Text3_KeyUp(stored); });
     Text3_[stored] = box;
   }
-  TextBox* box = addNumber("Duration Posture Held", "Text4", "min");
+  TextBox* box = addNumber(kCtdDuration);
   connect(box, &TextBox::keyReleased, this, [this, stored] { Text4_KeyUp(stored); });
   Text4_[stored] = box;
   return frame;
@@ -253,12 +251,13 @@ void FrmCTD::loadFromJob() {
   const std::vector<int> tasks = ActiveTasks();
   for (const int task : tasks) TreeView1_->AddNode(task);
   if (!tasks.empty()) TreeView1_->SelectAt(static_cast<int>(tasks.size()) - 1);
-  Text2_.at(0)->setText(NumberText(Module1.JobDurationPerDay));
-  Text2_.at(1)->setText(NumberText(Module1.JobCycleTime));
+  for (const CtdBox& number : kCtdText2) {
+    if (!number.isComputed) ShowNumber(*Text2_.at(number.index), number.field);
+  }
   // Computed when a key is released in one of the two above, not before.
   Text2_.at(2)->clear();
   hand().ShowHand(controls_.hand());
-  Label2_->setText(Module1.Units == static_cast<Integer>(LengthUnit::English) ? "in" : "cm");
+  Label2_->setText(ScreenText(CtdSpanUnit()));
   {
     const QSignalBlocker blocker(SSTab1_);
     SSTab1_->setCurrentIndex(0);
@@ -269,24 +268,24 @@ void FrmCTD::loadFromJob() {
 void FrmCTD::TreeView1_Select() { CTDshowTask(); }
 
 void FrmCTD::TreeView1_AfterLabelEdit(int task, const QString& name) {
-  RenameTask(*TreeView1_, task, name);
+  TaskRenamed(task, name.toStdString());
 }
 
 void FrmCTD::SSCommand1_Click(int index) {
-  Module1.JobDirty = kTrue;
+  TaskButtonPressed();
   switch (index) {
-    case 0:
+    case kAddTask:
       AddTask(AddTaskRecord());
       CTDshowTask();
       break;
-    case 1:
+    case kDeleteTask:
       // Without a selected node there is no key to read a number from.
       if (TreeView1_->isEmpty()) throw RuntimeFailure(FailureKind::InvalidCall);
       if (!TakeTaskToDelete(*TreeView1_, *this)) break;
       ToolBarDelete();
       CTDshowTask();
       break;
-    case 2: TreeView1_->EditSelected(); break;
+    case kEditTask: TreeView1_->EditSelected(); break;
     default: break;
   }
   EnableAllFrame();
@@ -309,7 +308,7 @@ void FrmCTD::CTDshowTask() {
   Silently([this] {
     const int task = TreeView1_->SelectedTask();
     if (task == TaskTree::kNoTask) return;
-    Module1.CurrentTask = static_cast<Integer>(task);
+    TaskShown(task);
     controls_.PressStoredRibbons();
     FillTaskBoxes(task);
     if (controls_.bodyPart() != CtdControls::kNoBodyPart) SSRibbon3_Click(controls_.bodyPart());
@@ -318,11 +317,8 @@ void FrmCTD::CTDshowTask() {
 }
 
 void FrmCTD::FillTaskBoxes(int task) {
-  Text1_.at(2)->setText(NumberText(Module1.CtdWorkTime.at(task)));
-  Text1_.at(3)->setText(NumberText(Module1.CtdRestTime.at(task)));
-  Text1_.at(5)->setText(NumberText(Module1.CtdRepetitions.at(task)));
-  Text1_.at(6)->setText(NumberText(Module1.CtdHandSpan.at(task)));
-  Text5_->setText(NumberText(Module1.CtdForceMvc.at(task)));
+  for (const CtdBox& number : kCtdText1) ShowNumber(*Text1_.at(number.index), number.field, task);
+  ShowNumber(*Text5_, kCtdText5.field, task);
 }
 
 void FrmCTD::ShowRibbons() {
@@ -353,15 +349,15 @@ void FrmCTD::ShowPostureFrames(bool shown) {
 
 void FrmCTD::SSTab1_Click(int tab) {
   TreeView1_->FinishEdit();
-  const bool isReport = tab == kReportTab;
-  if (isReport && !HasTasks()) return;
+  const bool isReport = tab == kCtdReportTab;
+  if (isReport && !CtdEverHadTasks()) return;
   SSTab2_->setVisible(!isReport);
   if (isReport) {
     mnuEdit().setEnabled(true);
     ShowReport();
   } else {
     // Here and not with the first task, which is added while a tab is showing.
-    ShowBodyParts(HasTasks());
+    ShowBodyParts(CtdEverHadTasks());
   }
   // The part stays remembered and comes back with the next task that is shown.
   ShowPostureFrames(false);
@@ -371,42 +367,19 @@ void FrmCTD::SSTab1_Click(int tab) {
 void FrmCTD::SSOption1_Click(int index) { controls_.ChooseHand(index); }
 
 void FrmCTD::Text1_KeyUp(int index) {
-  Module1.JobDirty = kTrue;
-  const double number = NumberIn(*Text1_.at(index));
-  if (const std::optional<int> task = TaskOnScreen()) {
-    switch (index) {
-      case 2: Module1.CtdWorkTime.at(*task) = number; break;
-      case 5: Module1.CtdRepetitions.at(*task) = number; break;
-      case 6: Module1.CtdHandSpan.at(*task) = number; break;
-      default: break;
-    }
-  }
+  CtdTyped(CtdBoxAt(kCtdText1, index), TextIn(*Text1_.at(index)));
   ShowRestTime();
 }
 
-void FrmCTD::ShowRestTime() {
-  const std::optional<int> task = TaskOnScreen();
-  if (task) ComputeCtdRestTime(*task);
-  Text1_.at(3)->setText(TwoDecimals(task ? Module1.CtdRestTime.at(*task) : Integer{0}));
-}
+void FrmCTD::ShowRestTime() { Text1_.at(3)->setText(QString::fromStdString(CtdRestTimeText())); }
 
 void FrmCTD::Text2_KeyUp(int index) {
-  Module1.JobDirty = kTrue;
-  const double number = NumberIn(*Text2_.at(index));
-  if (index == 0) Module1.JobDurationPerDay = number;
-  if (index == 1) Module1.JobCycleTime = number;
-  const bool counted = Module1.JobCycleTime > 0;
-  const double cycles = ComputeCtdCyclesPerShift();
-  Text2_.at(2)->setText(counted ? TwoDecimals(cycles) : "0");
+  CtdTyped(CtdBoxAt(kCtdText2, index), TextIn(*Text2_.at(index)));
+  Text2_.at(2)->setText(QString::fromStdString(CtdCyclesText()));
   ShowRestTime();
 }
 
-void FrmCTD::Text5_KeyUp() {
-  Module1.JobDirty = kTrue;
-  if (const std::optional<int> task = TaskOnScreen()) {
-    Module1.CtdForceMvc.at(*task) = NumberIn(*Text5_);
-  }
-}
+void FrmCTD::Text5_KeyUp() { CtdTyped(kCtdText5, TextIn(*Text5_)); }
 
 void FrmCTD::SSRibbon_Click(CtdGroup group, int index) { controls_.PressRibbon(group, index); }
 
@@ -414,43 +387,31 @@ void FrmCTD::SSRibbon3_Click(int part) {
   controls_.PressBodyPart(part);
   ShowPostureFrames(true);
   ShowRibbons();
-  const std::optional<int> task = TaskOnScreen();
-  const auto show = [task](TextBox& box, const auto& numbers, int slot) {
-    box.setText(task ? NumberText(numbers.at(*task, slot)) : QString());
+  const auto show = [](const std::map<int, TextBox*>& boxes, const CtdSlotBox& number, int slot) {
+    boxes.at(slot)->setText(QString::fromStdString(CtdSlotText(number, slot)));
   };
   for (const int slot : kCtdBodyParts[static_cast<std::size_t>(part)].shownSlots) {
-    if (slot != kNeckSlot) show(*Text3_.at(slot), Module1.CtdLoadHeld, slot);
-    show(*Text4_.at(slot), Module1.CtdPostureDuration, slot);
+    if (slot != kCtdNeckSlot) show(Text3_, kCtdLoad, slot);
+    show(Text4_, kCtdDuration, slot);
   }
 }
 
 void FrmCTD::SSctd_Click(int slot, int index) { controls_.PressCategory(slot, index); }
 
-void FrmCTD::Text3_KeyUp(int slot) {
-  Module1.JobDirty = kTrue;
-  const std::optional<int> task = TaskOnScreen();
-  if (task) Module1.CtdLoadHeld.at(*task, slot) = NumberIn(*Text3_.at(slot));
-}
+void FrmCTD::Text3_KeyUp(int slot) { CtdTyped(kCtdLoad, slot, TextIn(*Text3_.at(slot))); }
 
-void FrmCTD::Text4_KeyUp(int slot) {
-  Module1.JobDirty = kTrue;
-  const std::optional<int> task = TaskOnScreen();
-  if (task) Module1.CtdPostureDuration.at(*task, slot) = NumberIn(*Text4_.at(slot));
-}
+void FrmCTD::Text4_KeyUp(int slot) { CtdTyped(kCtdDuration, slot, TextIn(*Text4_.at(slot))); }
 
 void FrmCTD::CTDcopyPdaFile() {
   Platform& platform = ThePlatform();
   const QString source = (platform.ProgramFolder() + kPdaFile).trimmed();
   const QString target = (platform.DataFolder() + kPdaFile).trimmed();
   const bool copied = platform.CopyFile(source, target);
-  platform.ShowMessage(this, kProgramTitle, copied ? "File copied!" : "Error. File not moved!",
+  platform.ShowMessage(this, kProgramTitle, ScreenText(copied ? kCtdFileCopied : kCtdFileNotCopied),
                        {Answer::Ok});
 }
 
-void FrmCTD::writeReport(RichText& RichTextBox1) {
-  CTDcalculate();
-  CTDprint(RichTextBox1);
-}
+void FrmCTD::writeReport(RichText& RichTextBox1) { CtdComputeAndReport(RichTextBox1); }
 
 void FrmCTD::printReport(RichText& RichTextBox1) { CTDprint(RichTextBox1); }
 

@@ -67,7 +67,7 @@ class FrmCTD : public ToolForm {
                                  const CtdRibbon& ribbon);
   void AddInputFrame(QGroupBox& frame);
   void AddText1(int index, TextBox* box);
-  void AddText2(int index, TextBox* box);
+  void AddText2(QGridLayout& grid, int row, int column, int index);
   void FillTaskBoxes(int task);
   void ShowRibbons();
   void ShowBodyParts(bool shown);

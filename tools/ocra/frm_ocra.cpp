@@ -14,7 +14,6 @@
 #include "core/task_list.h"
 #include "shell/hand_frame.h"
 #include "tools/ocra/ocra_report.h"
-#include "tools/ocra/ocra_score.h"
 #include "tools/task_list/task_commands.h"
 #include "tools/task_list/task_list_frame.h"
 #include "tools/task_list/task_tree.h"
@@ -28,19 +27,22 @@
 namespace halvane {
 namespace {
 
-constexpr int kReportTab = 2;
 constexpr IdentificationNames kNames{
     {"Text3(0)", "Label1(11)"}, {"Text3(1)", "Label1(10)"}, {"Text3(2)", "Label1(9)"}, "SSOption1"};
-constexpr int kDurationBox = 2;
-constexpr int kFrequencyBox = 5;
 
-double NumberIn(const TextBox& box) { return TypedNumber(box.text().toStdString()); }
+QStringList ScreenTexts(std::span<const std::string_view> texts) {
+  QStringList list;
+  for (const std::string_view text : texts) list.append(ScreenText(text));
+  return list;
+}
 
-constexpr int kSliderEnd = 10;
+QString NumberText(const NumberField& field, int task = 0) {
+  return QString::fromStdString(NumberIn(field, task).AsText());
+}
 
 QSlider* MakeSlider(const QString& name, int pageStep, QWidget* parent) {
   auto* slider = new QSlider(parent);
-  SetUpSlider(*slider, name, kSliderEnd, pageStep);
+  SetUpSlider(*slider, name, kOcraSliderEnd, pageStep);
   return slider;
 }
 
@@ -49,9 +51,9 @@ QSlider* MakeSlider(const QString& name, int pageStep, QWidget* parent) {
 FrmOCRA::FrmOCRA(QWidget* parent) : ToolForm(Tool::Ocra, "frmOCRA", kNames, parent) {
   body().addWidget(MakeIdentification(this));
   SSTab1_ = new TabStrip("SSTab1", this);
-  SSTab1_->addTab(MakeTaskTab(), "Repetitive Task Factors");
-  SSTab1_->addTab(MakePostureTab(), "Arm Posture Factors");
-  SSTab1_->addTab(&RichTextBox1(), "Estimated Risk");
+  SSTab1_->addTab(MakeTaskTab(), ScreenText(kOcraTabs[0]));
+  SSTab1_->addTab(MakePostureTab(), ScreenText(kOcraTabs[1]));
+  SSTab1_->addTab(&RichTextBox1(), ScreenText(kOcraTabs[kOcraReportTab]));
   body().addWidget(SSTab1_, 1);
   connect(SSTab1_, &TabStrip::tabClicked, this, &FrmOCRA::SSTab1_Click);
 }
@@ -71,29 +73,25 @@ QWidget* FrmOCRA::MakeTaskTab() {
 }
 
 QGroupBox* FrmOCRA::MakeJobFrame(QWidget* parent) {
-  const auto [panel, grid] = MakeFrame("Job Information", parent);
+  const auto [panel, grid] = MakeFrame(ScreenText(kOcraJobCaption), parent);
   panel->setObjectName("SSPanel1");
   HandFrame* side = MakeHand(panel);
   side->setObjectName("SSFrame1(5)");
   grid->addWidget(side, 0, 0);
 
-  const auto [cycle, cycleGrid] = MakeFrame("Job Cycle Time", panel);
-  cycle->setObjectName("SSFrame1(3)");
-  cycleTime_ = AddNumberWithUnit(*cycleGrid, "Text2(1)", "Job Cycle Time", "min", "Label1(5)");
+  const NumberFrame cycle = MakeNumberFrame(kOcraCycleTime, "Text2", panel);
+  cycleTime_ = cycle.number;
   connect(cycleTime_, &TextBox::keyReleased, this, &FrmOCRA::Text2_KeyUp);
-  grid->addWidget(cycle, 0, 1);
+  grid->addWidget(cycle.frame, 0, 1);
 
-  const auto [recovery, recoveryGrid] =
-      MakeFrame("Number Of Hours Without Adequate Recovery", panel);
+  const auto [recovery, recoveryGrid] = MakeFrame(ScreenText(kOcraHoursCaption), panel);
   recovery->setObjectName("SSFrame1(0)");
   Slider2_ = MakeSlider("Slider2", 5, recovery);
   Slider2_->setAccessibleName(recovery->title());
   hours_ = MakeReadout("10", recovery);
   recoveryGrid->addWidget(Slider2_, 0, 0);
-  recoveryGrid->addWidget(
-      new TickLabels(*Slider2_, {"0", "1", "2", "3", "4", "5", "6", "7", "8", "9", "10"}, {},
-                     recovery),
-      1, 0);
+  recoveryGrid->addWidget(new TickLabels(*Slider2_, ScreenTexts(kOcraHourMarks), {}, recovery), 1,
+                          0);
   recoveryGrid->addWidget(hours_, 0, 1);
   connect(Slider2_, &QSlider::valueChanged, this, &FrmOCRA::Slider2_Scroll);
   grid->addWidget(recovery, 0, 2);
@@ -101,10 +99,16 @@ QGroupBox* FrmOCRA::MakeJobFrame(QWidget* parent) {
   return panel;
 }
 
+FrmOCRA::NumberFrame FrmOCRA::MakeNumberFrame(const OcraBox& row, const QString& array,
+                                              QWidget* parent) {
+  const auto [frame, grid] = MakeFrame(ScreenText(row.caption), parent);
+  frame->setObjectName(ScreenText(row.frameName));
+  return {frame, AddNumberWithUnit(*grid, ElementName(array, row.index), frame->title().trimmed(),
+                                   ScreenText(row.unit), ScreenText(row.unitName))};
+}
+
 QWidget* FrmOCRA::MakeTaskList(QWidget* parent) {
-  static constexpr std::array<TaskButton, 3> kButtons{
-      {{"&Add Task", ""}, {"&Delete Task", ""}, {"&Edit Task", ""}}};
-  auto* frame = new TaskListFrame("SSFrame2(0)", kButtons, parent);
+  auto* frame = new TaskListFrame("SSFrame2(0)", kOcraTaskButtons, parent);
   TreeView1_ = &frame->tree();
   connect(frame, &TaskListFrame::buttonClicked, this, &FrmOCRA::SSCommand1_Click);
   connect(TreeView1_, &TaskTree::taskSelected, this, &FrmOCRA::TreeView1_Select);
@@ -119,31 +123,23 @@ QWidget* FrmOCRA::MakeTaskInputs(QWidget* parent) {
   grid->setContentsMargins(0, 0, 0, 0);
   grid->setSpacing(kGap);
 
-  // The blank behind the caption is wanted.
-  const auto [duration, durationGrid] = MakeFrame("Task Duration ", inputs);
-  duration->setObjectName("SSFrame1(2)");
-  duration_ = AddNumberWithUnit(*durationGrid, ElementName("Text1", kDurationBox), "Task Duration",
-                                "total minutes per shift", "Label1(2)");
-  connect(duration_, &TextBox::keyReleased, this, [this] { Text1_KeyUp(kDurationBox); });
-  grid->addWidget(duration, 0, 0);
-
-  const auto [frequency, frequencyGrid] = MakeFrame("Action Frequency", inputs);
-  frequency->setObjectName("SSFrame1(1)");
-  frequency_ = AddNumberWithUnit(*frequencyGrid, ElementName("Text1", kFrequencyBox),
-                                 "Action Frequency", "no. of action per min", "Label2(5)");
-  connect(frequency_, &TextBox::keyReleased, this, [this] { Text1_KeyUp(kFrequencyBox); });
-  grid->addWidget(frequency, 0, 1);
-
+  int column = 0;
+  for (const OcraBox& row : kOcraTaskBoxes) {
+    const auto [frame, number] = MakeNumberFrame(row, "Text1", inputs);
+    Text1_[row.index] = number;
+    connect(number, &TextBox::keyReleased, this, [this, index = row.index] { Text1_KeyUp(index); });
+    grid->addWidget(frame, 0, column++);
+    taskFrames_.push_back(frame);
+  }
   QGroupBox* force = MakeForceFrame(inputs);
   grid->addWidget(force, 1, 0, 1, 2);
   grid->setRowStretch(2, 1);
-  taskFrames_ = {duration, frequency, force};
+  taskFrames_.push_back(force);
   return inputs;
 }
 
 QGroupBox* FrmOCRA::MakeForceFrame(QWidget* parent) {
-  const auto [frame, grid] =
-      MakeFrame("Rate Each Action According To The Following Force Level", parent);
+  const auto [frame, grid] = MakeFrame(ScreenText(kOcraForceCaption), parent);
   frame->setObjectName("SSFrame1(4)");
   Slider1_ = MakeSlider("Slider1", 2, frame);
   Slider1_->setAccessibleName(frame->title());
@@ -185,7 +181,7 @@ QGroupBox* FrmOCRA::MakeRegionFrame(const OcraFrame& region, QWidget* parent) {
       grid->addWidget(panel, row++, 0);
     }
   }
-  const auto [ticks, tickGrid] = MakeFrame("Lack of variation:", frame);
+  const auto [ticks, tickGrid] = MakeFrame(ScreenText(kOcraTicksCaption), frame);
   for (const int index : region.ticks) {
     const auto at = static_cast<std::size_t>(index);
     SSCheck1_[at] = AddWrappedCheck(*tickGrid, ElementName("SSCheck1", index),
@@ -222,16 +218,15 @@ QWidget* FrmOCRA::MakeList(int list, QWidget* parent) {
 void FrmOCRA::loadFromJob() {
   ShowTaskFrames(true);
   EnableAllFrame();
-  cycleTime_->setText(QString::fromStdString(PlainText(Module1.JobCycleTime)));
+  cycleTime_->setText(NumberText(kOcraCycleTime.field));
   {
     const QSignalBlocker blocker(SSTab1_);
     SSTab1_->setCurrentIndex(0);
   }
   // A job without tasks fills none of these, and the form may have shown another job before.
-  duration_->clear();
-  frequency_->clear();
+  for (const auto& [index, box] : Text1_) box->clear();
   ShowRating(0);
-  Slider1_->setToolTip(" ");
+  Slider1_->setToolTip(ScreenText(kOcraForceTip));
   controls_.Reset();
   controls_.Load();
   TreeView1_->Clear();
@@ -241,7 +236,7 @@ void FrmOCRA::loadFromJob() {
     TreeView1_->SelectAt(0);
     OcraShowTask();
   }
-  SSTab1_->setTabEnabled(kReportTab, true);
+  SSTab1_->setTabEnabled(kOcraReportTab, true);
 }
 
 void FrmOCRA::ShowControls() {
@@ -261,48 +256,44 @@ void FrmOCRA::ShowControls() {
 
 void FrmOCRA::SSTab1_Click(int tab) {
   TreeView1_->FinishEdit();
-  mnuEdit().setEnabled(tab == kReportTab);
-  if (tab == kReportTab) ShowReport();
+  mnuEdit().setEnabled(tab == kOcraReportTab);
+  if (tab == kOcraReportTab) ShowReport();
 }
 
 void FrmOCRA::SSOption1_Click(int index) { controls_.ChooseHand(index); }
 
-void FrmOCRA::Text2_KeyUp() {
-  Module1.JobDirty = kTrue;
-  Module1.JobCycleTime = NumberIn(*cycleTime_);
-}
+void FrmOCRA::Text2_KeyUp() { NumberTyped(kOcraCycleTime.field, cycleTime_->text().toStdString()); }
 
 void FrmOCRA::Slider2_Scroll(int hours) {
-  Module1.JobDirty = kTrue;
-  Module1.OcraRecoveryHours = static_cast<Integer>(hours);
+  OcraHoursMoved(hours);
   ShowHours(hours);
 }
 
 void FrmOCRA::TreeView1_Select() { OcraShowTask(); }
 
 void FrmOCRA::TreeView1_Click() {
-  if (Module1.TaskCount.AsDouble() > 0) OcraShowTask();
+  if (OcraEverHadTasks()) OcraShowTask();
 }
 
 void FrmOCRA::TreeView1_AfterLabelEdit(int task, const QString& name) {
-  RenameTask(*TreeView1_, task, name);
+  TaskRenamed(task, name.toStdString());
 }
 
 void FrmOCRA::SSCommand1_Click(int index) {
-  Module1.JobDirty = kTrue;
+  TaskButtonPressed();
   switch (index) {
-    case 0:
+    case kAddTask:
       // Before the task is there: what is being typed belongs to the one before, if any.
       TreeView1_->setFocus();
       AddTask(AddTaskRecord());
       OcraShowTask();
       break;
-    case 1:
+    case kDeleteTask:
       if (!TakeTaskToDelete(*TreeView1_, *this)) break;
       ToolBarDelete();
       OcraShowTask();
       break;
-    case 2: TreeView1_->EditSelected(); break;
+    case kEditTask: TreeView1_->EditSelected(); break;
     default: break;
   }
   EnableAllFrame();
@@ -311,17 +302,16 @@ void FrmOCRA::SSCommand1_Click(int index) {
 void FrmOCRA::AddTask(int task) {
   TreeView1_->AddNode(task);
   TreeView1_->SelectAt(TreeView1_->topLevelItemCount() - 1);
-  SSTab1_->setTabEnabled(kReportTab, true);
+  SSTab1_->setTabEnabled(kOcraReportTab, true);
 }
 
 void FrmOCRA::ToolBarDelete() {
   DeleteCurrentTask(*TreeView1_, *this);
-  if (TreeView1_->isEmpty()) SSTab1_->setTabEnabled(kReportTab, false);
+  if (TreeView1_->isEmpty()) SSTab1_->setTabEnabled(kOcraReportTab, false);
 }
 
 void FrmOCRA::EnableAllFrame() {
-  // A job that never had a task leaves the frames as they were.
-  if (Module1.TaskCount.AsDouble() > 0) ShowTaskFrames(AnyActiveTask());
+  if (const std::optional<bool> shown = OcraShowsTaskFrames()) ShowTaskFrames(*shown);
 }
 
 void FrmOCRA::ShowTaskFrames(bool shown) {
@@ -332,9 +322,10 @@ void FrmOCRA::OcraShowTask() {
   const int task = TreeView1_->SelectedTask();
   ShowTaskFrames(true);
   if (task == TaskTree::kNoTask) return;
-  Module1.CurrentTask = static_cast<Integer>(task);
-  duration_->setText(QString::fromStdString(PlainText(Module1.OcraTaskDuration.at(task))));
-  frequency_->setText(QString::fromStdString(Module1.OcraActionFrequency.at(task).AsText()));
+  TaskShown(task);
+  for (const OcraBox& row : kOcraTaskBoxes) {
+    Text1_.at(row.index)->setText(NumberText(row.field, task));
+  }
   ShowRating(OcraSliderAt(Module1.OcraForceRating.at(task)));
 }
 
@@ -343,23 +334,15 @@ void FrmOCRA::ShowHours(int hours) { hours_->setText(QString::fromStdString(Plai
 void FrmOCRA::ShowRating(int sliderValue) {
   const QSignalBlocker blocker(Slider1_);
   Slider1_->setValue(sliderValue);
-  rating_->setText(QString::fromStdString(Format(sliderValue / 2.0, Pattern::OneDecimal)));
+  rating_->setText(QString::fromStdString(OcraRatingText(sliderValue)));
 }
 
 void FrmOCRA::Text1_KeyUp(int index) {
-  Module1.JobDirty = kTrue;
-  const std::optional<int> task = TaskOnScreen();
-  if (!task) return;
-  if (index == kDurationBox) Module1.OcraTaskDuration.at(*task) = NumberIn(*duration_);
-  if (index == kFrequencyBox) Module1.OcraActionFrequency.at(*task) = NumberIn(*frequency_);
+  NumberTyped(OcraTaskBoxAt(index).field, Text1_.at(index)->text().toStdString());
 }
 
 void FrmOCRA::Slider1_Scroll(int value) {
-  Module1.JobDirty = kTrue;
-  const std::optional<int> task = TaskOnScreen();
-  if (task) Module1.OcraForceRating.at(*task) = OcraRatingAt(value);
-  // Without a task there is nothing to rate.
-  ShowRating(task ? value : 0);
+  ShowRating(OcraForceMoved(value));
   Slider1_->setToolTip(rating_->text());
 }
 
@@ -370,10 +353,6 @@ void FrmOCRA::Combo1_Click(int list, int answer) {
 
 void FrmOCRA::SSCheck1_Click(int index, bool ticked) { controls_.SetTick(index, ticked); }
 
-void FrmOCRA::writeReport(RichText& RichTextBox1) {
-  OcraScoreLists();
-  OcraCalculate();
-  OcraReport(RichTextBox1);
-}
+void FrmOCRA::writeReport(RichText& RichTextBox1) { OcraComputeAndReport(RichTextBox1); }
 
 }  // namespace halvane

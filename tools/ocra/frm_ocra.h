@@ -1,6 +1,8 @@
 #pragma once
 
 #include <array>
+#include <map>
+#include <vector>
 
 #include "shell/tool_form.h"
 #include "tools/ocra/ocra_controls.h"
@@ -50,8 +52,15 @@ class FrmOCRA : public ToolForm {
   void handChosen(int index) override { SSOption1_Click(index); }
 
  private:
+  /// A frame and the box for a number in it.
+  struct NumberFrame {
+    QGroupBox* frame;
+    TextBox* number;
+  };
+
   QWidget* MakeTaskTab();
   QGroupBox* MakeJobFrame(QWidget* parent);
+  static NumberFrame MakeNumberFrame(const OcraBox& row, const QString& array, QWidget* parent);
   QWidget* MakeTaskList(QWidget* parent);
   QWidget* MakeTaskInputs(QWidget* parent);
   QGroupBox* MakeForceFrame(QWidget* parent);
@@ -71,9 +80,8 @@ class FrmOCRA : public ToolForm {
   QLabel* rating_ = nullptr;
   QLabel* hours_ = nullptr;
   TextBox* cycleTime_ = nullptr;
-  TextBox* duration_ = nullptr;
-  TextBox* frequency_ = nullptr;
-  std::array<QGroupBox*, 3> taskFrames_{};
+  std::map<int, TextBox*> Text1_;  ///< by index
+  std::vector<QGroupBox*> taskFrames_;
   std::array<QComboBox*, kOcraListCount> Combo1_{};
   std::array<QCheckBox*, kOcraTickCount> SSCheck1_{};
 };

@@ -10,12 +10,14 @@
 namespace halvane {
 namespace {
 
-constexpr int kHandOptions = 2;
-constexpr int kSliderEnd = 10;
-
 constexpr auto kNo = kOcraNoPair;
-using Field = OcraScoreField;
 using Region = OcraRegion;
+
+constexpr TaggedField JobState::*kGrip = nullptr;
+constexpr auto kElbowRotation = &JobState::OcraElbowRotation;
+constexpr auto kElbowFlexion = &JobState::OcraElbowFlexion;
+constexpr auto kWristDeviation = &JobState::OcraWristDeviation;
+constexpr auto kWristFlexion = &JobState::OcraWristFlexion;
 
 constexpr std::array kElbowLists{6, 7, 8, 9};
 constexpr std::array kWristLists{10, 11, 12, 13};
@@ -24,31 +26,8 @@ constexpr std::array kElbowTicks{4};
 constexpr std::array kWristTicks{0, 1};
 constexpr std::array kGripTicks{2, 3};
 
-/// The number in the field of a tick box.
-double TickField(int index) {
-  switch (index) {
-    case 0: return Module1.OcraWristActions.AsDouble();
-    case 1: return Module1.OcraWristHold;
-    case 2: return Module1.OcraSameFingers.AsDouble();
-    case 3: return Module1.OcraHoldObject;
-    case 4: return Module1.OcraElbowGesture;
-    default: throw RuntimeFailure(FailureKind::SubscriptOutOfRange);
-  }
-}
-
-void StoreTick(int index, Integer value) {
-  switch (index) {
-    case 0: Module1.OcraWristActions = value; break;
-    case 1: Module1.OcraWristHold = value; break;
-    case 2: Module1.OcraSameFingers = value; break;
-    case 3: Module1.OcraHoldObject = value; break;
-    case 4: Module1.OcraElbowGesture = value; break;
-    default: throw RuntimeFailure(FailureKind::SubscriptOutOfRange);
-  }
-}
-
 int NearestPosition(double value) {
-  return static_cast<int>(std::nearbyint(std::clamp(value, 0.0, double{kSliderEnd})));
+  return static_cast<int>(std::nearbyint(std::clamp(value, 0.0, double{kOcraSliderEnd})));
 }
 
 }  // namespace
@@ -58,35 +37,42 @@ int NearestPosition(double value) {
 // clang-format off
 constexpr std::array<OcraList, kOcraListCount> kOcraLists{{
     // region,      caption,                          scores by answer,  pair, field
-    {Region::Grip,  "Tight Grip (1.5 cm or 3/5 in)", {2, 4,  6, 0}, kNo, Field::Grip},            //  0
-    {Region::Grip,  "Pinch Grip",                    {3, 6,  9, 0}, kNo, Field::Grip},            //  1
-    {Region::Grip,  "Palmar Grip",                   {4, 8, 12, 0}, kNo, Field::Grip},            //  2
-    {Region::Grip,  "Hook Grip",                     {4, 8, 12, 0}, kNo, Field::Grip},            //  3
-    {Region::Grip,  "Keying",                        {4, 8, 12, 0}, kNo, Field::Grip},            //  4
-    {Region::Grip,  "Wide Grip",                     {1, 2,  3, 0}, kNo, Field::Grip},            //  5
-    {Region::Elbow, "Supination (>60 deg)",          {4, 8, 12, 0},   7, Field::ElbowRotation},   //  6
-    {Region::Elbow, "Pronation (>60 deg)",           {2, 4,  6, 0},   6, Field::ElbowRotation},   //  7
-    {Region::Elbow, "Flexion (>60 deg)",             {2, 4,  6, 0},   9, Field::ElbowFlexion},    //  8
-    {Region::Elbow, "Extension (>60 deg)",           {2, 4,  6, 0},   8, Field::ElbowFlexion},    //  9
-    {Region::Wrist, "Ulnar Deviation (>15 deg)",     {2, 4,  6, 0},  11, Field::WristDeviation},  // 10
-    {Region::Wrist, "Radial Deviation (>15 deg)",    {2, 4,  6, 0},  10, Field::WristDeviation},  // 11
-    {Region::Wrist, "Flexion (>45 deg)",             {2, 4,  6, 0},  13, Field::WristFlexion},    // 12
-    {Region::Wrist, "Extension (>45 deg)",           {4, 8, 12, 0},  12, Field::WristFlexion},    // 13
+    {Region::Grip,  "Tight Grip (1.5 cm or 3/5 in)", {2, 4,  6, 0}, kNo, kGrip},            //  0
+    {Region::Grip,  "Pinch Grip",                    {3, 6,  9, 0}, kNo, kGrip},            //  1
+    {Region::Grip,  "Palmar Grip",                   {4, 8, 12, 0}, kNo, kGrip},            //  2
+    {Region::Grip,  "Hook Grip",                     {4, 8, 12, 0}, kNo, kGrip},            //  3
+    {Region::Grip,  "Keying",                        {4, 8, 12, 0}, kNo, kGrip},            //  4
+    {Region::Grip,  "Wide Grip",                     {1, 2,  3, 0}, kNo, kGrip},            //  5
+    {Region::Elbow, "Supination (>60 deg)",          {4, 8, 12, 0},   7, kElbowRotation},   //  6
+    {Region::Elbow, "Pronation (>60 deg)",           {2, 4,  6, 0},   6, kElbowRotation},   //  7
+    {Region::Elbow, "Flexion (>60 deg)",             {2, 4,  6, 0},   9, kElbowFlexion},    //  8
+    {Region::Elbow, "Extension (>60 deg)",           {2, 4,  6, 0},   8, kElbowFlexion},    //  9
+    {Region::Wrist, "Ulnar Deviation (>15 deg)",     {2, 4,  6, 0},  11, kWristDeviation},  // 10
+    {Region::Wrist, "Radial Deviation (>15 deg)",    {2, 4,  6, 0},  10, kWristDeviation},  // 11
+    {Region::Wrist, "Flexion (>45 deg)",             {2, 4,  6, 0},  13, kWristFlexion},    // 12
+    {Region::Wrist, "Extension (>45 deg)",           {4, 8, 12, 0},  12, kWristFlexion},    // 13
 }};
 
 // "cyle" is spelled so on purpose.
 constexpr std::array<OcraTick, kOcraTickCount> kOcraTicks{{
-    {Region::Wrist, "Performs work actions of the same type involving the wrist for at least 50% of the cyle time"},
-    {Region::Wrist, "Keep the wrist flex/extend (>45 deg) or deviated laterally for at least 50% of cyle/task time"},
-    {Region::Grip,  "Performs work actions involving the same fingers for at least 50% of the cyle time"},
-    {Region::Grip,  "Hold an object in a pinch, palmar, or hook grip for at least 50% of the cyle time"},
-    {Region::Elbow, "Performs work gestures of the same type involving the elbow for at least 50% of the cyle"},
+    // region,      caption,
+    //     field
+    {Region::Wrist, "Performs work actions of the same type involving the wrist for at least 50% of the cyle time",
+         &JobState::OcraWristActions},
+    {Region::Wrist, "Keep the wrist flex/extend (>45 deg) or deviated laterally for at least 50% of cyle/task time",
+         &JobState::OcraWristHold},
+    {Region::Grip,  "Performs work actions involving the same fingers for at least 50% of the cyle time",
+         &JobState::OcraSameFingers},
+    {Region::Grip,  "Hold an object in a pinch, palmar, or hook grip for at least 50% of the cyle time",
+         &JobState::OcraHoldObject},
+    {Region::Elbow, "Performs work gestures of the same type involving the elbow for at least 50% of the cyle",
+         &JobState::OcraElbowGesture},
 }};
 
 constexpr std::array<OcraFrame, 3> kOcraFrames{{
-    {"SSFrame3(2)", "Elbow Posture",               kElbowLists, kElbowTicks},
-    {"SSFrame3(1)", "Wrist Posture",               kWristLists, kWristTicks},
-    {"SSFrame3(0)", "Type Of Grip + Finger Posture", kGripLists, kGripTicks},
+    {Region::Elbow, "SSFrame3(2)", "Elbow Posture",                 kElbowLists, kElbowTicks},
+    {Region::Wrist, "SSFrame3(1)", "Wrist Posture",                 kWristLists, kWristTicks},
+    {Region::Grip,  "SSFrame3(0)", "Type Of Grip + Finger Posture", kGripLists, kGripTicks},
 }};
 
 constexpr std::array<OcraForceMark, 11> kOcraForceMarks{{
@@ -104,30 +90,56 @@ constexpr std::array<OcraForceMark, 11> kOcraForceMarks{{
 }};
 // clang-format on
 
+namespace {
+
+/// Whether a list and its pair, if any, name each other.
+constexpr bool IsPairedRightly(const OcraList& list) {
+  if (list.pair == kOcraNoPair) return true;
+  const OcraList& pair = kOcraLists.at(static_cast<std::size_t>(list.pair));
+  return pair.pair != kOcraNoPair && &kOcraLists.at(static_cast<std::size_t>(pair.pair)) == &list;
+}
+/// Whether a frame stands at its region and has lists and boxes of that region alone.
+constexpr bool FitsItsPlace(OcraRegion region) {
+  const OcraFrame& frame = kOcraFrames.at(static_cast<std::size_t>(region));
+  const auto hasRegion = [region](const auto& rows) {
+    return [region, &rows](int i) { return rows.at(static_cast<std::size_t>(i)).region == region; };
+  };
+  return frame.region == region && std::ranges::all_of(frame.lists, hasRegion(kOcraLists)) &&
+         std::ranges::all_of(frame.ticks, hasRegion(kOcraTicks));
+}
+static_assert(decltype(JobState::OcraComboChoice)::size() == kOcraListCount, "an answer a list");
+static_assert(std::ranges::all_of(kOcraLists, IsPairedRightly));
+static_assert(FitsItsPlace(Region::Elbow) && FitsItsPlace(Region::Wrist) &&
+              FitsItsPlace(Region::Grip));
+static_assert(kOcraForceMarks.size() == kOcraSliderEnd + 1, "a mark a place of the slider");
+
+}  // namespace
+
+const OcraBox& OcraTaskBoxAt(int index) {
+  for (const OcraBox& box : kOcraTaskBoxes) {
+    if (box.index == index) return box;
+  }
+  throw RuntimeFailure(FailureKind::SubscriptOutOfRange);
+}
+
 void OcraControls::Load() {
   ChooseHand(Module1.Hand);
   const std::vector<int> tasks = ActiveTasks();
   for (int list = 0; list < kOcraListCount; ++list) {
     CheckedSubscript(Module1.OcraComboChoice.at(list), kOcraAnswers.size());
   }
-  for (int i = 0; i < kOcraTickCount; ++i) SetTick(i, TickField(i) == kOcraTicked);
-  if (!tasks.empty()) Module1.CurrentTask = static_cast<Integer>(tasks.front());
-}
-
-void OcraControls::ChooseHand(int index) {
-  CheckedSubscript(index, kHandOptions);
-  if (hand_ == index) return;
-  hand_ = index;
-  Module1.JobDirty = kTrue;
-  Module1.Hand = static_cast<Integer>(index);
+  for (std::size_t i = 0; i < kOcraTicks.size(); ++i) {
+    SetTick(static_cast<int>(i), NumberIn(kOcraTicks[i].field).AsDouble() == kOcraTicked);
+  }
+  if (!tasks.empty()) TaskShown(tasks.front());
 }
 
 void OcraControls::SetTick(int index, bool ticked) {
-  bool& state = ticked_[CheckedSubscript(index, ticked_.size())];
-  if (state == ticked) return;
-  state = ticked;
+  const std::size_t at = CheckedSubscript(index, ticked_.size());
+  if (ticked_[at] == ticked) return;
+  ticked_[at] = ticked;
   Module1.JobDirty = kTrue;
-  StoreTick(index, ticked ? kOcraTicked : Integer{0});
+  StoreOnScreen(kOcraTicks[at].field, ticked ? kOcraTicked : Integer{0});
 }
 
 bool OcraControls::IsTicked(int index) const {
@@ -144,9 +156,31 @@ void OcraControls::PickAnswer(int list, int answer) {
   }
 }
 
-double OcraRatingAt(int sliderValue) {
-  return ReadsAs(Format(sliderValue / 2.0, Pattern::OneDecimal));
+void OcraHoursMoved(int sliderValue) {
+  Module1.JobDirty = kTrue;
+  Module1.OcraRecoveryHours = static_cast<Integer>(sliderValue);
 }
+
+int OcraForceMoved(int sliderValue) {
+  Module1.JobDirty = kTrue;
+  const std::optional<int> task = TaskOnScreen();
+  if (!task) return 0;
+  Module1.OcraForceRating.at(*task) = OcraRatingAt(sliderValue);
+  return sliderValue;
+}
+
+bool OcraEverHadTasks() { return Module1.TaskCount.AsDouble() > 0; }
+
+std::optional<bool> OcraShowsTaskFrames() {
+  if (!OcraEverHadTasks()) return std::nullopt;
+  return AnyActiveTask();
+}
+
+std::string OcraRatingText(int sliderValue) {
+  return Format(sliderValue / 2.0, Pattern::OneDecimal);
+}
+
+double OcraRatingAt(int sliderValue) { return ReadsAs(OcraRatingText(sliderValue)); }
 
 int OcraSliderAt(double rating) { return NearestPosition(2 * rating); }
 

@@ -18,8 +18,7 @@ constexpr double kFullBar = 8;
 bool Compute() {
   OcraControls controls;
   controls.Load();
-  OcraScoreLists();
-  OcraCalculate();
+  OcraScoreAndCalculate();
   return true;
 }
 

@@ -5,6 +5,8 @@
 #include "core/checked_math.h"
 #include "core/job_state.h"
 #include "core/task_list.h"
+#include "tools/ocra/ocra_score.h"
+#include "tools/report_parts.h"
 
 namespace halvane {
 namespace {
@@ -38,19 +40,12 @@ constexpr std::array<std::string_view, 2> kRedDashes{
     "-Redesign of tasks at workstations according to priority.",
     "-Health surveillance plus training/information of exposed subjects."};
 
-void SetTableTabs(RichText& RichTextBox1) {
-  RichTextBox1.SetTabCount(3);
-  RichTextBox1.SetTab(0, 2500);
-  RichTextBox1.SetTab(1, 4500);
-  RichTextBox1.SetTab(2, 6500);
-}
+constexpr std::array kTableStops{2500, 4500, 6500};
+constexpr std::array kZoneStops{200, 700};
 
 void WriteJob(RichText& RichTextBox1) {
-  RichTextBox1.Append(kNewLine, Module1.Hand == 0 ? "Hand: Right Side" : "Hand: Left Side",
-                      kNewLine);
-  RichTextBox1.Append(kNewLine, "Analyst: ", Module1.JobAnalyst.AsText());
-  RichTextBox1.Append(kNewLine, "Job Name: ", Module1.JobName.AsText());
-  RichTextBox1.Append(kNewLine, "Workstation ID: ", Module1.JobWorkstationId);
+  RichTextBox1.Append(kNewLine, HandLine(), kNewLine);
+  AppendNames(RichTextBox1);
   RichTextBox1.Append(kNewLine);
   RichTextBox1.Append(kNewLine,
                       "Job Cycle Time (min): ", Format(Module1.JobCycleTime, Pattern::TwoDecimals));
@@ -61,7 +56,7 @@ void WriteJob(RichText& RichTextBox1) {
 
 void WriteTaskTable(RichText& RichTextBox1) {
   RichTextBox1.SetFont(kHeading);
-  SetTableTabs(RichTextBox1);
+  SetStops(RichTextBox1, kTableStops);
   RichTextBox1.Append(kNewLine, "Task ID", kTab, "Task Dur. (min)", kTab, "Action (#/min)", kTab,
                       "Force Level");
   RichTextBox1.SetFont(kPlain);
@@ -77,7 +72,7 @@ void WriteTaskTable(RichText& RichTextBox1) {
 
 void WriteMultiplierTable(RichText& RichTextBox1) {
   RichTextBox1.SetFont(kHeading);
-  SetTableTabs(RichTextBox1);
+  SetStops(RichTextBox1, kTableStops);
   RichTextBox1.Append(kNewLine, "Task ID", kTab, "Force Multiplier", kTab, "Posture Multiplier",
                       kTab, "Recovery Multiplier");
   RichTextBox1.SetFont(kPlain);
@@ -94,9 +89,7 @@ void WriteMultiplierTable(RichText& RichTextBox1) {
 
 void WriteZone(RichText& RichTextBox1) {
   RichTextBox1.Append(kNewLine, "Recommendation:");
-  RichTextBox1.SetTabCount(2);
-  RichTextBox1.SetTab(0, 200);
-  RichTextBox1.SetTab(1, 700);
+  SetStops(RichTextBox1, kZoneStops);
   const OcraZone zone = OcraZoneOf(Module1.OcraRiskIndex);
   for (const std::string_view line : zone.lines) RichTextBox1.Append(kNewLine, kTab, line);
   for (const std::string_view line : zone.dashLines) {
@@ -149,6 +142,11 @@ void OcraReport(RichText& RichTextBox1) {
   RichTextBox1.AppendPicture("ocra/zones");
   RichTextBox1.AppendPicture("ocra/multipliers");
   RichTextBox1.SetLocked(true);
+}
+
+void OcraComputeAndReport(RichText& RichTextBox1) {
+  OcraScoreAndCalculate();
+  OcraReport(RichTextBox1);
 }
 
 }  // namespace halvane

@@ -24,4 +24,7 @@ OcraZone OcraZoneOf(double riskIndex);
 /// Writes the result of the last `OcraCalculate` into the pane and locks it.
 void OcraReport(RichText& RichTextBox1);
 
+/// Computes the job and writes its report. Throws what the computation throws.
+void OcraComputeAndReport(RichText& RichTextBox1);
+
 }  // namespace halvane

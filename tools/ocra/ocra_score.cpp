@@ -145,12 +145,10 @@ void OcraScoreLists() {
     const OcraList& list = kOcraLists[static_cast<std::size_t>(i)];
     const Integer score =
         list.scores[CheckedSubscript(Module1.OcraComboChoice.at(i), list.scores.size())];
-    switch (list.field) {
-      case OcraScoreField::Grip: Module1.OcraGripScores.at(i) = score; break;
-      case OcraScoreField::ElbowRotation: addTo(Module1.OcraElbowRotation, score); break;
-      case OcraScoreField::ElbowFlexion: addTo(Module1.OcraElbowFlexion, score); break;
-      case OcraScoreField::WristDeviation: addTo(Module1.OcraWristDeviation, score); break;
-      case OcraScoreField::WristFlexion: addTo(Module1.OcraWristFlexion, score); break;
+    if (list.field == nullptr) {
+      Module1.OcraGripScores.at(i) = score;
+    } else {
+      addTo(Module1.*list.field, score);
     }
   }
 }
@@ -164,6 +162,11 @@ void OcraCalculate() {
   SumRecommendedActions();
   Module1.OcraRiskIndex =
       Quotient(Module1.OcraActionsObserved.AsDouble(), Module1.OcraActionsRecommended.AsDouble());
+}
+
+void OcraScoreAndCalculate() {
+  OcraScoreLists();
+  OcraCalculate();
 }
 
 std::vector<WorkingValue> OcraWorkingValues() {

@@ -21,6 +21,9 @@ void OcraScoreLists();
 /// Throws `Overflow` for a sum or product beyond its field.
 void OcraCalculate();
 
+/// Both in their order.
+void OcraScoreAndCalculate();
+
 /// The working values of the last computation.
 std::vector<WorkingValue> OcraWorkingValues();
 

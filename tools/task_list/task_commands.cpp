@@ -1,14 +1,12 @@
 #include "tools/task_list/task_commands.h"
 
-#include "core/job_state.h"
 #include "core/program_title.h"
 #include "platform/platform.h"
+#include "tools/task_input.h"
 #include "tools/task_list/task_tree.h"
 
 namespace halvane {
 namespace {
-
-constexpr Integer kDeleted = 0;
 
 // The double blank is wanted.
 constexpr auto kDeleteQuestion =
@@ -19,8 +17,6 @@ constexpr auto kNoTaskSelected =
     "You must select a Task to Delete. If the Task list is empty use Add Task to create the first "
     "Task list.";
 
-int CurrentTask() { return ToInteger(Module1.CurrentTask.AsDouble()); }
-
 }  // namespace
 
 bool TakeTaskToDelete(const TaskTree& tree, QWidget& form) {
@@ -29,7 +25,7 @@ bool TakeTaskToDelete(const TaskTree& tree, QWidget& form) {
     ThePlatform().ShowMessage(&form, kNoTaskTitle, kNoTaskSelected, {Answer::Ok});
     return false;
   }
-  Module1.CurrentTask = static_cast<Integer>(task);
+  TaskShown(task);
   return true;
 }
 
@@ -38,13 +34,7 @@ void DeleteCurrentTask(TaskTree& tree, QWidget& form) {
       ThePlatform().ShowMessage(&form, kProgramTitle, kDeleteQuestion, {Answer::Yes, Answer::No});
   if (answer != Answer::Yes) return;
   tree.RemoveSelected();
-  Module1.TaskActive.at(CurrentTask()) = kDeleted;
-}
-
-void RenameTask(const TaskTree& tree, int task, const QString& name) {
-  Module1.JobDirty = kTrue;
-  Module1.CurrentTask = static_cast<Integer>(tree.SelectedTask());
-  Module1.TaskNames.at(task) = name.toStdString();
+  CurrentTaskDeleted();
 }
 
 }  // namespace halvane

@@ -40,12 +40,13 @@ TaskListFrame::TaskListFrame(const QString& name, const std::array<TaskButton, 3
   grid->addWidget(tree_, 0, 0, 1, static_cast<int>(buttons.size()));
   int index = 0;
   for (const TaskButton& row : buttons) {
-    auto* button = new TaskPushButton(row.caption, this);
+    const QString caption = ScreenText(row.caption);
+    auto* button = new TaskPushButton(caption, this);
     button->setObjectName(ElementName("SSCommand1", index));
-    button->setToolTip(row.tip);
+    button->setToolTip(ScreenText(row.tip));
     button->setAutoDefault(false);
     // The style's own least width would make the list wider than the names in it need.
-    button->setMinimumWidth(button->fontMetrics().horizontalAdvance(row.caption) + 2 * kMargin);
+    button->setMinimumWidth(button->fontMetrics().horizontalAdvance(caption) + 2 * kMargin);
     connect(button, &QPushButton::clicked, this, [this, index] {
       // A button pressed by its key leaves the focus, and so what is being typed, where it was.
       TextBox::CountKeysDown();

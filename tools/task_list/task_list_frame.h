@@ -3,15 +3,11 @@
 #include <QGroupBox>
 #include <array>
 
+#include "tools/task_input.h"
+
 namespace halvane {
 
 class TaskTree;
-
-/// A button under the task list.
-struct TaskButton {
-  const char* caption;
-  const char* tip;  ///< empty: none
-};
 
 /// The frame "Task Information" with the task list and its three buttons, the same on every tool
 /// that has a task list.

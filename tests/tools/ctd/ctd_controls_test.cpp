@@ -228,27 +228,5 @@ TEST_F(CtdForm, BodyPartMarksTheJobChanged) {
   EXPECT_EQ(Module1.JobDirty, kTrue);
 }
 
-TEST_F(CtdForm, RestTimeIsWhatTheCycleLeavesAndNeverBelowZero) {
-  AddTasks(1);
-  Module1.JobCycleTime = 1;
-  Module1.CtdWorkTime.at(1) = "0.25 min";
-  Module1.CtdRepetitions.at(1) = 3;
-  ComputeCtdRestTime(1);
-  EXPECT_EQ(Module1.CtdRestTime.at(1), TaggedField(0.25));
-  Module1.CtdRepetitions.at(1) = 5;
-  ComputeCtdRestTime(1);
-  EXPECT_EQ(Module1.CtdRestTime.at(1), TaggedField(0.0));
-}
-
-TEST_F(CtdForm, CyclesPerShiftKeepTheirValueWithoutACycleTime) {
-  Module1.JobCycleTime = 2.5;
-  EXPECT_EQ(ComputeCtdCyclesPerShift(), 192);
-  for (const double cycle : {0.0, -1.0}) {
-    Module1.JobCycleTime = cycle;
-    EXPECT_EQ(ComputeCtdCyclesPerShift(), 0) << cycle;
-    EXPECT_EQ(Module1.CtdCyclesPerShift, 192) << cycle;
-  }
-}
-
 }  // namespace
 }  // namespace halvane
