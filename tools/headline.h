@@ -34,8 +34,8 @@ struct Headline {
 struct ToolHeadline {
   std::span<const HeadlineColumn> columns;  ///< at least one, at most `Headline::kMostValues`
   double fullBar;                           ///< first value that fills a bar; fixed for all jobs
-  /// Does what opening the tool and its report tab does on the present job, form load included, up
-  /// to the writing of the report. False for a job that the tool has no report on. Throws what the
+  /// Does what opening the tool and its report tab does on the present job, form load included, but
+  /// for a report that anyone sees. False for a job that the tool has no report on. Throws what the
   /// report would throw.
   bool (*compute)();
   /// The headline of the last computation.

@@ -14,13 +14,16 @@ namespace halvane {
 struct ToolRow : ToolName {
   /// How it computes, and its line in a summary.
   const ToolHeadline* headline;
-  /// Writes the report of the last computation.
-  void (*print)(RichText& RichTextBox1);
+  /// What opening the tool does to the job, its form's load included, without the form. False for a
+  /// job that the tool has no report on.
+  bool (*open)();
+  /// Computes the job and writes the report, as the form does when its report is to be shown.
+  void (*report)(RichText& RichTextBox1);
   /// The working values that a computation leaves.
   std::vector<WorkingValue> (*workingValues)();
 
-  /// Does what opening the tool and its report tab does, form load included, on the present job,
-  /// without a screen. False, with nothing written, for a job that the tool has no report on.
+  /// Does what opening the tool and its report tab does on the present job. False, with nothing
+  /// written, for a job that the tool has no report on.
   bool WriteReport(RichText& RichTextBox1) const;
 };
 

@@ -5,10 +5,10 @@
 namespace halvane {
 namespace {
 
-bool ComputeNothing() { return true; }
+bool HasReport() { return true; }
 bool HasNoReport() { return false; }
 
-const ToolHeadline kPlain{{}, 1, ComputeNothing, nullptr};
+const ToolHeadline kPlain{{}, 1, HasReport, nullptr};
 const ToolHeadline kWithoutReport{{}, 1, HasNoReport, nullptr};
 
 /// Writes the job's name and changes the job, as tools do.
@@ -34,15 +34,16 @@ void WriteNothing(RichText& /*RichTextBox1*/) {}
 }  // namespace
 
 const std::array<ToolRow, 2> kTestTools{
-    ToolRow{Tool::StrainIndex, "good", "", "", "Good <Tool>", "", &kPlain, WriteGoodReport,
+    ToolRow{Tool::StrainIndex, "good", "", "", "Good <Tool>", "", &kPlain, HasReport,
+            WriteGoodReport, GoodValues},
+    ToolRow{Tool::Ocra, "failing", "", "", "Failing Tool", "", &kPlain, HasReport, Fail,
             GoodValues},
-    ToolRow{Tool::Ocra, "failing", "", "", "Failing Tool", "", &kPlain, Fail, GoodValues},
 };
 
-const ToolRow kSilentTool{Tool::Ctd, "silent",        "",           "",      "Silent Tool",
-                          "",        &kWithoutReport, WriteNothing, NoValues};
-const ToolRow kUnitsTool{Tool::Ctd, "units", "",         "",      "Units Tool",
-                         "",        &kPlain, WriteUnits, NoValues};
+const ToolRow kSilentTool{Tool::Ctd, "silent",        "",          "",           "Silent Tool",
+                          "",        &kWithoutReport, HasNoReport, WriteNothing, NoValues};
+const ToolRow kUnitsTool{Tool::Ctd, "units", "",        "",         "Units Tool",
+                         "",        &kPlain, HasReport, WriteUnits, NoValues};
 
 RichText OneLine(std::string_view text, Alignment alignment, const std::vector<int>& tabStops) {
   RichText report;

@@ -32,15 +32,16 @@ Headline ReadGrade() { return {{int{Module1.RebaGrandScore}, 3}, ZoneColour::Red
 const ToolHeadline kIndexHeadline{kIndexColumns, 8, ComputeIndex, ReadIndex};
 const ToolHeadline kGradeHeadline{kGradeColumns, 10, ComputeGrade, ReadGrade};
 
+bool Opens() { return true; }
 void NoReport(RichText& /*RichTextBox1*/) {}
 std::vector<WorkingValue> NoValues() { return {}; }
 
 }  // namespace
 
-const ToolRow kIndexTool{Tool::Ocra, "index",         "",       "",      "Index Tool",
-                         "",         &kIndexHeadline, NoReport, NoValues};
-const ToolRow kGradeTool{Tool::Reba, "grade",         "",       "",      "Grade Tool",
-                         "",         &kGradeHeadline, NoReport, NoValues};
+const ToolRow kIndexTool{Tool::Ocra, "index",         "",    "",       "Index Tool",
+                         "",         &kIndexHeadline, Opens, NoReport, NoValues};
+const ToolRow kGradeTool{Tool::Reba, "grade",         "",    "",       "Grade Tool",
+                         "",         &kGradeHeadline, Opens, NoReport, NoValues};
 
 SummaryTools SampleTools() { return {&kIndexTool, &kGradeTool}; }
 

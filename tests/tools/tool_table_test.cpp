@@ -47,7 +47,8 @@ TEST(ToolTable, EachToolHasItsRow) {
     EXPECT_EQ(row.buttonTip, expected.buttonTip) << expected.key;
     EXPECT_EQ(row.title, expected.title) << expected.key;
     EXPECT_EQ(row.helpTopic, expected.helpTopic) << expected.key;
-    EXPECT_NE(row.print, nullptr) << expected.key;
+    EXPECT_NE(row.open, nullptr) << expected.key;
+    EXPECT_NE(row.report, nullptr) << expected.key;
     EXPECT_NE(row.workingValues, nullptr) << expected.key;
     EXPECT_NE(row.headline, nullptr) << expected.key;
   }
