@@ -59,7 +59,7 @@ ROOMS = tuple(
         ("tool parts", r"tools/[^/]*", ("core",), ("halvane_tools",)),
         (
             "posture screen",
-            r"tools/posture/posture_(frame|page)\.\w+",
+            r"tools/posture/posture_(form|frame|page)\.\w+",
             (*_SHELL_USES, "shell", "tool parts", "posture"),
             ("halvane_forms",),
         ),
