@@ -2,7 +2,7 @@
 
 #include <QApplication>
 
-#include "core/program_title.h"
+#include "core/messages.h"
 #include "core/silently.h"
 #include "help/help_viewer.h"
 #include "platform/platform.h"
@@ -33,7 +33,7 @@ QString ListedFolder(const QString& name) {
 
 bool HTMLHelp::IsChmFile() const {
   if (CHMFile.right(3).compare("chm", Qt::CaseInsensitive) == 0) return true;
-  Tell(CHMFile + " is not a valid HTML Help file.");
+  Tell(CHMFile + kNoHelpFileName);
   return false;
 }
 
@@ -45,8 +45,7 @@ bool HTMLHelp::EnsureFileExists() {
     CHMFile = folder + CHMFile;
   }
   if (ThePlatform().FileExists(CHMFile)) return true;
-  Tell("The file " + CHMFile + " does not exist.\nPlease install the help files of " +
-       kProgramTitle + ".");
+  Tell("The file " + CHMFile + kHelpFileMissing + kProgramTitle + ".");
   return false;
 }
 

@@ -52,8 +52,10 @@ std::vector<int> Ribbons(int /*element*/) {
 
 constexpr std::array kRows{
     ChoiceRow{"Hand", [](int) { return UpTo(1); }},
-    ChoiceRow{"RulaControlState", [](int element) { return UpTo(RulaHighestState(element)); }},
-    ChoiceRow{"RebaControlState", [](int element) { return UpTo(RebaHighestState(element)); }},
+    ChoiceRow{"RulaControlState",
+              [](int element) { return UpTo(HighestState(kRulaControls, element)); }},
+    ChoiceRow{"RebaControlState",
+              [](int element) { return UpTo(HighestState(kRebaControls, element)); }},
     ChoiceRow{"SiIntensityPick", Ribbons<SiRibbonArray::SSRibbon1>},
     ChoiceRow{"SiPosturePick", Ribbons<SiRibbonArray::SSRibbon2>},
     ChoiceRow{"SiSpeedPick", Ribbons<SiRibbonArray::SSRibbon3>},

@@ -10,14 +10,8 @@ namespace halvane {
 namespace {
 
 // The colours are those of the charts that end the reports.
-constexpr std::string_view kHead = R"html(<!DOCTYPE html>
-<html lang="en">
-<head>
-<meta charset="utf-8">
-<meta name="viewport" content="width=device-width, initial-scale=1">
-<title>Halvane Tools job summary</title>
-<style>
-body { margin: 18pt; background: #fff; color: #1f2933; font: 10pt/1.3 sans-serif; }
+constexpr std::string_view kStyle =
+    R"html(body { margin: 18pt; background: #fff; color: #1f2933; font: 10pt/1.3 sans-serif; }
 table { border-collapse: collapse; }
 th, td { padding: 3pt 8pt; border-bottom: 1px solid #cfd8dc; text-align: left;
   vertical-align: top; overflow-wrap: break-word; }
@@ -37,15 +31,11 @@ td.failure { color: #9b1c1c; }
   body { margin: 0; }
   tr { break-inside: avoid; }
 }
-</style>
-</head>
-<body>
-<table>
+)html";
+constexpr std::string_view kTableHead = R"html(<table>
 <thead>
 <tr><th scope="col">File</th><th scope="col">Analyst</th><th scope="col">Job</th>)html"
-                                   R"html(<th scope="col">Workstation</th>)html";
-
-constexpr std::string_view kFoot = "</tbody>\n</table>\n</body>\n</html>\n";
+                                        R"html(<th scope="col">Workstation</th>)html";
 
 std::string_view ClassOf(ZoneColour colour) {
   switch (colour) {
@@ -103,7 +93,8 @@ void AppendCell(std::string& out, const SummaryCell& cell, const ToolHeadline& t
 }  // namespace
 
 void HtmlSummary::Begin(std::string& out) {
-  out += kHead;
+  AppendPageHead(out, "Halvane Tools job summary", kStyle);
+  out += kTableHead;
   for (const ToolRow* tool : tools_) {
     out += "<th scope=\"col\">";
     AppendHtml(out, tool->headline->columns.front().heading);
@@ -132,6 +123,9 @@ void HtmlSummary::Row(std::string& out, const JobSummary& summary) {
   out += "</tr>\n";
 }
 
-void HtmlSummary::End(std::string& out) { out += kFoot; }
+void HtmlSummary::End(std::string& out) {
+  out += "</tbody>\n</table>\n";
+  out += kPageFoot;
+}
 
 }  // namespace halvane

@@ -29,4 +29,14 @@ void AppendHtml(std::string& out, std::string_view text) {
   }
 }
 
+void AppendPageHead(std::string& out, std::string_view title, std::string_view style) {
+  out +=
+      "<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n<meta charset=\"utf-8\">\n"
+      "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n<title>";
+  AppendHtml(out, title);
+  out += "</title>\n<style>\n";
+  out += style;
+  out += "</style>\n</head>\n<body>\n";
+}
+
 }  // namespace halvane

@@ -13,14 +13,8 @@ namespace {
 constexpr int kDefaultTabTwips = 720;
 constexpr int kTwipsPerPoint = 20;
 
-constexpr std::string_view kHead = R"html(<!DOCTYPE html>
-<html lang="en">
-<head>
-<meta charset="utf-8">
-<meta name="viewport" content="width=device-width, initial-scale=1">
-<title>Halvane Tools job reports</title>
-<style>
-body { margin: 0; background: #eceff1; color: #1f2933; font: 10pt/1.3 sans-serif; }
+constexpr std::string_view kStyle =
+    R"html(body { margin: 0; background: #eceff1; color: #1f2933; font: 10pt/1.3 sans-serif; }
 section { box-sizing: border-box; max-width: 500pt; margin: 18pt auto; padding: 24pt 34pt;
   background: #fff; border: 1px solid #cfd8dc; }
 h2 { margin: 0 0 14pt; padding-bottom: 5pt; border-bottom: 1px solid #cfd8dc; color: #52606d;
@@ -37,12 +31,7 @@ svg { max-width: 100%; height: auto; }
   section:last-child { break-after: auto; }
   svg, p { break-inside: avoid; }
 }
-</style>
-</head>
-<body>
 )html";
-
-constexpr std::string_view kFoot = "</body>\n</html>\n";
 
 void AppendStyled(std::string& out, std::string_view text, const CharacterFormat& format) {
   if (text.empty()) return;
@@ -145,7 +134,9 @@ std::string HeadingOf(std::string_view file, const ToolRow& tool) {
 
 }  // namespace
 
-void HtmlWriter::Begin(std::string& out) { out += kHead; }
+void HtmlWriter::Begin(std::string& out) {
+  AppendPageHead(out, "Halvane Tools job reports", kStyle);
+}
 
 void HtmlWriter::Report(std::string& out, std::string_view file, const ToolRow& tool,
                         const RichText& report, const std::vector<WorkingValue>& /*results*/) {
@@ -178,6 +169,6 @@ void HtmlWriter::FileFailed(std::string& out, std::string_view file,
   EndSection(out);
 }
 
-void HtmlWriter::End(std::string& out) { out += kFoot; }
+void HtmlWriter::End(std::string& out) { out += kPageFoot; }
 
 }  // namespace halvane

@@ -133,15 +133,6 @@ std::vector<const ToolRow*> ToolsOf(std::span<const ToolRow> tools,
   return rows;
 }
 
-/// The cells of a summary, the upper limb before the whole body.
-constexpr std::array kOrderOfSummary{Tool::Ocra, Tool::Ctd,  Tool::StrainIndex,
-                                     Tool::Rula, Tool::Reba, Tool::Hal};
-
-void PutInOrderOfSummary(std::vector<const ToolRow*>& rows) {
-  std::ranges::stable_sort(
-      rows, {}, [](const ToolRow* row) { return std::ranges::find(kOrderOfSummary, row->tool); });
-}
-
 ReportFormat FormatOf(const Given& given) {
   if (!given.format.empty()) return WordNamed(kFormats, given.format)->value;
   return given.filesFrom.empty() ? ReportFormat::Text : ReportFormat::Json;
@@ -152,7 +143,6 @@ Options Collect(std::span<const ToolRow> tools, Given given) {
   if (given.summary) options.wish = Wish::Summary;
   if (given.check) options.wish = Wish::Check;
   options.tools = ToolsOf(tools, given.tools);
-  if (given.summary && given.tools.empty()) PutInOrderOfSummary(options.tools);
   if (!given.sort.empty()) options.sortBy = ToolNamed(tools, given.sort);
   options.format = FormatOf(given);
   if (!given.units.empty()) options.units = WordNamed(kUnits, given.units)->value;

@@ -4,16 +4,13 @@
 
 #include "core/job_file.h"
 #include "core/job_state.h"
-#include "core/program_title.h"
+#include "core/messages.h"
 #include "core/silently.h"
 #include "platform/platform.h"
 
 namespace halvane {
 namespace {
 
-constexpr auto kDirtyQuestion = "Save data before closing this file?";
-constexpr auto kWrongFile =
-    "This file is not an 'Ostrel - Halvane' File.  Open File will be cancel.";
 constexpr auto kFilter = "*.qjt (*.qjt);;All files (*)";
 
 std::string PathOf(const QString& name) { return QFile::encodeName(name).toStdString(); }
@@ -22,7 +19,7 @@ std::string PathOf(const QString& name) { return QFile::encodeName(name).toStdSt
 
 bool FileCommands::GoOnWithUnsavedJob() {
   if (Module1.JobDirty == kFalse) return true;
-  const Answer answer = ThePlatform().ShowMessage(&form_, kProgramTitle, kDirtyQuestion,
+  const Answer answer = ThePlatform().ShowMessage(&form_, kProgramTitle, kSaveBeforeClosing,
                                                   {Answer::Yes, Answer::No, Answer::Cancel});
   // Always Save As, and whatever it did, the command goes on.
   if (answer == Answer::Yes) SaveAs();

@@ -7,7 +7,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "core/program_title.h"
+#include "core/messages.h"
 #include "core/silently.h"
 #include "platform/platform.h"
 #include "platform/registry.h"
@@ -28,7 +28,6 @@ constexpr auto kContactReport =
 constexpr auto kNotice =
     "This program is provided as it is, without warranty of any kind. Its figures support the "
     "judgement of an analyst; they do not replace it.";
-constexpr auto kUnavailable = "System Information Is Unavailable At This Time";
 
 // Where the system's registry names the viewer: by its own path, else by its folder.
 constexpr auto kViewerKey = R"(SOFTWARE\Microsoft\Shared Tools\MSINFO)";
@@ -135,7 +134,7 @@ void FrmAbout::StartSystemInformation() {
   }
   const ProgramCall viewer = platform.SystemViewer();
   if (viewer.program.isEmpty()) {
-    platform.ShowMessage(this, kProgramTitle, kUnavailable, {Answer::Ok});
+    platform.ShowMessage(this, kProgramTitle, kNoSystemInformation, {Answer::Ok});
   } else {
     platform.StartProgram(viewer);
   }

@@ -10,7 +10,7 @@
 #include <QTimer>
 
 #include "core/job_state.h"
-#include "core/program_title.h"
+#include "core/messages.h"
 #include "core/units.h"
 #include "help/help_commands.h"
 #include "platform/platform.h"
@@ -27,8 +27,6 @@ namespace halvane {
 namespace {
 
 constexpr int kOpeningMilliseconds = 3500;
-constexpr auto kExitQuestion = "Exit Program?";
-constexpr auto kSaveQuestion = "Save data before exiting this program?";
 
 }  // namespace
 
@@ -292,7 +290,7 @@ void FrmHandMain::mnuExit_Click() {
       platform.ShowMessage(this, kProgramTitle, kExitQuestion, {Answer::Yes, Answer::No});
   if (leave != Answer::Yes) return;
   if (Module1.JobDirty != kFalse) {
-    const Answer save = platform.ShowMessage(this, kProgramTitle, kSaveQuestion,
+    const Answer save = platform.ShowMessage(this, kProgramTitle, kSaveBeforeExiting,
                                              {Answer::Yes, Answer::No, Answer::Cancel});
     if (save == Answer::Cancel) return;
     if (save == Answer::Yes) mnuSave_Click();

@@ -6,7 +6,7 @@
 #include <exception>
 #include <new>
 
-#include "core/program_title.h"
+#include "core/messages.h"
 #include "core/runtime_failure.h"
 #include "platform/end_signals.h"
 #include "platform/platform.h"
@@ -21,11 +21,11 @@ constexpr int kSignalStatus = 128;
 
 /// Where the job is, or why it is nowhere.
 QString SentenceOn(const JobKeeper::Rescue& rescue) {
-  if (!rescue.wasNeeded) return "The job has no changes that are not saved.";
-  if (!rescue.copy.isEmpty()) return "A copy of the job was saved as\n" + rescue.copy;
-  const QString failed = "The job could not be saved.\n" + rescue.reason;
+  if (!rescue.wasNeeded) return kNothingUnsaved;
+  if (!rescue.copy.isEmpty()) return kCopySavedAs + rescue.copy;
+  const QString failed = kJobNotSaved + rescue.reason;
   if (rescue.journal.isEmpty()) return failed;
-  return failed + "\n\nWhat was in it a moment ago is in the journal\n" + rescue.journal;
+  return failed + "\n\n" + kJournalIs + rescue.journal;
 }
 
 QString TextOf(const std::exception& failure) { return QString::fromUtf8(failure.what()); }
@@ -103,9 +103,9 @@ bool HalvaneApplication::notify(QObject* receiver, QEvent* event) {
   } catch (const std::bad_alloc&) {
     EndOn(TextOf(RuntimeFailure(FailureKind::OutOfMemory)));
   } catch (const std::exception& failure) {
-    EndOn("Unexpected failure: " + TextOf(failure));
+    EndOn(QString(kUnexpectedFailure) + ": " + TextOf(failure));
   } catch (...) {
-    EndOn("Unexpected failure");
+    EndOn(kUnexpectedFailure);
   }
   if (isInput) keeper_.NoteInput();
   return result;
@@ -125,7 +125,7 @@ void HalvaneApplication::EndOn(const QString& sentence) {
   ending_ = true;
   // The copy comes first, so that it is safe whatever happens to the message.
   const QString rescue = SentenceOn(keeper_.RescueJob());
-  const QString text = QString("%1.\n\n%2 has to end.\n\n%3").arg(sentence, kProgramTitle, rescue);
+  const QString text = sentence + ".\n\n" + kProgramTitle + kHasToEnd + "\n\n" + rescue;
   ThePlatform().ShowMessage(activeWindow(), kProgramTitle, text, {Answer::Ok});
   ThePlatform().EndProgram(kFailureStatus);
   ending_ = false;

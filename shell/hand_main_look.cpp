@@ -9,7 +9,7 @@
 #include <cmath>
 #include <vector>
 
-#include "core/program_title.h"
+#include "core/messages.h"
 #include "shell/frm_hand_main.h"
 #include "widgets/gradient_panel.h"
 #include "widgets/layout.h"

@@ -79,6 +79,8 @@ JobKeeper::Rescue JobKeeper::RescueJob() {
     rescue.reason = failure.what();
   } catch (const std::bad_alloc&) {
     rescue.reason = RuntimeFailure(FailureKind::OutOfMemory).what();
+  } catch (const std::exception& failure) {
+    rescue.reason = failure.what();
   }
   UpdateJournal();
   if (journal_) rescue.journal = PathText(journal_->path());

@@ -21,6 +21,9 @@ class HandControls {
   /// `designed` is the option that the form as designed has chosen, or `kNoHand`.
   explicit HandControls(int designed) : hand_(designed) {}
 
+  /// Puts the options back to their design state, as above; runs no handler.
+  void ResetHand(int designed) { hand_ = designed; }
+
  private:
   int hand_;
 };

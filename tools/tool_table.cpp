@@ -41,21 +41,15 @@ bool OpenHal() {
   return true;
 }
 
-template <void (*compute)(), void (*print)(RichText&)>
-void Report(RichText& RichTextBox1) {
-  compute();
-  print(RichTextBox1);
-}
-
 // clang-format off
 constexpr std::array kTools{
-    //      name,                      headline,       open,               report,                              working values
-    ToolRow{NameOf(Tool::Ocra),        &kOcraHeadline, Open<OcraControls>, OcraComputeAndReport,                OcraWorkingValues},
-    ToolRow{NameOf(Tool::Ctd),         &kCtdHeadline,  CtdOpen,            CtdComputeAndReport,                 CtdWorkingValues},
-    ToolRow{NameOf(Tool::StrainIndex), &kSiHeadline,   Open<SiControls>,   SI_Calculate,                        SiWorkingValues},
-    ToolRow{NameOf(Tool::Reba),        &kRebaHeadline, Open<RebaControls>, Report<REBA_Calculate, REBA_Report>, RebaWorkingValues},
-    ToolRow{NameOf(Tool::Rula),        &kRulaHeadline, Open<RulaControls>, Report<RULA_Calculate, RULA_Report>, RulaWorkingValues},
-    ToolRow{NameOf(Tool::Hal),         &kHalHeadline,  OpenHal,            HAL_Calculate,                       HalWorkingValues},
+    //      name,                      headline,       open,               report,               working values
+    ToolRow{NameOf(Tool::Ocra),        &kOcraHeadline, Open<OcraControls>, OcraComputeAndReport, OcraWorkingValues},
+    ToolRow{NameOf(Tool::Ctd),         &kCtdHeadline,  CtdOpen,            CtdComputeAndReport,  CtdWorkingValues},
+    ToolRow{NameOf(Tool::StrainIndex), &kSiHeadline,   Open<SiControls>,   SI_Calculate,         SiWorkingValues},
+    ToolRow{NameOf(Tool::Reba),        &kRebaHeadline, Open<RebaControls>, RebaComputeAndReport, RebaWorkingValues},
+    ToolRow{NameOf(Tool::Rula),        &kRulaHeadline, Open<RulaControls>, RulaComputeAndReport, RulaWorkingValues},
+    ToolRow{NameOf(Tool::Hal),         &kHalHeadline,  OpenHal,            HAL_Calculate,        HalWorkingValues},
 };
 // clang-format on
 static_assert(

@@ -1,5 +1,8 @@
 // The pages of RULA and REBA.
+#include <span>
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include "core/job_state.h"
 #include "expected_tables.h"
@@ -30,28 +33,26 @@ void AddColumns(std::vector<std::string>& headings, char outer, int outers, char
   }
 }
 
-void AddRulaRibbons(ExpectedTables& tables, const std::string& id, RulaRibbonArray array) {
+// The ribbons of a tool's array, those that may be up as what they add.
+void AddRibbons(ExpectedTables& tables, const std::string& id,
+                std::span<const PostureControl> controls, std::string_view array) {
   TableRows& rows = AddTable(tables, id, kButtonHeadings);
-  const RulaRibbonRow& group = RulaRibbonsOf(array);
-  int index = 0;
-  for (const RulaRibbon& ribbon : group.ribbons) {
-    rows.push_back({Simplified(ribbon.caption), Simplified(ribbon.toolTip),
-                    index < group.groupSize ? Number(ribbon.score) : Added(ribbon.score)});
-    ++index;
+  for (const PostureControl& control : controls) {
+    if (control.objectName != array) continue;
+    for (int index = control.first; index <= control.last(); ++index) {
+      const PostureChoice& ribbon = ChoiceAt(control, index);
+      rows.push_back({Simplified(ribbon.caption), Simplified(ribbon.toolTip),
+                      control.mayBeUp() ? Added(ribbon.score) : Number(ribbon.score)});
+    }
   }
 }
 
-void AddRulaChecks(ExpectedTables& tables, const std::string& id, RulaCheckArray array) {
-  TableRows& rows = AddTable(tables, id, kBoxHeadings);
-  for (const RulaCheck& check : RulaChecksOf(array).checks) {
-    rows.push_back({Simplified(check.caption), Number(check.score)});
-  }
-}
-
-void AddRulaOptions(ExpectedTables& tables, const std::string& id, RulaOptionArray array) {
-  TableRows& rows = AddTable(tables, id, kOptionHeadings);
-  for (const RulaOption& option : RulaOptionsOf(array).options) {
-    rows.push_back({Simplified(option.caption), Number(option.score)});
+// Boxes and options, of which any control tells the others of its array.
+void AddChoices(ExpectedTables& tables, const std::string& id,
+                const std::vector<std::string>& headings, const PostureControl& control) {
+  TableRows& rows = AddTable(tables, id, headings);
+  for (const PostureChoice& choice : control.array) {
+    rows.push_back({Simplified(choice.caption), Number(choice.score)});
   }
 }
 
@@ -127,26 +128,6 @@ void AddRulaResults(ExpectedTables& tables) {
   rows.push_back({"Total A", Number(job.RulaArmWristTotal)});
   rows.push_back({"Total B", Number(job.RulaNeckTrunkLegTotal)});
   rows.push_back({"RULA Grand Score", Number(job.RulaGrandScore)});
-}
-
-void AddRebaRibbons(ExpectedTables& tables, const std::string& id, RebaRegion region) {
-  TableRows& rows = AddTable(tables, id, kButtonHeadings);
-  const RebaFrame& frame = RebaFrameOf(region);
-  for (const RebaRibbonGroup& group : frame.groups) {
-    for (int index = group.first; index < group.first + group.count; ++index) {
-      const RebaRibbon& ribbon = frame.ribbons[static_cast<std::size_t>(index)];
-      rows.push_back({Simplified(ribbon.caption), Simplified(ribbon.toolTip),
-                      group.mayBeUp ? Added(ribbon.factor) : Number(ribbon.factor)});
-    }
-  }
-}
-
-/// Boxes that count together have no value of their own in the table of controls but 1 each.
-void AddRebaChecks(ExpectedTables& tables, const std::string& id, RebaRegion region) {
-  TableRows& rows = AddTable(tables, id, kBoxHeadings);
-  for (const RebaCheck& check : RebaFrameOf(region).checks) {
-    rows.push_back({Simplified(check.caption), Number(check.value)});
-  }
 }
 
 void AddRebaLookups(ExpectedTables& tables) {
@@ -230,18 +211,27 @@ void AddRebaResults(ExpectedTables& tables) {
 
 ExpectedTables RulaPageTables() {
   ExpectedTables tables;
-  AddRulaRibbons(tables, "rula-upper-arms", RulaRibbonArray::SSRibbon1);
-  AddRulaChecks(tables, "rula-upper-arm-boxes", RulaCheckArray::SSCheck1);
-  AddRulaRibbons(tables, "rula-lower-arms", RulaRibbonArray::SSRibbon2);
-  AddRulaRibbons(tables, "rula-wrist", RulaRibbonArray::SSRibbon3);
-  AddRulaOptions(tables, "rula-twist", RulaOptionArray::SSOption4);
-  AddRulaRibbons(tables, "rula-neck", RulaRibbonArray::SSRibbon4);
-  AddRulaChecks(tables, "rula-neck-boxes", RulaCheckArray::SSCheck2);
-  AddRulaRibbons(tables, "rula-trunk", RulaRibbonArray::SSRibbon5);
-  AddRulaChecks(tables, "rula-trunk-boxes", RulaCheckArray::SSCheck3);
-  AddRulaOptions(tables, "rula-leg", RulaOptionArray::SSOption1);
-  AddRulaOptions(tables, "rula-force", RulaOptionArray::SSOption3);
-  AddRulaChecks(tables, "rula-muscle", RulaCheckArray::SSCheck4);
+  const auto ribbons = [&tables](const std::string& id, std::string_view array) {
+    AddRibbons(tables, id, kRulaControls, array);
+  };
+  const auto boxes = [&tables](const std::string& id, RulaControl first) {
+    AddChoices(tables, id, kBoxHeadings, RowOf(first));
+  };
+  const auto options = [&tables](const std::string& id, RulaControl control) {
+    AddChoices(tables, id, kOptionHeadings, RowOf(control));
+  };
+  ribbons("rula-upper-arms", "SSRibbon1");
+  boxes("rula-upper-arm-boxes", RulaControl::ShoulderRaised);
+  ribbons("rula-lower-arms", "SSRibbon2");
+  ribbons("rula-wrist", "SSRibbon3");
+  options("rula-twist", RulaControl::WristTwist);
+  ribbons("rula-neck", "SSRibbon4");
+  boxes("rula-neck-boxes", RulaControl::NeckTwist);
+  ribbons("rula-trunk", "SSRibbon5");
+  boxes("rula-trunk-boxes", RulaControl::TrunkTwist);
+  options("rula-leg", RulaControl::Leg);
+  options("rula-force", RulaControl::Force);
+  boxes("rula-muscle", RulaControl::Static);
   AddRulaLookups(tables);
   AddRulaResults(tables);
   return tables;
@@ -249,30 +239,38 @@ ExpectedTables RulaPageTables() {
 
 ExpectedTables RebaPageTables() {
   ExpectedTables tables;
-  AddRebaRibbons(tables, "reba-upper-arms", RebaRegion::UpperArms);
-  AddRebaChecks(tables, "reba-upper-arm-boxes", RebaRegion::UpperArms);
-  AddRebaRibbons(tables, "reba-lower-arms", RebaRegion::LowerArms);
-  AddRebaRibbons(tables, "reba-wrist", RebaRegion::Wrist);
-  AddRebaRibbons(tables, "reba-neck", RebaRegion::Neck);
-  AddRebaChecks(tables, "reba-neck-boxes", RebaRegion::Neck);
-  AddRebaRibbons(tables, "reba-trunk", RebaRegion::Trunk);
-  AddRebaChecks(tables, "reba-trunk-boxes", RebaRegion::Trunk);
-  AddRebaRibbons(tables, "reba-leg", RebaRegion::Legs);
-  AddRebaChecks(tables, "reba-force-boxes", RebaRegion::Force);
-  AddRebaChecks(tables, "reba-muscle", RebaRegion::MuscleUse);
+  const auto ribbons = [&tables](const std::string& id, std::string_view array) {
+    AddRibbons(tables, id, kRebaControls, array);
+  };
+  const auto boxes = [&tables](const std::string& id, RebaControl first) {
+    AddChoices(tables, id, kBoxHeadings, RowOf(first));
+  };
+  ribbons("reba-upper-arms", "SSRibbon1");
+  boxes("reba-upper-arm-boxes", RebaControl::ShoulderRaised);
+  ribbons("reba-lower-arms", "SSRibbon2");
+  ribbons("reba-wrist", "SSRibbon3");
+  ribbons("reba-neck", "SSRibbon4");
+  boxes("reba-neck-boxes", RebaControl::NeckTwist);
+  ribbons("reba-trunk", "SSRibbon5");
+  boxes("reba-trunk-boxes", RebaControl::TrunkTwist);
+  ribbons("reba-leg", "SSRibbon6");
+  boxes("reba-force-boxes", RebaControl::Shock);
+  boxes("reba-muscle", RebaControl::Static);
+  // What is stored when one is set.
+  RebaControls controls;
+  const PostureControl& load = RowOf(RebaControl::Load);
   TableRows& loads = AddTable(tables, "reba-force", {"Load", "Score"});
-  for (std::size_t i = 0; i < kRebaLoads.size(); ++i) {
-    RebaControls controls;
-    controls.PickLoad(static_cast<int>(i));
-    loads.push_back({Simplified(kRebaLoads[i]), Number(Module1.RebaForceFactors.at(0))});
+  for (int index = 0; index <= load.last(); ++index) {
+    controls.Set(load, index);
+    loads.push_back({Simplified(ChoiceAt(load, index).caption), Number(load.factor.Value())});
   }
+  const PostureControl& coupling = RowOf(RebaControl::Coupling);
   TableRows& couplings = AddTable(tables, "reba-coupling", {"Option", "Grip", "Score"});
-  for (std::size_t i = 0; i < kRebaCouplings.size(); ++i) {
-    RebaControls controls;
-    controls.ChooseCoupling(static_cast<int>(i));
-    couplings.push_back({Simplified(kRebaCouplings[i].caption),
-                         Simplified(kRebaCouplings[i].toolTip),
-                         Number(Module1.RebaCouplingFactor)});
+  for (int index = 0; index <= coupling.last(); ++index) {
+    controls.Set(coupling, index);
+    couplings.push_back({Simplified(ChoiceAt(coupling, index).caption),
+                         Simplified(ChoiceAt(coupling, index).toolTip),
+                         Number(coupling.factor.Value())});
   }
   AddRebaLookups(tables);
   AddRebaResults(tables);

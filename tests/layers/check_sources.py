@@ -145,6 +145,50 @@ def check_sizes(root):
             yield f"{path}: {lines} lines, at most {most}"
 
 
+def members_of_the_job(text):
+    """(line, type, name, comment) of every field of the job's state; the comment of the lines above
+    it counts for a field that has none behind it."""
+    above = ""
+    body = text[text.index("struct JobState {") :]
+    first = line_of(text, text.index("struct JobState {"))
+    for number, line in enumerate(body.splitlines(), first):
+        if re.match(r"\s*bool operator==", line):
+            return
+        if re.fullmatch(r"\s*///.*", line):
+            above += line
+            continue
+        member = re.match(r"\s+([\w:]+(?:<.*>)?) (\w+)(?: =.*?)?;\s*(///.*)?$", line)
+        if member:
+            yield number, member[1], member[2], member[3] or above
+        elif re.match(r"\s+(Integer|FixedArray<.*>) (\w+) =$", line):  # its value is on the next line
+            yield number, line.split()[0], line.split()[-2], above
+        above = ""
+
+
+def check_fields(root):
+    """A field of the job stands in every place that goes through all of them."""
+    state = (root / rules.JOB_STATE).read_text(encoding="utf-8")
+    listed = without((root / rules.JOB_FIELDS).read_text(encoding="utf-8"), ("comment", "string"))
+    routines = without((root / rules.JOB_ROUTINES).read_text(encoding="utf-8"), ("comment",))
+    arrays, reset = (
+        re.search(rf"^void {name}\(.*?^}}", routines, re.DOTALL | re.MULTILINE)[0]
+        for name in ("ForEachTaskArray", "JobReset")
+    )
+    work_starts = line_of(state, state.index(rules.WORKING_VALUES))
+    for line, kind, name, comment in members_of_the_job(state):
+        where = f"{rules.JOB_STATE}:{line}: {name}"
+        per_task = kind.startswith("TaskArray")
+        if per_task and not re.search(rf"\.{name}\b", arrays):
+            yield f"{where} is missing in ForEachTaskArray of {rules.JOB_ROUTINES}"
+        if line > work_starts or re.search("not saved", comment, re.IGNORECASE):
+            continue
+        if not re.search(rf"\bjob\.{name}\b", listed):
+            yield f"{where} is missing in {rules.JOB_FIELDS}, or it is not saved and has to say so"
+        one_a_job = not per_task and not kind.startswith("FixedGrid")
+        if one_a_job and "survives" not in comment and not re.search(rf"\.{name}\b", reset):
+            yield f"{where} is missing in JobReset of {rules.JOB_ROUTINES}, or it has to say survives"
+
+
 def headings(text):
     """The anchors that a page's headings make."""
     for title in re.findall(r"^#+ +(.*?) *$", text, re.MULTILINE):
@@ -152,16 +196,20 @@ def headings(text):
         yield words.replace(" ", "-")
 
 
+GUIDE = "CONTRIBUTING.md"
+
+
 def check_documents(root):
     """Every link of a page leads somewhere, and the architecture page links what it names."""
-    pages = sorted([*root.glob("*.md"), *(root / "docs").rglob("*.md")])
+    folders = [root / folder for folder in ("docs", "assets", *rules.FOLDERS)]
+    pages = sorted([*root.glob("*.md"), *(page for folder in folders for page in folder.rglob("*.md"))])
     architecture = root / "docs" / "architecture.md"
     if architecture not in pages:
         yield "docs/architecture.md: is missing"
     for page in pages:
         name = page.relative_to(root)
-        # Examples in code blocks are no links.
-        text = re.sub(r"^```.*?^```", "", page.read_text("utf-8"), flags=re.DOTALL | re.MULTILINE)
+        # Examples in code blocks are no links; they keep their lines.
+        text = re.sub(r"^```.*?^```", lambda block: "\n" * block[0].count("\n"), page.read_text("utf-8"), flags=re.DOTALL | re.MULTILINE)
         links = re.findall(r"\]\(\s*<?([^)\s>]+)", text)
         links += re.findall(r'\b(?:src|href)="([^"]+)"', text)
         for link in links:
@@ -173,7 +221,12 @@ def check_documents(root):
                 yield f"{name}: the link {link} leads nowhere"
             elif anchor and file.suffix == ".md" and anchor not in headings(file.read_text("utf-8")):
                 yield f"{name}: no heading for the link {link}"
+        for row in re.findall(r"^\|.*\|([^|]*)\| *$", text, re.MULTILINE):
+            if name.as_posix() == GUIDE and not re.search(r"\]\(|^ *go to *$|^-+$", row):
+                yield f"{name}: a row that leads to no file: {row.strip()}"
         if page == architecture:
+            if len(text.splitlines()) > rules.MOST_LINES_OF_THE_ARCHITECTURE:
+                yield f"{name}: more than {rules.MOST_LINES_OF_THE_ARCHITECTURE} lines"
             for span in re.findall(r"(?<!\[)`([\w./-]+)`(?!\]\()", text):
                 if re.search(r"[/.]", span.strip("./")) and (root / span).exists():
                     yield f"{name}: names {span} without a link"
@@ -185,6 +238,7 @@ CHECKS = {
     "raw-calls": check_raw_calls,
     "number-calls": check_number_calls,
     "sizes": check_sizes,
+    "fields": check_fields,
     "documents": check_documents,
 }
 

@@ -9,10 +9,17 @@ import check_sources
 
 CLEAN_TREE = {
     "core/text.h": '#pragma once\n#include <string>\n#include "core/other.h"\n',
+    "core/job_state.h": "struct JobState {\n  std::string JobFileName;  ///< path; not saved\n"
+    "  Integer Hand = 0;\n  Integer Flag = 0;  ///< survives `JobReset`\n  TaskArray<double> Spare;\n"
+    "  // Working values: neither saved nor reset.\n  TaskArray<double> Score;\n"
+    "  bool operator==(const JobState&) const = default;\n};\n",
+    "core/job_fields.h": "Named(job.Hand); Named(job.Flag); Named(job.Spare);\n",
+    "core/job_state.cpp": "void ForEachTaskArray() {\n  action(job.Spare);\n  action(job.Score);\n}\n"
+    "void JobReset() {\n  Module1.Hand = 0;\n}\n",
     "core/number_text.cpp": "#include <charconv>\nauto r = std::from_chars(a, b, value);\n",
     "core/files_posix.cpp": "#include <fcntl.h>\n#include <unistd.h>\n",
     "core/files_windows.cpp": "#include <windows.h>\n",
-    "core/CMakeLists.txt": "add_library(halvane_core STATIC\n  number_text.cpp # why\n"
+    "core/CMakeLists.txt": "add_library(halvane_core STATIC\n  job_state.cpp number_text.cpp # why\n"
     "  $<IF:$<PLATFORM_ID:Windows>,files_windows.cpp,files_posix.cpp>\n)\n",
     "tools/rula/score.cpp": '#include <array>\n#include "core/text.h"\n#include "tools/table.h"\n',
     "tools/rula/frm_rula.h": '#include <QWidget>\n#include "shell/tool_form.h"\n',
@@ -34,8 +41,11 @@ CLEAN_TREE = {
     "add_library(halvane_help STATIC viewer.cpp)\n",
     "reporter/main.cpp": "#include <CLI/CLI.hpp>\nreturn app.exit(error);\n",
     "reporter/CMakeLists.txt": "add_executable(halvane-report main.cpp)\n",
+    "README.md": "# What\n",
     "docs/architecture.md": "# How\n[`core/text.h`](../core/text.h), [above](#how)\n",
 }
+
+STATE = CLEAN_TREE["core/job_state.h"]
 
 # An include of the room above for each room: (file, what it must not include).
 UPWARD = (
@@ -120,6 +130,17 @@ PLANTED = (
         "target_sources(halvane_tools PRIVATE score.cpp frm_rula.cpp)\n",
         "lists frm_rula.cpp for halvane_tools",
     ),
+    *(
+        (label, "fields", "core/job_state.h", state, expected)
+        for label, state, expected in (
+            ("a field that is not written", STATE.replace("Spare;", "Spare;\n  TaskArray<double> New;")
+             .replace("TaskArray<double> New", "FixedGrid<double, 4, 2> New"), "New is missing in core/job_fields.h"),
+            ("a field that is not reset", STATE.replace("  Integer Flag = 0;  ///< survives `JobReset`", "  Integer Flag = 0;"),
+             "Flag is missing in JobReset"),
+            ("a task array that does not grow", STATE.replace("Score;", "Score;\n  TaskArray<double> New;"),
+             "New is missing in ForEachTaskArray"),
+        )
+    ),
     ("a message box", "raw-calls", "shell/a.cpp", "QMessageBox box;\n", "QMessageBox"),
     ("a message box's header", "raw-calls", "shell/a.h", "#include <QMessageBox>\n", "QMessageBox"),
     ("a file dialog", "raw-calls", "tools/hal/frm_hal.cpp", "QFileDialog::getOpenFileName();\n", "QFileDialog"),
@@ -152,6 +173,21 @@ PLANTED = (
     ("a long source", "sizes", "core/a.cpp", "\n" * 501, "501 lines, at most 500"),
     ("a long form header", "sizes", "tools/hal/frm_hal.h", "\n" * 121, "121 lines, at most 120"),
     ("a dead link", "documents", "README.md", "[a](docs/none.md)\n", "docs/none.md leads nowhere"),
+    ("a dead link of a room", "documents", "core/README.md", "[a](none.h)\n", "none.h leads nowhere"),
+    (
+        "a row that leads nowhere",
+        "documents",
+        "CONTRIBUTING.md",
+        "| to change | go to |\n|---|---|\n| all | [here](README.md) |\n| a | `a.cpp` |\n",
+        "leads to no file: `a.cpp`",
+    ),
+    (
+        "a long architecture",
+        "documents",
+        "docs/architecture.md",
+        "# How\n" * 61,
+        "more than 60 lines",
+    ),
     ("a dead picture", "documents", "README.md", '<img src="none.png">\n', "none.png leads nowhere"),
     ("a dead heading", "documents", "README.md", "[a](docs/architecture.md#none)\n", "#none"),
     ("a file named without a link", "documents", "docs/architecture.md", "`core/text.h`\n", "core/text.h"),

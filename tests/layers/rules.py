@@ -59,7 +59,7 @@ ROOMS = tuple(
         ("tool parts", r"tools/[^/]*", ("core",), ("halvane_tools",)),
         (
             "posture screen",
-            r"tools/posture/posture_(frame|page)\.\w+",
+            r"tools/posture/posture_(form|frame|page)\.\w+",
             (*_SHELL_USES, "shell", "tool parts", "posture"),
             ("halvane_forms",),
         ),
@@ -146,5 +146,13 @@ NUMBER_CALLS = tuple(
     )
 )
 
+# The fields of the job, and what goes through them.
+JOB_STATE = "core/job_state.h"
+JOB_FIELDS = "core/job_fields.h"
+JOB_ROUTINES = "core/job_state.cpp"
+WORKING_VALUES = "// Working values: neither saved nor reset"
+
 MOST_LINES = 500
 MOST_LINES_OF_A_FORM_HEADER = 120
+# One screen.
+MOST_LINES_OF_THE_ARCHITECTURE = 60

@@ -70,11 +70,11 @@ TEST(ReportOptions, SummaryIsOfAllToolsOrOfThoseNamed) {
   };
   EXPECT_EQ(parsed({"a"}).wish, Wish::Reports);
   EXPECT_EQ(parsed({"--summary", "a"}).wish, Wish::Summary);
-  // Reports stand in the order of the table, the cells of a summary in their own.
+  // Reports and the cells of a summary stand in the order of the table.
   EXPECT_EQ(parsed({"a"}).tools, (Rows{&tools[0], &tools[1]}));
-  EXPECT_EQ(parsed({"--summary", "a"}).tools, (Rows{&tools[1], &tools[0]}));
-  EXPECT_EQ(parsed({"--summary", "--tool", "grade", "--tool", "index", "a"}).tools,
-            (Rows{&tools[0], &tools[1]}));
+  EXPECT_EQ(parsed({"--summary", "a"}).tools, (Rows{&tools[0], &tools[1]}));
+  EXPECT_EQ(parsed({"--summary", "--tool", "index", "--tool", "grade", "a"}).tools,
+            (Rows{&tools[1], &tools[0]}));
   EXPECT_EQ(parsed({"--summary", "--tool", "index", "a"}).tools, Rows{&tools[1]});
   EXPECT_EQ(parsed({"--summary", "--format", "csv", "a"}).format, ReportFormat::Csv);
   EXPECT_EQ(parsed({"--summary", "a"}).sortBy, nullptr);

@@ -30,10 +30,6 @@ inline constexpr std::string_view kCtdSpanCaption = "Hand Span";
 /// What to do while no posture frame is shown.
 inline constexpr std::string_view kCtdChoosePart = "Choose a body part";
 
-// What the copying of the data file says of its end.
-inline constexpr std::string_view kCtdFileCopied = "File copied!";
-inline constexpr std::string_view kCtdFileNotCopied = "Error. File not moved!";
-
 /// A box for a number: its index in its control array, its label and its field.
 struct CtdBox {
   int index;

@@ -10,7 +10,7 @@
 #include <QVBoxLayout>
 
 #include "core/job_state.h"
-#include "core/program_title.h"
+#include "core/messages.h"
 #include "core/silently.h"
 #include "core/task_list.h"
 #include "platform/platform.h"
@@ -407,8 +407,7 @@ void FrmCTD::CTDcopyPdaFile() {
   const QString source = (platform.ProgramFolder() + kPdaFile).trimmed();
   const QString target = (platform.DataFolder() + kPdaFile).trimmed();
   const bool copied = platform.CopyFile(source, target);
-  platform.ShowMessage(this, kProgramTitle, ScreenText(copied ? kCtdFileCopied : kCtdFileNotCopied),
-                       {Answer::Ok});
+  platform.ShowMessage(this, kProgramTitle, copied ? kFileCopied : kFileNotCopied, {Answer::Ok});
 }
 
 void FrmCTD::writeReport(RichText& RichTextBox1) { CtdComputeAndReport(RichTextBox1); }

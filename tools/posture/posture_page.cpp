@@ -34,6 +34,7 @@ PostureFrame* PosturePage::AddFrame(const FramePlace& place, std::string_view ca
     frames_->addLayout(line, place.row, column, place.rows, 1);
   }
   auto* frame = new PostureFrame(caption, this);
+  if (place.optionsInARow) frame->SetOptionsInARow();
   line->addWidget(frame);
   return frame;
 }

@@ -16,7 +16,8 @@ enum class PageColumn { Left, Right };
 struct FramePlace {
   PageColumn column = PageColumn::Left;
   int row = 0;
-  int rows = 1;  ///< that it takes up
+  int rows = 1;                ///< that it takes up
+  bool optionsInARow = false;  ///< instead of one under another
 };
 
 /// The tab with the inputs of a tool that looks at the regions of the body one by one: the row

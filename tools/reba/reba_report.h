@@ -8,4 +8,7 @@ namespace halvane {
 /// `SubscriptOutOfRange` where `RebaControlState` names a control that there is not.
 void REBA_Report(RichText& RichTextBox1);
 
+/// Computes the job and writes its report. Throws what the two throw.
+void RebaComputeAndReport(RichText& RichTextBox1);
+
 }  // namespace halvane

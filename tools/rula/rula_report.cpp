@@ -1,8 +1,10 @@
 #include "tools/rula/rula_report.h"
 
 #include <array>
+#include <initializer_list>
 
 #include "core/job_state.h"
+#include "tools/posture/posture_report.h"
 #include "tools/report_parts.h"
 #include "tools/rula/rula_controls.h"
 #include "tools/rula/rula_score.h"
@@ -10,8 +12,6 @@
 namespace halvane {
 namespace {
 
-using Ribbons = RulaRibbonArray;
-using Options = RulaOptionArray;
 using Stops = std::array<int, 4>;
 
 constexpr CharacterFormat kTitle{.size = 12, .bold = true, .underline = true};
@@ -24,38 +24,34 @@ constexpr Stops kTotalStops{2500, 4500, 6500, 8000};
 
 std::string Whole(Integer score) { return Format(score, Pattern::Whole); }
 
-int State(int element) { return Module1.RulaControlState.at(element); }
-
 // Add-ons have the report's own wording, which is not always that of their controls.
 void WritePostures(RichText& RichTextBox1) {
-  const auto& wrist = Module1.RulaWristFactors;
-  const auto& upperArm = Module1.RulaUpperArmFactors;
-  const auto& lowerArm = Module1.RulaLowerArmFactors;
-  const auto& neck = Module1.RulaNeckFactors;
-  const auto& trunk = Module1.RulaTrunkFactors;
-  const auto row = [&RichTextBox1](std::string_view region, std::string_view posture,
-                                   Integer factor) {
-    RichTextBox1.Append(kNewLine, region, kTab, posture, kTab, Whole(factor));
+  const auto row = [&RichTextBox1](std::string_view region, RulaControl control) {
+    WritePosture(RichTextBox1, region, RowOf(control));
   };
-  row("Wrist", RulaCaption(Ribbons::SSRibbon3, State(6)), wrist.at(0));
-  row("Wrist", RulaCaption(Options::SSOption4, State(8)), Module1.RulaWristTwistFactor);
-  if (State(7) == 1) row("Wrist", "Side Bent", wrist.at(1));
-  row("Upper Arms", RulaCaption(Ribbons::SSRibbon1, State(0)), upperArm.at(0));
-  if (State(1) == 1) row("Upper Arms", "Shoulder is raised", upperArm.at(1));
-  if (State(2) == 1) row("Upper Arms", "Upper arm is abducted", upperArm.at(2));
-  if (State(3) == 1) row("Upper Arms", "Arm is supported", upperArm.at(3));
-  row("Lower Arms", RulaCaption(Ribbons::SSRibbon2, State(4)), lowerArm.at(0));
-  if (State(5) == 1) row("Lower Arms", "Lower arm cross body midline", lowerArm.at(1));
-  row("Neck", RulaCaption(Ribbons::SSRibbon4, State(9)), neck.at(0));
-  if (State(10) == 1) row("Neck", "Neck is twisting", neck.at(1));
-  if (State(11) == 1) row("Neck", "Neck is side bending", neck.at(2));
-  row("Trunk", RulaCaption(Ribbons::SSRibbon5, State(12)), trunk.at(0));
-  if (State(13) == 1) row("Trunk", "Twisting", trunk.at(1));
-  if (State(14) == 1) row("Trunk", "Side Bend", trunk.at(2));
-  if (State(19) == 1) row("Trunk", "Not well supported while seated", trunk.at(3));
+  const auto ifSet = [&RichTextBox1](std::string_view region, RulaControl control,
+                                     std::initializer_list<std::string_view> wordings) {
+    WriteIfSet(RichTextBox1, region, RowOf(control), wordings);
+  };
+  using enum RulaControl;
+  row("Wrist", Wrist);
+  row("Wrist", WristTwist);
+  ifSet("Wrist", WristSideBent, {"Side Bent"});
+  row("Upper Arms", UpperArms);
+  ifSet("Upper Arms", ShoulderRaised, {"Shoulder is raised"});
+  ifSet("Upper Arms", Abducted, {"Upper arm is abducted"});
+  ifSet("Upper Arms", Supported, {"Arm is supported"});
+  row("Lower Arms", LowerArms);
+  ifSet("Lower Arms", Midline, {"Lower arm cross body midline"});
+  row("Neck", Neck);
+  ifSet("Neck", NeckTwist, {"Neck is twisting"});
+  ifSet("Neck", NeckSideBend, {"Neck is side bending"});
+  row("Trunk", Trunk);
+  ifSet("Trunk", TrunkTwist, {"Twisting"});
+  ifSet("Trunk", TrunkSideBend, {"Side Bend"});
+  ifSet("Trunk", NotSupported, {"Not well supported while seated"});
   // Any other choice prints no legs.
-  if (State(15) == 0) row("Legs", "Legs/feet well-supported", Module1.RulaLegFactor);
-  if (State(15) == 1) row("Legs", "Legs/feet not supported + uneven", Module1.RulaLegFactor);
+  ifSet("Legs", Leg, {"Legs/feet well-supported", "Legs/feet not supported + uneven"});
 }
 
 void WriteTotal(RichText& RichTextBox1, std::string_view parts, Integer posture, Integer total) {
@@ -107,6 +103,11 @@ void RULA_Report(RichText& RichTextBox1) {
   WritePostures(RichTextBox1);
   WriteTotals(RichTextBox1);
   WriteGrandScore(RichTextBox1);
+}
+
+void RulaComputeAndReport(RichText& RichTextBox1) {
+  RULA_Calculate();
+  RULA_Report(RichTextBox1);
 }
 
 }  // namespace halvane

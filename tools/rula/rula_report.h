@@ -8,4 +8,7 @@ namespace halvane {
 /// it was. Throws `SubscriptOutOfRange` for a saved choice that names no ribbon or option.
 void RULA_Report(RichText& RichTextBox1);
 
+/// Computes the job and writes its report. Throws what the two throw.
+void RulaComputeAndReport(RichText& RichTextBox1);
+
 }  // namespace halvane

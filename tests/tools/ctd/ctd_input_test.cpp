@@ -22,8 +22,6 @@ TEST(CtdCaptions, TabsFramesAndButtonsReadAsOnTheForm) {
   EXPECT_EQ(kCtdStrengthCaption, "Strength Data:");
   EXPECT_EQ(kCtdSpanCaption, "Hand Span");
   EXPECT_EQ(kCtdChoosePart, "Choose a body part");
-  EXPECT_EQ(kCtdFileCopied, "File copied!");
-  EXPECT_EQ(kCtdFileNotCopied, "Error. File not moved!");
   const std::array<std::array<std::string_view, 2>, 3> buttons{
       {{"&Add", "Add Task"}, {"&Delete", "Delete Task"}, {"&Edit", "Edit Task"}}};
   for (std::size_t i = 0; i < buttons.size(); ++i) {

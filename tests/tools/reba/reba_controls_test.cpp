@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <string>
 #include <string_view>
@@ -9,6 +10,7 @@
 
 #include "core/job_state.h"
 #include "tests/support/test_support.h"
+#include "tests/tools/reba/reba_support.h"
 
 namespace halvane {
 namespace {
@@ -91,35 +93,46 @@ std::vector<FrameRow> Frames() {
   // clang-format on
 }
 
+bool Holds(const PostureRegion& region, const PostureControl& control) {
+  return std::ranges::any_of(region.controls,
+                             [&](const PostureControl& held) { return &held == &control; });
+}
+
 TEST(RebaTables, FramesRibbonsAndBoxesReadAsOnTheForm) {
   const std::vector<FrameRow> frames = Frames();
   ASSERT_EQ(frames.size(), kRebaRegionCount);
   for (const FrameRow& expected : frames) {
     SCOPED_TRACE(expected.caption);
-    const RebaFrame& frame = RebaFrameOf(expected.region);
-    EXPECT_EQ(frame.caption, expected.caption);
-    EXPECT_EQ(frame.ribbonName, expected.ribbonName);
-    ASSERT_EQ(frame.ribbons.size(), expected.ribbons.size());
+    const auto region = std::ranges::find(kRebaRegions, expected.caption, &PostureRegion::caption);
+    ASSERT_NE(region, kRebaRegions.end());
+    const auto ribbons = RibbonsOf(expected.region);
+    ASSERT_EQ(ribbons.size(), expected.ribbons.size());
     for (std::size_t i = 0; i < expected.ribbons.size(); ++i) {
-      EXPECT_EQ(frame.ribbons[i].caption, expected.ribbons[i].caption);
-      EXPECT_EQ(frame.ribbons[i].toolTip, expected.ribbons[i].toolTip);
-      EXPECT_EQ(frame.ribbons[i].picture, expected.ribbons[i].picture);
-      EXPECT_EQ(frame.ribbons[i].factor, expected.ribbons[i].factor) << i;
-      EXPECT_EQ(frame.ribbons[i].state, expected.ribbons[i].state) << i;
+      const int index = static_cast<int>(i);
+      const PostureControl& control = RibbonControl(expected.region, index);
+      EXPECT_TRUE(Holds(*region, control)) << i;
+      EXPECT_EQ(control.objectName, expected.ribbonName);
+      EXPECT_EQ(ribbons[i].caption, expected.ribbons[i].caption);
+      EXPECT_EQ(ribbons[i].toolTip, expected.ribbons[i].toolTip);
+      EXPECT_EQ(ribbons[i].picture, expected.ribbons[i].picture);
+      EXPECT_EQ(ribbons[i].score, expected.ribbons[i].factor) << i;
+      EXPECT_EQ(control.firstState + index - control.first, expected.ribbons[i].state) << i;
     }
-    ASSERT_EQ(frame.checks.size(), expected.checks.size());
+    const auto boxes = BoxesOf(expected.region);
+    ASSERT_EQ(boxes.size(), expected.checks.size());
     for (std::size_t i = 0; i < expected.checks.size(); ++i) {
-      EXPECT_EQ(frame.checks[i].objectName, expected.checks[i].objectName);
-      EXPECT_EQ(frame.checks[i].caption, expected.checks[i].caption);
-      EXPECT_EQ(frame.checks[i].value, expected.checks[i].value) << i;
-      EXPECT_EQ(frame.checks[i].stateEntry, expected.checks[i].stateEntry) << i;
+      const PostureControl& control = BoxControl(expected.region, static_cast<int>(i));
+      EXPECT_TRUE(Holds(*region, control)) << i;
+      EXPECT_EQ(control.objectName, expected.checks[i].objectName);
+      EXPECT_EQ(boxes[i].caption, expected.checks[i].caption);
+      EXPECT_EQ(boxes[i].score, expected.checks[i].value) << i;
+      EXPECT_EQ(control.state.element, expected.checks[i].stateEntry) << i;
     }
   }
 }
 
 struct GroupRow {
   RebaRegion region;
-  std::size_t group;
   int first, count;
   bool mayBeUp;
   int stateEntry;
@@ -128,32 +141,35 @@ struct GroupRow {
 TEST(RebaTables, SideBentRibbonAndKneePairAreTheGroupsThatMayBeUp) {
   using enum RebaRegion;
   const std::array<GroupRow, 8> rows{{
-      {UpperArms, 0, 0, 5, false, 0},
-      {LowerArms, 0, 0, 3, false, 4},
-      {Wrist, 0, 0, 3, false, 6},
-      {Wrist, 1, 3, 1, true, 7},
-      {Neck, 0, 0, 3, false, 9},
-      {Trunk, 0, 0, 6, false, 12},
-      {Legs, 0, 0, 2, false, 15},
-      {Legs, 1, 2, 2, true, 16},
+      {UpperArms, 0, 5, false, 0},
+      {LowerArms, 0, 3, false, 4},
+      {Wrist, 0, 3, false, 6},
+      {Wrist, 3, 1, true, 7},
+      {Neck, 0, 3, false, 9},
+      {Trunk, 0, 6, false, 12},
+      {Legs, 0, 2, false, 15},
+      {Legs, 2, 2, true, 16},
   }};
-  std::size_t groups = 0;
-  for (const RebaRegion region : kRegions) groups += RebaFrameOf(region).groups.size();
-  ASSERT_EQ(groups, rows.size());
+  const auto groups = std::ranges::count_if(kRebaControls, [](const PostureControl& control) {
+    return control.objectName.starts_with("SSRibbon");
+  });
+  ASSERT_EQ(groups, static_cast<std::ptrdiff_t>(rows.size()));
   for (const GroupRow& row : rows) {
-    SCOPED_TRACE(RebaFrameOf(row.region).caption);
-    ASSERT_GT(RebaFrameOf(row.region).groups.size(), row.group);
-    const RebaRibbonGroup& group = RebaFrameOf(row.region).groups[row.group];
-    EXPECT_EQ(group.first, row.first);
-    EXPECT_EQ(group.count, row.count);
-    EXPECT_EQ(group.mayBeUp, row.mayBeUp);
-    EXPECT_EQ(group.stateEntry, row.stateEntry);
+    SCOPED_TRACE(NamesOf(row.region).caption);
+    const PostureControl& control = RibbonControl(row.region, row.first);
+    EXPECT_EQ(control.first, row.first);
+    EXPECT_EQ(control.count, row.count);
+    EXPECT_EQ(control.mayBeUp(), row.mayBeUp);
+    EXPECT_EQ(control.state.element, row.stateEntry);
   }
 }
 
 TEST(RebaTables, LoadListAndCouplings) {
-  EXPECT_EQ(kRebaLoads, (std::array<std::string_view, 3>{"<5 kg  ", "5-10 kg", ">10 kg "}));
-  EXPECT_EQ(kRebaLoadToolTip, "Force or external load level");
+  const auto loads = RowOf(RebaControl::Load).array;
+  std::vector<std::string_view> entries;
+  for (const PostureChoice& load : loads) entries.push_back(load.caption);
+  EXPECT_EQ(entries, (std::vector<std::string_view>{"<5 kg  ", "5-10 kg", ">10 kg "}));
+  EXPECT_EQ(loads.front().toolTip, "Force or external load level");
   const std::array<std::array<std::string_view, 2>, 4> couplings{{
       {"Good       ", "Well-fitting handle and a mid-range, power grip"},
       {"Fair       ",
@@ -161,10 +177,11 @@ TEST(RebaTables, LoadListAndCouplings) {
       {"Poor        ", "Hand hold not acceptable although possible"},
       {"Unacceptable", "Awkward, unsafe grip, no handle"},
   }};
-  ASSERT_EQ(kRebaCouplings.size(), couplings.size());
+  const auto options = RowOf(RebaControl::Coupling).array;
+  ASSERT_EQ(options.size(), couplings.size());
   for (std::size_t i = 0; i < couplings.size(); ++i) {
-    EXPECT_EQ(kRebaCouplings[i].caption, couplings[i][0]);
-    EXPECT_EQ(kRebaCouplings[i].toolTip, couplings[i][1]);
+    EXPECT_EQ(options[i].caption, couplings[i][0]);
+    EXPECT_EQ(options[i].toolTip, couplings[i][1]);
   }
 }
 
@@ -174,8 +191,8 @@ class RebaForm : public testing::Test {
   /// Which ribbons of a frame are down, "x" a ribbon.
   std::string DownIn(RebaRegion region) const {
     std::string down;
-    for (std::size_t i = 0; i < RebaFrameOf(region).ribbons.size(); ++i) {
-      down += controls_.IsDown(region, static_cast<int>(i)) ? 'x' : '.';
+    for (std::size_t i = 0; i < RibbonsOf(region).size(); ++i) {
+      down += IsDown(controls_, region, static_cast<int>(i)) ? 'x' : '.';
     }
     return down;
   }
@@ -186,18 +203,18 @@ class RebaForm : public testing::Test {
 TEST_F(RebaForm, DesignStateHasNothingChosenDownOrChecked) {
   controls_.Load();
   for (const RebaRegion region : kRegions) {
-    for (std::size_t i = 0; i < RebaFrameOf(region).checks.size(); ++i) {
-      controls_.SetCheck(region, static_cast<int>(i), true);
+    for (std::size_t i = 0; i < BoxesOf(region).size(); ++i) {
+      SetCheck(controls_, region, static_cast<int>(i), true);
     }
   }
   controls_.Reset();
-  EXPECT_EQ(controls_.hand(), RebaControls::kNothingChosen);
-  EXPECT_EQ(controls_.loadLevel(), RebaControls::kNothingChosen);
-  EXPECT_EQ(controls_.coupling(), RebaControls::kNothingChosen);
+  EXPECT_EQ(controls_.hand(), RebaControls::kNone);
+  EXPECT_EQ(controls_.chosen(RowOf(RebaControl::Load)), RebaControls::kNone);
+  EXPECT_EQ(controls_.chosen(RowOf(RebaControl::Coupling)), RebaControls::kNone);
   for (const RebaRegion region : kRegions) {
-    EXPECT_EQ(DownIn(region), std::string(RebaFrameOf(region).ribbons.size(), '.'));
-    for (std::size_t i = 0; i < RebaFrameOf(region).checks.size(); ++i) {
-      EXPECT_FALSE(controls_.IsChecked(region, static_cast<int>(i)));
+    EXPECT_EQ(DownIn(region), std::string(RibbonsOf(region).size(), '.'));
+    for (std::size_t i = 0; i < BoxesOf(region).size(); ++i) {
+      EXPECT_FALSE(IsChecked(controls_, region, static_cast<int>(i)));
     }
   }
 }
@@ -206,13 +223,13 @@ TEST_F(RebaForm, OneRibbonOfAFrameIsDownAtAllTimes) {
   using enum RebaRegion;
   controls_.Load();
   for (const RebaRegion region : {UpperArms, LowerArms, Neck, Trunk}) {
-    for (std::size_t i = 0; i < RebaFrameOf(region).ribbons.size(); ++i) {
-      SCOPED_TRACE(RebaFrameOf(region).caption);
-      std::string down(RebaFrameOf(region).ribbons.size(), '.');
+    for (std::size_t i = 0; i < RibbonsOf(region).size(); ++i) {
+      SCOPED_TRACE(NamesOf(region).caption);
+      std::string down(RibbonsOf(region).size(), '.');
       down[i] = 'x';
-      controls_.ClickRibbon(region, static_cast<int>(i));
+      ClickRibbon(controls_, region, static_cast<int>(i));
       EXPECT_EQ(DownIn(region), down);
-      controls_.ClickRibbon(region, static_cast<int>(i));
+      ClickRibbon(controls_, region, static_cast<int>(i));
       EXPECT_EQ(DownIn(region), down) << "clicked again";
     }
   }
@@ -248,23 +265,27 @@ TEST_F(RebaForm, RibbonsThatMayBeUpAreReleasedByAClick) {
     SetUp();
     controls_.Reset();
     controls_.Load();
-    for (const int index : row.clicks) controls_.ClickRibbon(row.region, index);
+    for (const int index : row.clicks) ClickRibbon(controls_, row.region, index);
     EXPECT_EQ(DownIn(row.region), row.down) << row.label;
   }
 }
 
 TEST_F(RebaForm, IndexThatNamesNoControlFailsAndChangesNothing) {
   for (const RebaRegion region : kRegions) {
-    const RebaFrame& frame = RebaFrameOf(region);
-    SCOPED_TRACE(frame.caption);
-    for (const int index : {-1, static_cast<int>(frame.ribbons.size()), 100}) {
-      EXPECT_EQ(FailureOf([&] { controls_.PressRibbon(region, index); }), "SubscriptOutOfRange");
-      EXPECT_EQ(FailureOf([&] { controls_.ClickRibbon(region, index); }), "SubscriptOutOfRange");
-      EXPECT_EQ(FailureOf([&] { (void)controls_.IsDown(region, index); }), "SubscriptOutOfRange");
+    SCOPED_TRACE(NamesOf(region).caption);
+    const auto ribbons = static_cast<int>(RibbonsOf(region).size());
+    for (const int index : {-1, ribbons, 100}) {
+      if (ribbons == 0) continue;
+      EXPECT_EQ(FailureOf([&] { PressRibbon(controls_, region, index); }), "SubscriptOutOfRange");
+      EXPECT_EQ(FailureOf([&] { ClickRibbon(controls_, region, index); }), "SubscriptOutOfRange");
+      EXPECT_EQ(FailureOf([&] { (void)IsDown(controls_, region, index); }), "SubscriptOutOfRange");
     }
-    for (const int index : {-1, static_cast<int>(frame.checks.size()), 100}) {
-      EXPECT_EQ(FailureOf([&] { controls_.SetCheck(region, index, true); }), "SubscriptOutOfRange");
-      EXPECT_EQ(FailureOf([&] { (void)controls_.IsChecked(region, index); }),
+    const auto boxes = static_cast<int>(BoxesOf(region).size());
+    for (const int index : {-1, boxes, 100}) {
+      if (boxes == 0) continue;
+      EXPECT_EQ(FailureOf([&] { SetCheck(controls_, region, index, true); }),
+                "SubscriptOutOfRange");
+      EXPECT_EQ(FailureOf([&] { (void)IsChecked(controls_, region, index); }),
                 "SubscriptOutOfRange");
     }
   }
@@ -272,10 +293,10 @@ TEST_F(RebaForm, IndexThatNamesNoControlFailsAndChangesNothing) {
     EXPECT_EQ(FailureOf([&] { controls_.ChooseHand(index); }), "SubscriptOutOfRange");
   }
   for (const int index : {-1, 3}) {
-    EXPECT_EQ(FailureOf([&] { controls_.PickLoad(index); }), "SubscriptOutOfRange");
+    EXPECT_EQ(FailureOf([&] { PickLoad(controls_, index); }), "SubscriptOutOfRange");
   }
   for (const int index : {-1, 4}) {
-    EXPECT_EQ(FailureOf([&] { controls_.ChooseCoupling(index); }), "SubscriptOutOfRange");
+    EXPECT_EQ(FailureOf([&] { ChooseCoupling(controls_, index); }), "SubscriptOutOfRange");
   }
   EXPECT_EQ(Module1, JobState{});
 }

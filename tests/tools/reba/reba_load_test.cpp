@@ -8,7 +8,7 @@
 #include "core/job_file.h"
 #include "core/job_state.h"
 #include "tests/support/test_support.h"
-#include "tools/reba/reba_controls.h"
+#include "tests/tools/reba/reba_support.h"
 #include "tools/reba/reba_score.h"
 
 namespace halvane {
@@ -34,24 +34,25 @@ std::string RebaLoad::Set() const {
     set += (set.empty() ? "" : " ") + std::string(name) + std::to_string(index);
   };
   const auto addRegion = [&](RebaRegion region, std::string_view name) {
-    const RebaFrame& frame = RebaFrameOf(region);
-    for (int i = 0; i < static_cast<int>(frame.ribbons.size()); ++i) {
-      if (controls_.IsDown(region, i)) add(name, i);
+    for (int i = 0; i < static_cast<int>(RibbonsOf(region).size()); ++i) {
+      if (IsDown(controls_, region, i)) add(name, i);
     }
-    for (int i = 0; i < static_cast<int>(frame.checks.size()); ++i) {
-      if (controls_.IsChecked(region, i)) add(std::string(name) + "+", i);
+    for (int i = 0; i < static_cast<int>(BoxesOf(region).size()); ++i) {
+      if (IsChecked(controls_, region, i)) add(std::string(name) + "+", i);
     }
   };
-  if (controls_.hand() != RebaControls::kNothingChosen) add("hand", controls_.hand());
+  if (controls_.hand() != RebaControls::kNone) add("hand", controls_.hand());
   addRegion(RebaRegion::UpperArms, "upper");
   addRegion(RebaRegion::LowerArms, "lower");
   addRegion(RebaRegion::Wrist, "wrist");
   addRegion(RebaRegion::Neck, "neck");
   addRegion(RebaRegion::Trunk, "trunk");
   addRegion(RebaRegion::Legs, "leg");
-  if (controls_.loadLevel() != RebaControls::kNothingChosen) add("load", controls_.loadLevel());
+  if (controls_.chosen(RowOf(RebaControl::Load)) != RebaControls::kNone)
+    add("load", controls_.chosen(RowOf(RebaControl::Load)));
   addRegion(RebaRegion::Force, "force");
-  if (controls_.coupling() != RebaControls::kNothingChosen) add("grip", controls_.coupling());
+  if (controls_.chosen(RowOf(RebaControl::Coupling)) != RebaControls::kNone)
+    add("grip", controls_.chosen(RowOf(RebaControl::Coupling)));
   addRegion(RebaRegion::MuscleUse, "use");
   return set;
 }
@@ -299,17 +300,17 @@ TEST_F(RebaNextJob, AddOnFactorGoesWhenItsControlIsUsedAgain) {
   using enum RebaRegion;
   JobReset();
   Load();
-  controls_.SetCheck(UpperArms, 2, true);
-  controls_.SetCheck(UpperArms, 2, false);
+  SetCheck(controls_, UpperArms, 2, true);
+  SetCheck(controls_, UpperArms, 2, false);
   EXPECT_EQ(Factors(), "1 1 1 0 1 1 1 1 1 0 1 1 0 1 2 0 1 0 3");
-  controls_.ClickRibbon(Wrist, 3);
-  controls_.ClickRibbon(Wrist, 3);
+  ClickRibbon(controls_, Wrist, 3);
+  ClickRibbon(controls_, Wrist, 3);
   EXPECT_EQ(Factors(), "1 1 1 0 1 1 0 1 1 0 1 1 0 1 2 0 1 0 3");
-  controls_.ClickRibbon(Legs, 2);
+  ClickRibbon(controls_, Legs, 2);
   EXPECT_EQ(Factors(), "1 1 1 0 1 1 0 1 1 0 1 1 0 1 1 0 1 0 3");
-  controls_.ClickRibbon(Legs, 2);
+  ClickRibbon(controls_, Legs, 2);
   EXPECT_EQ(Factors(), "1 1 1 0 1 1 0 1 1 0 1 1 0 1 0 0 1 0 3");
-  controls_.SetCheck(MuscleUse, 0, true);
+  SetCheck(controls_, MuscleUse, 0, true);
   EXPECT_EQ(Factors(), "1 1 1 0 1 1 0 1 1 0 1 1 0 1 0 0 1 0 1");
 }
 
@@ -318,8 +319,8 @@ TEST_F(RebaNextJob, OpenClearsTheAddOnFactorsButTheActivity) {
   EXPECT_EQ(Factors(), "1 0 0 0 1 1 0 1 0 0 1 0 0 1 0 0 0 0 3");
   REBA_Calculate();
   EXPECT_EQ(Module1.RebaGrandScore, 4);
-  controls_.SetCheck(RebaRegion::MuscleUse, 1, true);
-  controls_.SetCheck(RebaRegion::MuscleUse, 1, false);
+  SetCheck(controls_, RebaRegion::MuscleUse, 1, true);
+  SetCheck(controls_, RebaRegion::MuscleUse, 1, false);
   EXPECT_EQ(Factors(), kFreshFactors);
 }
 

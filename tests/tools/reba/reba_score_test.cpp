@@ -10,7 +10,7 @@
 
 #include "core/job_state.h"
 #include "tests/support/test_support.h"
-#include "tools/reba/reba_controls.h"
+#include "tests/tools/reba/reba_support.h"
 
 namespace halvane {
 namespace {
@@ -262,22 +262,22 @@ TEST_F(RebaScore, LargestJobReachesTheLastCellAnd15) {
   using enum RebaRegion;
   LoadFreshForm();
   RebaControls controls;
-  controls.PressRibbon(Trunk, 3);
-  controls.SetCheck(Trunk, 0, true);
-  controls.PressRibbon(Neck, 2);
-  controls.SetCheck(Neck, 0, true);
-  controls.PressRibbon(Legs, 1);
-  controls.PressRibbon(Legs, 3);
-  controls.PressRibbon(UpperArms, 4);
-  controls.SetCheck(UpperArms, 0, true);
-  controls.SetCheck(UpperArms, 1, true);
-  controls.PressRibbon(LowerArms, 2);
-  controls.PressRibbon(Wrist, 1);
-  controls.PressRibbon(Wrist, 3);
-  controls.PickLoad(2);
-  controls.SetCheck(Force, 0, true);
-  controls.ChooseCoupling(3);
-  for (const int box : {0, 1, 2}) controls.SetCheck(MuscleUse, box, true);
+  PressRibbon(controls, Trunk, 3);
+  SetCheck(controls, Trunk, 0, true);
+  PressRibbon(controls, Neck, 2);
+  SetCheck(controls, Neck, 0, true);
+  PressRibbon(controls, Legs, 1);
+  PressRibbon(controls, Legs, 3);
+  PressRibbon(controls, UpperArms, 4);
+  SetCheck(controls, UpperArms, 0, true);
+  SetCheck(controls, UpperArms, 1, true);
+  PressRibbon(controls, LowerArms, 2);
+  PressRibbon(controls, Wrist, 1);
+  PressRibbon(controls, Wrist, 3);
+  PickLoad(controls, 2);
+  SetCheck(controls, Force, 0, true);
+  ChooseCoupling(controls, 3);
+  for (const int box : {0, 1, 2}) SetCheck(controls, MuscleUse, box, true);
   REBA_Calculate();
   EXPECT_EQ(Module1.RebaScoreA, 9);
   EXPECT_EQ(Module1.RebaScoreB, 9);
@@ -290,10 +290,10 @@ TEST_F(RebaScore, LargestJobReachesTheLastCellAnd15) {
 TEST_F(RebaScore, SupportedNeutralArmScores0AndLeavesTheActivityAlone) {
   RebaControls controls;
   controls.Load();
-  controls.SetCheck(RebaRegion::UpperArms, 2, true);
-  controls.PressRibbon(RebaRegion::Trunk, 3);
+  SetCheck(controls, RebaRegion::UpperArms, 2, true);
+  PressRibbon(controls, RebaRegion::Trunk, 3);
   for (int activity = 0; activity <= 3; ++activity) {
-    if (activity > 0) controls.SetCheck(RebaRegion::MuscleUse, activity - 1, true);
+    if (activity > 0) SetCheck(controls, RebaRegion::MuscleUse, activity - 1, true);
     REBA_Calculate();
     EXPECT_EQ(Module1.RebaUpperArmScore, 0);
     EXPECT_EQ(Module1.RebaScoreA, 3);
@@ -302,7 +302,7 @@ TEST_F(RebaScore, SupportedNeutralArmScores0AndLeavesTheActivityAlone) {
     EXPECT_EQ(Module1.RebaGrandScore, activity);
   }
   // A coupling brings the table back.
-  controls.ChooseCoupling(1);
+  ChooseCoupling(controls, 1);
   REBA_Calculate();
   EXPECT_EQ(Module1.RebaScoreBTotal, 1);
   EXPECT_EQ(Module1.RebaGrandScore, 3 + 3);

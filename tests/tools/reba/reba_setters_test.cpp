@@ -7,7 +7,7 @@
 
 #include "core/job_state.h"
 #include "tests/support/test_support.h"
-#include "tools/reba/reba_controls.h"
+#include "tests/tools/reba/reba_support.h"
 
 namespace halvane {
 namespace {
@@ -35,19 +35,19 @@ Integer& Activity(JobState& job) { return job.RebaActivityFactor; }
 using Action = std::function<void(RebaControls&)>;
 
 Action Click(RebaRegion region, int index) {
-  return [=](RebaControls& controls) { controls.ClickRibbon(region, index); };
+  return [=](RebaControls& controls) { ClickRibbon(controls, region, index); };
 }
 Action Check(RebaRegion region, int index) {
-  return [=](RebaControls& controls) { controls.SetCheck(region, index, true); };
+  return [=](RebaControls& controls) { SetCheck(controls, region, index, true); };
 }
 Action Uncheck(RebaRegion region, int index) {
-  return [=](RebaControls& controls) { controls.SetCheck(region, index, false); };
+  return [=](RebaControls& controls) { SetCheck(controls, region, index, false); };
 }
 Action PickLoad(int index) {
-  return [=](RebaControls& controls) { controls.PickLoad(index); };
+  return [=](RebaControls& controls) { PickLoad(controls, index); };
 }
 Action Couple(int index) {
-  return [=](RebaControls& controls) { controls.ChooseCoupling(index); };
+  return [=](RebaControls& controls) { ChooseCoupling(controls, index); };
 }
 
 /// One event of a form that has loaded an empty job and seen the events `before`: what it leaves in
@@ -188,22 +188,22 @@ TEST_F(RebaSetters, ControlThatIsSetAlreadyRunsNothing) {
   using enum RebaRegion;
   RebaControls controls;
   controls.Load();
-  controls.SetCheck(UpperArms, 2, true);
-  controls.SetCheck(MuscleUse, 1, true);
-  controls.PressRibbon(Legs, 2);
+  SetCheck(controls, UpperArms, 2, true);
+  SetCheck(controls, MuscleUse, 1, true);
+  PressRibbon(controls, Legs, 2);
   Module1 = JobState{};
   controls.ChooseHand(0);
   for (const RebaRegion region : {UpperArms, LowerArms, Wrist, Neck, Trunk, Legs}) {
-    controls.PressRibbon(region, 0);
-    controls.ClickRibbon(region, 0);
+    PressRibbon(controls, region, 0);
+    ClickRibbon(controls, region, 0);
   }
-  controls.PressRibbon(Legs, 2);
-  controls.PickLoad(0);
-  controls.ChooseCoupling(0);
-  controls.SetCheck(UpperArms, 2, true);
-  controls.SetCheck(UpperArms, 0, false);
-  controls.SetCheck(MuscleUse, 1, true);
-  controls.SetCheck(MuscleUse, 2, false);
+  PressRibbon(controls, Legs, 2);
+  PickLoad(controls, 0);
+  ChooseCoupling(controls, 0);
+  SetCheck(controls, UpperArms, 2, true);
+  SetCheck(controls, UpperArms, 0, false);
+  SetCheck(controls, MuscleUse, 1, true);
+  SetCheck(controls, MuscleUse, 2, false);
   EXPECT_EQ(Module1, JobState{});
 }
 
@@ -213,8 +213,8 @@ TEST_F(RebaSetters, NoSetterChangesAScore) {
   Module1.RebaUpperArmScore = 5;
   RebaControls controls;
   controls.Load();
-  controls.PressRibbon(UpperArms, 4);
-  controls.SetCheck(MuscleUse, 0, true);
+  PressRibbon(controls, UpperArms, 4);
+  SetCheck(controls, MuscleUse, 0, true);
   EXPECT_EQ(Module1.RebaGrandScore, 12);
   EXPECT_EQ(Module1.RebaUpperArmScore, 5);
 }
@@ -225,7 +225,7 @@ TEST_F(RebaSetters, KneeRibbonOfAFormWithoutStabilityClearsTheStability) {
     Module1.RebaLegFactors.at(0) = 2;
     Module1.RebaControlState.at(15) = 2;
     RebaControls controls;
-    controls.ClickRibbon(RebaRegion::Legs, knee);
+    ClickRibbon(controls, RebaRegion::Legs, knee);
     EXPECT_EQ(Module1.RebaLegFactors.at(0), 0) << knee;
     EXPECT_EQ(Module1.RebaControlState.at(15), 0) << knee;
     EXPECT_EQ(Module1.RebaLegFactors.at(1), knee - 1);
@@ -239,9 +239,9 @@ TEST_F(RebaSetters, MuscleUseSumsWhateverIsSaved) {
   Module1.RebaControlState.at(22) = -2;
   controls.Load();
   EXPECT_EQ(Module1.RebaActivityFactor, 0) << "none of them is a checked box";
-  controls.SetCheck(RebaRegion::MuscleUse, 0, true);
+  SetCheck(controls, RebaRegion::MuscleUse, 0, true);
   EXPECT_EQ(Module1.RebaActivityFactor, 4);
-  controls.SetCheck(RebaRegion::MuscleUse, 1, true);
+  SetCheck(controls, RebaRegion::MuscleUse, 1, true);
   EXPECT_EQ(Module1.RebaActivityFactor, 0) << "1 + 1 - 2";
 }
 
@@ -251,7 +251,7 @@ TEST_F(RebaSetters, MuscleUseBeyond16BitsOverflowsAndLeavesNothingCounted) {
   Module1.RebaControlState.at(21) = 32767;
   Module1.RebaControlState.at(22) = -5;
   RebaControls controls;
-  EXPECT_EQ(FailureOf([&] { controls.SetCheck(RebaRegion::MuscleUse, 0, true); }), "Overflow");
+  EXPECT_EQ(FailureOf([&] { SetCheck(controls, RebaRegion::MuscleUse, 0, true); }), "Overflow");
   EXPECT_EQ(Module1.RebaActivityFactor, 0);
   EXPECT_EQ(Module1.RebaControlState.at(20), 1);
   EXPECT_EQ(Module1.JobDirty, kTrue);

@@ -77,61 +77,65 @@ constexpr auto kCaptionTexts = std::to_array<CaptionText>({
 TEST(RulaCaptions, RibbonsHaveTheirCaptionsTipsAndPictures) {
   for (const RibbonText& row : kRibbonTexts) {
     SCOPED_TRACE((RulaControlName{row.array, row.index}.text()));
-    const RulaRibbonRow& array = RulaRibbonsOf(RibbonsNamed(row.array));
-    EXPECT_EQ(array.objectName, row.array);
-    const RulaRibbon& ribbon = array.ribbons[static_cast<std::size_t>(row.index)];
+    const PostureControl& control = RowNamed({row.array, row.index});
+    EXPECT_EQ(control.objectName, row.array);
+    const PostureChoice& ribbon = ChoiceAt(control, row.index);
     EXPECT_EQ(ribbon.caption, row.caption);
     EXPECT_EQ(ribbon.toolTip, row.toolTip);
     EXPECT_EQ(ribbon.picture, row.picture);
-    EXPECT_EQ(RulaCaption(RibbonsNamed(row.array), row.index), row.caption);
   }
 }
 
 TEST(RulaCaptions, BoxesAndOptionsHaveTheirCaptions) {
   for (const CaptionText& row : kCaptionTexts) {
     SCOPED_TRACE((RulaControlName{row.array, row.index}.text()));
-    const auto i = static_cast<std::size_t>(row.index);
-    if (row.array.starts_with("SSCheck")) {
-      const RulaCheckRow& array = RulaChecksOf(ChecksNamed(row.array));
-      EXPECT_EQ(array.objectName, row.array);
-      EXPECT_EQ(array.checks[i].caption, row.caption);
-    } else {
-      const RulaOptionRow& array = RulaOptionsOf(OptionsNamed(row.array));
-      EXPECT_EQ(array.objectName, row.array);
-      EXPECT_EQ(array.options[i].caption, row.caption);
-      EXPECT_EQ(RulaCaption(OptionsNamed(row.array), row.index), row.caption);
-    }
+    const PostureControl& control = RowNamed({row.array, row.index});
+    EXPECT_EQ(WidgetName(control, row.index), (RulaControlName{row.array, row.index}.text()));
+    EXPECT_EQ(ChoiceAt(control, row.index).caption, row.caption);
   }
 }
 
 TEST(RulaCaptions, ArraysHaveTheirSizes) {
   std::vector<int> sizes;
   for (const char* name : kRibbonNames) {
-    const RulaRibbonRow& row = RulaRibbonsOf(RibbonsNamed(name));
-    sizes.push_back(static_cast<int>(row.ribbons.size()));
-    sizes.push_back(row.groupSize);
-    EXPECT_EQ(row.hasAddOn(), row.objectName == "SSRibbon2" || row.objectName == "SSRibbon3");
+    const PostureControl& control = RowNamed({name, 0});
+    sizes.push_back(static_cast<int>(control.array.size()));
+    sizes.push_back(control.count);
+    const bool hasAddOn = RowNamed({name, control.count}).kind == PostureKind::AddOns;
+    EXPECT_EQ(hasAddOn, control.objectName == "SSRibbon2" || control.objectName == "SSRibbon3");
   }
   EXPECT_EQ(sizes, (std::vector<int>{5, 5, 3, 2, 6, 5, 4, 4, 4, 4}));
   sizes.clear();
-  for (const char* name : kCheckNames) {
-    sizes.push_back(static_cast<int>(RulaChecksOf(ChecksNamed(name)).checks.size()));
-  }
-  for (const char* name : kOptionNames) {
-    sizes.push_back(static_cast<int>(RulaOptionsOf(OptionsNamed(name)).options.size()));
-  }
+  for (const char* name : kCheckNames) sizes.push_back(static_cast<int>(ChoicesOf(name).size()));
+  for (const char* name : kOptionNames) sizes.push_back(static_cast<int>(ChoicesOf(name).size()));
   EXPECT_EQ(sizes, (std::vector<int>{3, 2, 3, 2, 2, 4, 2}));
 }
 
 TEST(RulaCaptions, IndexWithoutCaptionFails) {
   for (const int index : {-1, 6, 100}) {
-    EXPECT_EQ(FailureOf([&] { RulaCaption(RulaRibbonArray::SSRibbon3, index); }),
+    EXPECT_EQ(FailureOf([&] {
+                ChoiceAt(RowNamed({"SSRibbon3", 0}), index);
+              }),
               "SubscriptOutOfRange");
   }
   for (const int index : {-1, 2}) {
-    EXPECT_EQ(FailureOf([&] { RulaCaption(RulaOptionArray::SSOption4, index); }),
+    EXPECT_EQ(FailureOf([&] {
+                ChoiceAt(RowNamed({"SSOption4", 0}), index);
+              }),
               "SubscriptOutOfRange");
   }
+}
+
+/// The one array of a kind in a frame, without the index of a widget; empty: there is none.
+std::string_view ArrayIn(const PostureRegion& frame, std::string_view kind) {
+  std::string_view found;
+  for (const PostureControl& control : frame.controls) {
+    if (!control.objectName.starts_with(kind)) continue;
+    const std::string_view name = control.objectName.substr(0, kind.size() + 1);
+    EXPECT_TRUE(found.empty() || found == name) << frame.caption;
+    found = name;
+  }
+  return found;
 }
 
 TEST(RulaCaptions, FramesHoldTheirArrays) {
@@ -149,12 +153,12 @@ TEST(RulaCaptions, FramesHoldTheirArrays) {
       {"Muscle Use", "", "SSCheck4", "", ""},
   }};
   for (std::size_t i = 0; i < rows.size(); ++i) {
-    const RulaFrame& frame = kRulaFrames.at(i);
+    const PostureRegion& frame = kRulaRegions.at(i);
     EXPECT_EQ(frame.caption, rows.at(i).caption);
-    EXPECT_EQ(frame.ribbons ? RulaRibbonsOf(*frame.ribbons).objectName : "", rows.at(i).ribbons);
-    EXPECT_EQ(frame.checks ? RulaChecksOf(*frame.checks).objectName : "", rows.at(i).checks);
-    EXPECT_EQ(frame.options ? RulaOptionsOf(*frame.options).objectName : "", rows.at(i).options);
-    EXPECT_EQ(frame.panelCaption, rows.at(i).panel);
+    EXPECT_EQ(ArrayIn(frame, "SSRibbon"), rows.at(i).ribbons);
+    EXPECT_EQ(ArrayIn(frame, "SSCheck"), rows.at(i).checks);
+    EXPECT_EQ(ArrayIn(frame, "SSOption"), rows.at(i).options);
+    EXPECT_EQ(frame.optionsPanel, rows.at(i).panel);
   }
 }
 
@@ -318,7 +322,7 @@ TEST_F(RulaSetters, UncheckingNotSupportedClearsNothing) {
   EXPECT_EQ(Module1, expected);
   EXPECT_EQ(Module1.RulaTrunkFactors.at(3), 1);
   EXPECT_EQ(Module1.RulaControlState.at(19), 1);
-  EXPECT_FALSE(controls_.IsChecked(RulaCheckArray::SSCheck3, 2));
+  EXPECT_FALSE(IsOn(controls_, {"SSCheck3", 2}));
 }
 
 TEST_F(RulaSetters, UncheckingSideBendClearsNotSupportedToo) {
@@ -332,7 +336,7 @@ TEST_F(RulaSetters, UncheckingSideBendClearsNotSupportedToo) {
   expected.RulaControlState.at(19) = 0;
   TurnOff(controls_, {"SSCheck3", 1});
   EXPECT_EQ(Module1, expected);
-  EXPECT_TRUE(controls_.IsChecked(RulaCheckArray::SSCheck3, 2)) << "the box itself stays checked";
+  EXPECT_TRUE(IsOn(controls_, {"SSCheck3", 2})) << "the box itself stays checked";
 }
 
 TEST_F(RulaSetters, UncheckingTwistingLeavesNotSupported) {
@@ -402,16 +406,8 @@ TEST_F(RulaSetters, IndexThatNamesNoControlFailsAndChangesNothing) {
     for (const RulaControlName& name :
          {beyond, RulaControlName{beyond.array, -1}, RulaControlName{beyond.array, 100}}) {
       EXPECT_EQ(FailureOf([&] { TurnOn(controls_, name); }), "SubscriptOutOfRange") << name.text();
-      if (name.array.starts_with("SSOption")) continue;
       EXPECT_EQ(FailureOf([&] { TurnOff(controls_, name); }), "SubscriptOutOfRange") << name.text();
-      EXPECT_EQ(FailureOf([&] {
-                  if (name.array.starts_with("SSRibbon")) {
-                    (void)controls_.IsDown(RibbonsNamed(name.array), name.index);
-                  } else {
-                    (void)controls_.IsChecked(ChecksNamed(name.array), name.index);
-                  }
-                }),
-                "SubscriptOutOfRange")
+      EXPECT_EQ(FailureOf([&] { (void)IsOn(controls_, name); }), "SubscriptOutOfRange")
           << name.text();
     }
   }

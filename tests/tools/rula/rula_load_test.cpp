@@ -158,8 +158,8 @@ TEST_F(RulaLoad, TwistAndLegThatAreNotZeroAreTheSecondOption) {
     EXPECT_EQ(Module1.RulaLegFactor, 2) << value;
     EXPECT_EQ(Module1.RulaControlState.at(8), 1) << value;
     EXPECT_EQ(Module1.RulaControlState.at(15), 1) << value;
-    EXPECT_EQ(controls_.chosen(RulaOptionArray::SSOption1), 1) << value;
-    EXPECT_EQ(controls_.chosen(RulaOptionArray::SSOption4), 1) << value;
+    EXPECT_EQ(controls_.chosen(RowNamed({"SSOption1", 0})), 1) << value;
+    EXPECT_EQ(controls_.chosen(RowNamed({"SSOption4", 0})), 1) << value;
   }
 }
 
@@ -169,7 +169,7 @@ TEST_F(RulaLoad, ForceThatIsNoneOfTheFourChoosesNoneAndKeepsItsFactor) {
     Module1.RulaForceFactor = 2;
     Module1.RulaControlState.at(17) = value;
     Show();
-    EXPECT_EQ(controls_.chosen(RulaOptionArray::SSOption3), RulaControls::kNone) << value;
+    EXPECT_EQ(controls_.chosen(RowNamed({"SSOption3", 0})), RulaControls::kNone) << value;
     EXPECT_EQ(Module1.RulaForceFactor, 2) << value;
     EXPECT_EQ(Module1.RulaControlState.at(17), value);
   }
@@ -346,7 +346,7 @@ TEST_F(RulaCarryOver, OpenedJobWithOneMuscleBoxHasItsOwnMuscleFactor) {
 
 TEST_F(RulaCarryOver, OpenedJobOfAnUnknownForceKeepsTheForceOfTheJobBefore) {
   Open(EmptyJobWith(6 + 17, "4"));
-  EXPECT_EQ(controls_.chosen(RulaOptionArray::SSOption3), RulaControls::kNone);
+  EXPECT_EQ(controls_.chosen(RowNamed({"SSOption3", 0})), RulaControls::kNone);
   EXPECT_EQ(Module1.RulaForceFactor, 3);
 }
 
@@ -355,10 +355,10 @@ TEST_F(RulaCarryOver, NotSupportedThatWasUncheckedIsCheckedAgainAtTheNextLoad) {
   RULA_Calculate();
   EXPECT_EQ(Module1.RulaTrunkFactors.at(3), 1);
   Show();
-  EXPECT_TRUE(controls_.IsChecked(RulaCheckArray::SSCheck3, 2));
+  EXPECT_TRUE(IsOn(controls_, {"SSCheck3", 2}));
   TurnOff(controls_, {"SSCheck3", 1});
   Show();
-  EXPECT_FALSE(controls_.IsChecked(RulaCheckArray::SSCheck3, 2));
+  EXPECT_FALSE(IsOn(controls_, {"SSCheck3", 2}));
   EXPECT_EQ(Module1.RulaTrunkFactors.at(3), 0);
 }
 

@@ -243,12 +243,12 @@ TEST_F(RulaReport, RowShowsTheCaptionOfItsChoiceWithTrailingBlanks) {
   });
   FillRulaFactors(9);
   for (const CaptionRow& row : kRows) {
-    const RulaRibbonArray array = RibbonsNamed(row.array);
-    const auto count = static_cast<int>(RulaRibbonsOf(array).ribbons.size());
+    const auto choices = ChoicesOf(row.array);
+    const auto count = static_cast<int>(choices.size());
     for (int i = 0; i < count; ++i) {
       Module1.RulaControlState.at(row.state) = static_cast<Integer>(i);
-      const std::string line =
-          "\r\n" + std::string(row.region) + "\t" + std::string(RulaCaption(array, i)) + "\t9\r\n";
+      const std::string caption(choices[static_cast<std::size_t>(i)].caption);
+      const std::string line = "\r\n" + std::string(row.region) + "\t" + caption + "\t9\r\n";
       EXPECT_NE(Write().find(line), std::string::npos) << row.array << i << pane_.text();
     }
     for (const int index : {-1, count}) {

@@ -1,11 +1,12 @@
 #pragma once
 
-#include <stdexcept>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "core/job_state.h"
+#include "tests/tools/posture/posture_support.h"
 #include "tools/rula/rula_controls.h"
 
 namespace halvane {
@@ -20,48 +21,27 @@ struct RulaControlName {
   }
 };
 
-inline RulaRibbonArray RibbonsNamed(std::string_view name) {
-  if (name == "SSRibbon1") return RulaRibbonArray::SSRibbon1;
-  if (name == "SSRibbon2") return RulaRibbonArray::SSRibbon2;
-  if (name == "SSRibbon3") return RulaRibbonArray::SSRibbon3;
-  if (name == "SSRibbon4") return RulaRibbonArray::SSRibbon4;
-  if (name == "SSRibbon5") return RulaRibbonArray::SSRibbon5;
-  throw std::invalid_argument(std::string(name));
-}
-
-inline RulaCheckArray ChecksNamed(std::string_view name) {
-  if (name == "SSCheck1") return RulaCheckArray::SSCheck1;
-  if (name == "SSCheck2") return RulaCheckArray::SSCheck2;
-  if (name == "SSCheck3") return RulaCheckArray::SSCheck3;
-  if (name == "SSCheck4") return RulaCheckArray::SSCheck4;
-  throw std::invalid_argument(std::string(name));
-}
-
-inline RulaOptionArray OptionsNamed(std::string_view name) {
-  if (name == "SSOption1") return RulaOptionArray::SSOption1;
-  if (name == "SSOption3") return RulaOptionArray::SSOption3;
-  if (name == "SSOption4") return RulaOptionArray::SSOption4;
-  throw std::invalid_argument(std::string(name));
+inline const PostureControl& RowNamed(RulaControlName name) {
+  return ControlNamed(kRulaControls, name.array, name.index);
 }
 
 /// Presses, checks or chooses a control, as the user does.
 inline void TurnOn(RulaControls& controls, RulaControlName name) {
-  if (name.array.starts_with("SSRibbon")) {
-    controls.PressRibbon(RibbonsNamed(name.array), name.index);
-  } else if (name.array.starts_with("SSCheck")) {
-    controls.SetCheck(ChecksNamed(name.array), name.index, true);
-  } else {
-    controls.ChooseOption(OptionsNamed(name.array), name.index);
-  }
+  controls.Set(RowNamed(name), name.index);
 }
 
 /// Releases or unchecks a control, as the user does.
 inline void TurnOff(RulaControls& controls, RulaControlName name) {
-  if (name.array.starts_with("SSRibbon")) {
-    controls.ReleaseRibbon(RibbonsNamed(name.array), name.index);
-  } else {
-    controls.SetCheck(ChecksNamed(name.array), name.index, false);
-  }
+  controls.Release(RowNamed(name), name.index);
+}
+
+inline bool IsOn(const RulaControls& controls, RulaControlName name) {
+  return controls.IsSet(RowNamed(name), name.index);
+}
+
+/// The choices of a control array.
+inline std::span<const PostureChoice> ChoicesOf(std::string_view array) {
+  return RowNamed({array, 0}).array;
 }
 
 /// The controls that are set, by frame: "SSRibbon1(0) SSCheck1(1) ...". A hand is "Hand(1)".
@@ -73,21 +53,11 @@ inline std::string SetControls(const RulaControls& controls) {
   };
   if (controls.hand() != RulaControls::kNone) add("Hand", controls.hand());
   for (const std::string_view name :
-       {"SSRibbon1", "SSRibbon2", "SSRibbon3", "SSRibbon4", "SSRibbon5"}) {
-    const auto count = static_cast<int>(RulaRibbonsOf(RibbonsNamed(name)).ribbons.size());
-    for (int i = 0; i < count; ++i) {
-      if (controls.IsDown(RibbonsNamed(name), i)) add(name, i);
+       {"SSRibbon1", "SSRibbon2", "SSRibbon3", "SSRibbon4", "SSRibbon5", "SSCheck1", "SSCheck2",
+        "SSCheck3", "SSCheck4", "SSOption1", "SSOption3", "SSOption4"}) {
+    for (int i = 0; i < static_cast<int>(ChoicesOf(name).size()); ++i) {
+      if (IsOn(controls, {name, i})) add(name, i);
     }
-  }
-  for (const std::string_view name : {"SSCheck1", "SSCheck2", "SSCheck3", "SSCheck4"}) {
-    const auto count = static_cast<int>(RulaChecksOf(ChecksNamed(name)).checks.size());
-    for (int i = 0; i < count; ++i) {
-      if (controls.IsChecked(ChecksNamed(name), i)) add(name, i);
-    }
-  }
-  for (const std::string_view name : {"SSOption1", "SSOption3", "SSOption4"}) {
-    const int chosen = controls.chosen(OptionsNamed(name));
-    if (chosen != RulaControls::kNone) add(name, chosen);
   }
   return text;
 }
