@@ -342,8 +342,9 @@ TEST_F(FileReplacementTest, UsersOwnFilesStay) {
 
 TEST_F(FileReplacementTest, FileThatAnotherProgramKeepsLockedIsNotWritten) {
   WriteBytes(path_, "old");
-  const files::Descriptor other(files::Open(path_, 0));
-  ASSERT_EQ(flock(other.get(), LOCK_EX), 0);
+  files::File other;
+  ASSERT_FALSE(other.Open(path_, files::Access::Read));
+  ASSERT_FALSE(other.TryLock());
   EXPECT_EQ(MessageOf([this] { FileReplacement file(path_); }),
             "File error: " + path_ + ": another program is using it. Nothing was written");
   EXPECT_EQ(BytesOf(path_), "old");
@@ -377,8 +378,9 @@ TEST_F(FileReplacementTest, NewFileIsLockedUntilItsSaveIsOver) {
     // The folder's turn comes when the file has its name already.
     if (!Exists(path_)) return 0;
     looked = true;
-    const files::Descriptor other(files::Open(path_, 0));
-    EXPECT_NE(flock(other.get(), LOCK_EX | LOCK_NB), 0);
+    files::File other;
+    EXPECT_FALSE(other.Open(path_, files::Access::Read));
+    EXPECT_EQ(other.TryLock(), std::errc::operation_would_block);
     return 0;
   };
   Replace(path_, "new");

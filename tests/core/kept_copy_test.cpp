@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "core/checksum.h"
+#include "core/file_calls.h"
 #include "tests/core/test_support.h"
 
 namespace halvane {
@@ -211,11 +212,11 @@ TEST_F(KeptCopyTest, TargetIsTheFileBehindAllLinks) {
   std::filesystem::create_symlink("real", folder_.File("folder"));
   std::filesystem::create_symlink("folder/b.qjt", folder_.File("a.qjt"));
   const std::string real = std::filesystem::canonical(folder_.File("real")).string();
-  EXPECT_EQ(TargetOf(folder_.File("a.qjt")), real + "/b.qjt");
+  EXPECT_EQ(files::TargetOf(folder_.File("a.qjt")), real + "/b.qjt");
   WriteBytes(folder_.File("real/b.qjt"), "");
-  EXPECT_EQ(TargetOf(folder_.File("a.qjt")), real + "/b.qjt");
-  EXPECT_EQ(TargetOf(folder_.File("real/../folder/b.qjt")), real + "/b.qjt");
-  EXPECT_EQ(TargetOf("/missing/b.qjt"), "/missing/b.qjt");
+  EXPECT_EQ(files::TargetOf(folder_.File("a.qjt")), real + "/b.qjt");
+  EXPECT_EQ(files::TargetOf(folder_.File("real/../folder/b.qjt")), real + "/b.qjt");
+  EXPECT_EQ(files::TargetOf("/missing/b.qjt"), "/missing/b.qjt");
 }
 
 }  // namespace

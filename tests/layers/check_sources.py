@@ -70,8 +70,9 @@ def may_include(path, included):
         return False
     if system[1] in rules.STANDARD_HEADERS or layer not in rules.HEADLESS_LAYERS:
         return True
-    if system[1] in rules.POSIX_HEADERS:
-        return bool(rules.POSIX_FILE.fullmatch(path.name))
+    for headers, files in rules.SYSTEMS:
+        if system[1] in headers:
+            return bool(files.fullmatch(path.name))
     if system[1] == rules.HELP_UNPACKER.get(path.as_posix()):
         return True
     return layer == "reporter" and bool(rules.REPORTER_LIBRARIES.match(system[1]))

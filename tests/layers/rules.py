@@ -25,8 +25,13 @@ POSIX_HEADERS = frozenset(
     """.split()
 )
 
+WINDOWS_HEADERS = frozenset("sddl.h shellapi.h shlobj.h windows.h".split())
+
 # Code for one operating system stands in files that say so.
-POSIX_FILE = re.compile(r"\w+_posix\.cpp")
+SYSTEMS = (
+    (POSIX_HEADERS, re.compile(r"\w+_posix\.cpp")),
+    (WINDOWS_HEADERS, re.compile(r"\w+_windows\.(h|cpp)")),
+)
 
 REPORTER_LIBRARIES = re.compile(r"(CLI|nlohmann)/")
 
