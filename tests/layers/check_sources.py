@@ -73,7 +73,7 @@ def may_include(path, included):
     for headers, files in rules.SYSTEMS:
         if system[1] in headers:
             return bool(files.fullmatch(path.name))
-    if system[1] == rules.HELP_UNPACKER.get(path.as_posix()):
+    if system[1] == rules.HEADERS_OF_ONE_FILE.get(path.as_posix()):
         return True
     return layer == "reporter" and bool(rules.REPORTER_LIBRARIES.match(system[1]))
 

@@ -71,6 +71,7 @@ PLANTED = (
     ("a raw call behind a literal", "raw-calls", "core/a.cpp", 'f("//"); std::exit(1);\n', "exit"),
     ("a raw call behind digits", "raw-calls", "core/a.cpp", "f(1'000); std::exit(1); f('a');\n", "exit"),
     ("atof", "number-calls", "core/a.cpp", "auto v = atof(t);\n", "atof"),
+    ("strtod_l", "number-calls", "core/a.cpp", "auto v = strtod_l(t, 0, l);\n", "strtod_l"),
     ("strtod", "number-calls", "tools/hal/a.cpp", "auto v = std::strtod(t, 0);\n", "strtod"),
     ("stod", "number-calls", "reporter/a.cpp", "auto v = std::stod(t);\n", "stod"),
     ("QString::number", "number-calls", "shell/a.cpp", "QString::number(v);\n", "QString::number"),

@@ -21,7 +21,7 @@ STANDARD_HEADERS = frozenset(
 POSIX_HEADERS = frozenset(
     """
     dirent.h fcntl.h poll.h pthread.h pwd.h signal.h sys/file.h sys/mman.h sys/resource.h
-    sys/stat.h sys/time.h sys/types.h sys/uio.h sys/wait.h termios.h unistd.h
+    sys/select.h sys/stat.h sys/time.h sys/types.h sys/uio.h sys/wait.h termios.h unistd.h
     """.split()
 )
 
@@ -37,8 +37,8 @@ REPORTER_LIBRARIES = re.compile(r"(CLI|nlohmann)/")
 
 # The reader of help files is headless; the rest of help/ is the window that shows them.
 HELP_READER = re.compile(r"help/(help_(archive|contents|file|markup)|verify_help_file)\.(h|cpp)")
-# One file knows the unpacker.
-HELP_UNPACKER = {"help/help_archive.cpp": "mspack.h"}
+# What one file alone knows: the unpacker, and locales that are not the user's.
+HEADERS_OF_ONE_FILE = {"help/help_archive.cpp": "mspack.h", "core/number_text.cpp": "xlocale.h"}
 
 # The sources of the program; tests and generators are no layer.
 FOLDERS = ("core", "tools", "shell", "help", "reporter")
@@ -79,7 +79,10 @@ NUMBER_TEXT = "core/number_text.cpp"
 NUMBER_CALLS = tuple(
     (name, re.compile(pattern), allowed)
     for name, pattern, allowed in (
-        ("reads a number", r"\b(ato[fil]|atoll|strto\w+|sto(d|f|ld|i|l|ll|ul|ull))\s*\(", ()),
+        ("reads a number", r"\b(ato[fil]|atoll|sto(d|f|ld|i|l|ll|ul|ull))\s*\(", ()),
+        ("reads a number", r"\bstrto(?!d_l\b)\w+\s*\(", ()),
+        # With a locale of its own.
+        ("reads a number", r"\bstrtod_l\s*\(", (NUMBER_TEXT,)),
         ("reads a number", r"\bv?s?scanf\s*\(|\bto(Double|Float|Int|UInt|Long|Short)\s*\(", ()),
         ("converts a number", r"\b(from|to)_chars\b|<charconv>", (NUMBER_TEXT,)),
         ("writes a number", r"\bQString::(number|asprintf)\b|\bsetNum\s*\(|\bQLocale\b", ()),
