@@ -126,7 +126,8 @@ std::error_code File::GetStatus(Status& status) const {
 }
 
 std::error_code File::ReadSome(char* buffer, std::size_t size, std::size_t& count) {
-  const ssize_t result = Again([&] { return read(static_cast<int>(handle_), buffer, size); });
+  const ssize_t result =
+      Again([this, buffer, size] { return read(static_cast<int>(handle_), buffer, size); });
   if (result < 0) return ErrorOf(errno);
   count = static_cast<std::size_t>(result);
   return {};
@@ -147,7 +148,7 @@ std::error_code File::WriteAll(std::string_view bytes, std::size_t& written) {
   while (written < bytes.size()) {
     const std::string_view rest = bytes.substr(written);
     const ssize_t count =
-        Again([&] { return write(static_cast<int>(handle_), rest.data(), rest.size()); });
+        Again([this, rest] { return write(static_cast<int>(handle_), rest.data(), rest.size()); });
     if (count < 0) return ErrorOf(errno);
     written += static_cast<std::size_t>(count);
   }
@@ -165,7 +166,7 @@ std::error_code File::Sync() {
 
 std::error_code File::CutTo(std::uint64_t size) {
   const auto length = static_cast<off_t>(size);
-  return Done([&] { return ftruncate(static_cast<int>(handle_), length); });
+  return Done([this, length] { return ftruncate(static_cast<int>(handle_), length); });
 }
 
 std::error_code File::Reserve(std::uint64_t size) {

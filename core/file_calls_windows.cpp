@@ -91,9 +91,17 @@ Opening OpeningFor(Access access) {
   return {GENERIC_READ, OPEN_EXISTING, 0};
 }
 
-/// Why a path cannot be opened: of a folder the system says that it may not be.
+/// Whether the last name of a path is longer than any file system of this system takes.
+bool IsNameTooLong(const std::wstring& path) {
+  constexpr std::size_t kLongestName = 255;
+  return path.size() - path.find_last_of(L'\\') - 1 > kLongestName;
+}
+
+/// Why a path cannot be opened: of a folder the system says that it may not be, of a name that is
+/// too long that it is none.
 std::error_code WhyNot(const std::wstring& path) {
   const std::error_code error = LastError();
+  if (IsNameTooLong(path)) return std::make_error_code(std::errc::filename_too_long);
   if (error != std::errc::permission_denied) return error;
   const DWORD attributes = GetFileAttributesW(path.c_str());
   const bool isFolder =

@@ -31,6 +31,10 @@ std::string NewStandsIn(const std::string& copy) {
   throw RuntimeFailure(FailureKind::FileError, path + ": " + reason);
 }
 
+[[noreturn]] void RefuseAsInUse(const std::string& path) {
+  Refuse(path, "another program is using it. Nothing was written");
+}
+
 /// A checksum that no other save has, here or in another program.
 std::string PassingMark(const std::string& target) {
   const auto now = std::chrono::steady_clock::now().time_since_epoch().count();
@@ -67,6 +71,7 @@ bool FileReplacement::OpenExisting() {
   do {
     const std::error_code error = OpenWhenShared();
     if (error == std::errc::no_such_file_or_directory) return false;
+    if (error == std::errc::device_or_resource_busy) RefuseAsInUse(path_);
     if (error) files::Fail(path_, error, UntouchedSentence());
     files::Status status;
     if (const auto unknown = file_.GetStatus(status)) {
@@ -100,9 +105,7 @@ void FileReplacement::Lock() {
   const auto end = std::chrono::steady_clock::now() + kLongestWait;
   // A file system without locks, which gives any other error, lets everybody write at any time.
   while (file_.TryLock() == std::errc::operation_would_block) {
-    if (std::chrono::steady_clock::now() > end) {
-      Refuse(path_, "another program is using it. Nothing was written");
-    }
+    if (std::chrono::steady_clock::now() > end) RefuseAsInUse(path_);
     std::this_thread::sleep_for(kWaitStep);
   }
 }
