@@ -8,9 +8,9 @@ bool ContinuesCharacter(char byte) { return (static_cast<unsigned char>(byte) & 
 
 }  // namespace
 
-std::string_view FileNameOf(std::string_view path) { return path.substr(path.rfind('/') + 1); }
+std::string_view FileNameOf(std::string_view path) { return path.substr(LengthOfFolder(path)); }
 
-std::string_view FolderOf(std::string_view path) { return path.substr(0, path.rfind('/') + 1); }
+std::string_view FolderOf(std::string_view path) { return path.substr(0, LengthOfFolder(path)); }
 
 std::string_view ShortenedName(std::string_view name, std::size_t bytes) {
   if (name.size() <= bytes) return name;

@@ -3,6 +3,8 @@
 #include <cstdint>
 #include <string>
 
+#include "core/file_calls.h"
+
 namespace halvane {
 
 /// A file opened for reading. Every failure is a `RuntimeFailure` of kind `FileError` that names
@@ -11,9 +13,6 @@ class InputFile {
  public:
   /// Throws for a path that cannot be opened or is no regular file (a folder, a pipe, a device).
   explicit InputFile(const std::string& path);
-  ~InputFile();
-  InputFile(const InputFile&) = delete;
-  InputFile& operator=(const InputFile&) = delete;
 
   /// The whole content as bytes, of a longer file the first `most` of them. Throws as
   /// `TestUnchanged` does.
@@ -30,20 +29,12 @@ class InputFile {
   [[noreturn]] void FailAsChanged() const;
 
  private:
-  /// What changes when somebody writes into the file, as well as the system can tell.
-  struct Stamp {
-    std::int64_t size = 0;
-    std::int64_t seconds = 0;
-    std::int64_t nanoseconds = 0;
-    bool operator==(const Stamp&) const = default;
-  };
-
   /// One try to read, which may give less than there is.
   std::size_t ReadSome(std::uint64_t position, char* buffer, std::size_t size) const;
 
   std::string path_;
-  int descriptor_ = -1;
-  Stamp opened_;
+  files::File file_;
+  files::Status opened_;
 };
 
 }  // namespace halvane

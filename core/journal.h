@@ -6,6 +6,8 @@
 #include <string_view>
 #include <vector>
 
+#include "core/file_calls.h"
+
 namespace halvane {
 
 /// What a journal holds.
@@ -32,7 +34,7 @@ class Journal {
   /// `folder` is made at the first write.
   explicit Journal(std::string folder) : folder_(std::move(folder)) {}
   /// The file stays; `Remove` removes it.
-  ~Journal();
+  ~Journal() = default;
   Journal(const Journal&) = delete;
   Journal& operator=(const Journal&) = delete;
 
@@ -46,11 +48,12 @@ class Journal {
 
  private:
   bool Replace(const std::string& text);
+  bool Place(const std::string& part, const std::string& path);
 
   std::string folder_;
   std::string path_;
-  std::string text_;     ///< what stands in it
-  int descriptor_ = -1;  ///< holds the lock
+  std::string text_;  ///< what stands in it
+  files::File file_;  ///< holds the lock
 };
 
 /// Hands each journal that a program which is dead has left in `folder` to `keep`, in the order of

@@ -10,11 +10,7 @@ namespace halvane {
 /// `<name>.<checksum of its content>.previous`, or, where that name cannot stand or in a folder
 /// that is not the job's, `<beginning of the name>.<checksum of the job's path>.<...>.previous`. So
 /// it tells by itself that it is whole, and nothing else is taken for one. Until it is whole
-/// `.part` stands behind its name.
-
-/// The file behind `path`, symbolic links followed, whether it exists or not. The functions below
-/// take such a path.
-std::string TargetOf(const std::string& path);
+/// `.part` stands behind its name. The functions below take a path that `files::TargetOf` gives.
 
 /// The names in the job's own folder under which files for `target` may stand, without their ends:
 /// the next one is for where the one before is too long.

@@ -5,9 +5,23 @@
 #include <charconv>
 #include <cmath>
 #include <cstdlib>
+#include <limits>
+#include <string>
 #include <system_error>
 
 #include "core/runtime_failure.h"
+
+// The library of one of the systems that this is to be built on writes doubles but does not read
+// them.
+#if !defined(HALVANE_WITHOUT_FROM_CHARS) && \
+    (!defined(_LIBCPP_VERSION) || defined(__cpp_lib_to_chars))
+#define HALVANE_FROM_CHARS
+#else
+#include <clocale>
+#ifdef __APPLE__
+#include <xlocale.h>
+#endif
+#endif
 
 namespace halvane {
 namespace {
@@ -49,6 +63,7 @@ std::size_t NumberLength(std::string_view text) {
   return end;
 }
 
+#ifdef HALVANE_FROM_CHARS
 /// Whether a number that does not fit a double is too small rather than too large: the sign of the
 /// decimal exponent of its first digit that counts.
 bool IsTiny(std::string_view number) {
@@ -69,16 +84,26 @@ bool IsTiny(std::string_view number) {
   const std::size_t point = std::min(mantissa.find('.'), mantissa.size());
   return exponent + static_cast<long>(point) - static_cast<long>(first) < 0;
 }
+#endif
 
-/// The value of `number`, which has to be a number from end to end.
-double ValueOf(std::string_view number) {
-  if (number.front() == '+') number.remove_prefix(1);
+/// The value of `number`, which has to be a number from end to end, as a double; infinite beyond
+/// one, and 0 for what is too small.
+double NearestDouble(std::string_view number) {
+#ifdef HALVANE_FROM_CHARS
   double value = 0;
   const auto [end, error] = std::from_chars(number.data(), number.data() + number.size(), value);
-  if (error == std::errc::result_out_of_range) {
-    if (IsTiny(number)) return 0;
-    throw RuntimeFailure(FailureKind::Overflow);
-  }
+  if (error != std::errc::result_out_of_range) return value;
+  return IsTiny(number) ? 0 : std::numeric_limits<double>::infinity();
+#else
+  // Whatever the user's locale, the point is the decimal separator.
+  static const locale_t plain = newlocale(LC_ALL_MASK, "C", nullptr);
+  return strtod_l(std::string(number).c_str(), nullptr, plain);
+#endif
+}
+
+double ValueOf(std::string_view number) {
+  if (number.front() == '+') number.remove_prefix(1);
+  const double value = NearestDouble(number);
   if (!std::isfinite(value)) throw RuntimeFailure(FailureKind::Overflow);
   return value;
 }
@@ -149,8 +174,7 @@ std::string PlainText(double value) {
   auto end = std::to_chars(begin, begin + buffer.size(), value, std::chars_format::general,
                            kSignificantDigits)
                  .ptr;
-  double back = 0;
-  if (std::from_chars(begin, end, back).ec != std::errc{} || !std::isfinite(back)) {
+  if (!std::isfinite(NearestDouble({begin, end}))) {
     // The 15 digits of the very largest doubles round up to a number beyond a double.
     end = std::to_chars(begin, begin + buffer.size(), std::copysign(1.79769313486231E+308, value),
                         std::chars_format::general, kSignificantDigits)

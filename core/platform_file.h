@@ -39,6 +39,8 @@ class FileReplacement {
  private:
   /// Opens the file and waits for its turn; false when there is none.
   bool OpenExisting();
+  /// Waits while another program lets nobody write.
+  std::error_code OpenWhenShared();
   /// What stands at a path that could not be opened; empty where that cannot be said.
   [[nodiscard]] std::string UntouchedSentence() const;
   void Lock();
@@ -52,13 +54,11 @@ class FileReplacement {
   /// Writes over the old content. `sentence` tells what `copy` holds, for a failure; the copy goes
   /// while the old content is whole.
   void Overwrite(std::string_view bytes, const KeptCopy& copy, const std::string& sentence);
-  /// The error number when the disk has no room for so many bytes, else 0.
-  int Reserve(std::size_t size);
 
   std::string path_;
   std::string target_;  ///< behind symbolic links
   std::string part_;    ///< of a file that is not there yet, else empty
-  files::Descriptor file_;
+  files::File file_;
   bool isRegular_ = true;
 };
 

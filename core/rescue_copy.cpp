@@ -2,11 +2,9 @@
 
 #include <algorithm>
 #include <exception>
-#include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <optional>
 
+#include "core/file_calls.h"
 #include "core/file_name.h"
 #include "core/job_file.h"
 #include "core/platform_file.h"
@@ -54,8 +52,8 @@ bool IsNameOfCopy(std::string_view name, std::string_view jobFileName, std::size
                         name == RescueName(jobFileName, 1, longest));
 }
 
-/// A place for a copy: a folder with a slash behind it (empty: the current one), and how long names
-/// may be in it.
+/// A place for a copy: a folder with a separator behind it (empty: the current one), and how long
+/// names may be in it.
 struct Place {
   std::string folder;
   std::size_t longest = kLongestFileName;
@@ -64,9 +62,8 @@ struct Place {
 /// Whether a file system takes no such name; one that has a shorter limit than others says so of a
 /// file that is not there, too.
 bool IsTooLong(const std::string& path) {
-  std::error_code error;
-  const auto status = std::filesystem::symlink_status(path, error);
-  return !std::filesystem::exists(status) && error == std::errc::filename_too_long;
+  files::Status status;
+  return files::StatusOfName(path, status) == std::errc::filename_too_long;
 }
 
 Place PlaceIn(std::string folder, std::string_view jobFileName) {
@@ -78,36 +75,26 @@ Place PlaceIn(std::string folder, std::string_view jobFileName) {
   return place;
 }
 
-std::string WithSlash(std::string folder) {
-  if (!folder.ends_with('/')) folder += '/';
-  return folder;
-}
-
 bool HasBytes(const std::string& path, const std::string& bytes) {
-  std::error_code error;
+  files::File file;
+  files::Status status;
   // A link may lead to a file that somebody changes meanwhile.
-  if (!std::filesystem::is_regular_file(std::filesystem::symlink_status(path, error))) return false;
-  if (std::filesystem::file_size(path, error) != bytes.size() || error) return false;
-  std::ifstream file(path, std::ios::binary);
-  return std::string(std::istreambuf_iterator<char>(file), {}) == bytes;
+  if (file.Open(path, files::Access::ReadItself) || file.GetStatus(status)) return false;
+  if (status.kind != files::Kind::Regular || status.size != bytes.size()) return false;
+  std::string found;
+  return !files::ReadWhole(file, bytes.size(), found) && found == bytes;
 }
 
 /// The copy with these bytes that stands in a place already. Copies are looked for by what their
 /// names may be: somebody may have removed one with a lower number.
 std::optional<std::string> FindEqual(const Place& place, std::string_view jobFileName,
                                      const std::string& bytes) {
-  std::vector<std::string> found;
-  std::error_code error;
-  const std::string folder = place.folder.empty() ? "." : place.folder;
-  for (std::filesystem::directory_iterator entry(folder, error), end; !error && entry != end;
-       entry.increment(error)) {
-    const std::string name = entry->path().filename().string();
-    if (IsNameOfCopy(name, jobFileName, place.longest) && HasBytes(place.folder + name, bytes)) {
-      found.push_back(place.folder + name);
-    }
-  }
+  const auto found = files::NamesIn(place.folder, [&](std::string_view name) {
+    return IsNameOfCopy(name, jobFileName, place.longest) &&
+           HasBytes(place.folder + std::string(name), bytes);
+  });
   if (found.empty()) return std::nullopt;
-  return *std::ranges::min_element(found);
+  return place.folder + *std::ranges::min_element(found);
 }
 
 /// Writes under the first name that is free.
@@ -146,7 +133,7 @@ std::string WriteRescueCopy(const std::string& jobFile, const std::string& bytes
   std::vector<Place> places;
   if (!jobFile.empty()) places.push_back(PlaceIn(std::string(FolderOf(jobFile)), name));
   for (const std::string& folder : folders) {
-    if (!folder.empty()) places.push_back(PlaceIn(WithSlash(folder), name));
+    if (!folder.empty()) places.push_back(PlaceIn(WithSeparator(folder), name));
   }
   for (const Place& place : places) {
     if (auto equal = FindEqual(place, name, bytes)) return *equal;

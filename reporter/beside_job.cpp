@@ -1,15 +1,15 @@
 #include "reporter/beside_job.h"
 
 #include <algorithm>
-#include <fstream>
-#include <iterator>
+#include <cstdint>
 #include <optional>
 
 #include "core/checksum.h"
+#include "core/file_calls.h"
 #include "core/file_name.h"
+#include "core/folder_reader.h"
 #include "core/journal.h"
 #include "core/rescue_copy.h"
-#include "reporter/folder_reader.h"
 #include "reporter/job_check.h"
 
 namespace halvane {
@@ -61,8 +61,8 @@ bool IsKeptCopy(std::string_view name, std::string_view target, bool forManyJobs
 bool HasJobOfItsOwn(const std::string& folder, const std::string& copy, std::string_view jobFile) {
   if (copy == RescueName(jobFile, 1, kLongestFileName)) return false;
   std::string own = copy.substr(0, copy.size() - kRescueEnd.size()) + ".qjt";
-  std::error_code ignored;
-  return own != jobFile && std::filesystem::exists(folder + own, ignored);
+  files::Status status;
+  return own != jobFile && !files::StatusOf(folder + own, status);
 }
 
 /// What the names of all that belongs to a job file begin with.
@@ -74,36 +74,40 @@ std::string CommonStart(std::string_view path) {
 }
 
 std::optional<JournalEntry> JournalAt(const std::string& path) {
-  std::error_code ignored;
-  if (!std::filesystem::is_regular_file(path, ignored)) return std::nullopt;
-  std::ifstream file(path, std::ios::binary);
-  return ReadJournal(std::string(std::istreambuf_iterator<char>(file), {}));
+  files::File file;
+  files::Status status;
+  if (file.Open(path, files::Access::Read) || file.GetStatus(status)) return std::nullopt;
+  if (status.kind != files::Kind::Regular) return std::nullopt;
+  std::string text;
+  if (files::ReadWhole(file, SIZE_MAX, text)) return std::nullopt;
+  return ReadJournal(text);
 }
 
 /// The path from the root of a job file in a folder, links followed, whether it exists or not.
-std::string TargetOf(const std::string& file, const std::filesystem::path& folder) {
-  std::error_code error;
-  if (std::filesystem::is_symlink(std::filesystem::symlink_status(file, error))) {
-    const std::filesystem::path target = std::filesystem::canonical(file, error);
-    if (!error) return target.string();
+std::string TargetOf(const std::string& file, const std::string& folder) {
+  files::Status status;
+  if (!files::StatusOfName(file, status) && status.kind == files::Kind::Link) {
+    std::string target = files::WholePathOf(file);
+    if (!target.empty()) return target;
   }
-  return (folder / FileNameOf(file)).string();
+  return WithSeparator(folder).append(FileNameOf(file));
 }
 
 bool IsSameFile(const std::string& a, const std::string& target) {
   if (a == target) return true;
   if (a.empty() || FileNameOf(a) != FileNameOf(target)) return false;
-  std::error_code ignored;
-  return std::filesystem::equivalent(a, target, ignored);
+  files::Status status;
+  files::Status targetStatus;
+  return !files::StatusOf(a, status) && !files::StatusOf(target, targetStatus) &&
+         status.IsSameFileAs(targetStatus);
 }
 
 }  // namespace
 
 BesideJob::Listing BesideJob::Read(const std::string& folder) {
   Listing listing{folder, {}, {}, {}};
-  std::error_code error;
   const std::string path = folder.empty() ? "." : folder;
-  listing.whole = std::filesystem::canonical(path, error);
+  listing.whole = files::WholePathOf(path);
   FolderReader reader(path);
   while (reader.Next()) {
     std::string name(reader.name());
@@ -133,16 +137,16 @@ const BesideJob::Listing& BesideJob::ListingOf(const std::string& folder) {
 
 void BesideJob::AppendTo(std::vector<JobProblem>& problems, const std::string& file) {
   const std::string folder(FolderOf(file));
-  const std::filesystem::path whole = ListingOf(folder).whole;
+  const std::string whole = ListingOf(folder).whole;
   const std::string target = TargetOf(file, whole);
   AppendFrom(ListingOf(folder), Place::Beside, {file, target}, problems);
   // What a save keeps stands beside the file itself, not beside a link to it.
   const std::string targetFolder(FolderOf(target));
-  if (targetFolder != whole / "") {
+  if (targetFolder != WithSeparator(whole)) {
     AppendFrom(ListingOf(targetFolder), Place::BesideTarget, {file, target}, problems);
   }
   if (!stateFolder_.empty()) {
-    AppendFrom(ListingOf(stateFolder_ + '/'), Place::State, {file, target}, problems);
+    AppendFrom(ListingOf(WithSeparator(stateFolder_)), Place::State, {file, target}, problems);
   }
 }
 

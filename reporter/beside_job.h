@@ -1,6 +1,5 @@
 #pragma once
 
-#include <filesystem>
 #include <list>
 #include <string>
 #include <vector>
@@ -30,7 +29,7 @@ class BesideJob {
   /// What of a folder may belong to a job file.
   struct Listing {
     std::string folder;                 ///< as paths to it begin
-    std::filesystem::path whole;        ///< the same from the root, links followed
+    std::string whole;                  ///< the same from the root, links followed
     std::vector<std::string> names;     ///< of copies, sorted
     std::vector<JournalFile> journals;  ///< sorted by name
   };

@@ -45,7 +45,7 @@ void AppendCheckText(std::string& out, std::string_view file, const JobCheck& ch
       out += ": \"" + PrintableText(found) + "\"";
     }
     out += ": " + PrintableText(problem.message);
-    out += kPlatformLineEnd;
+    out += kLineEnd;
   }
 }
 

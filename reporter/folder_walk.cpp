@@ -3,8 +3,10 @@
 #include <algorithm>
 
 #include "core/ascii.h"
+#include "core/file_calls.h"
+#include "core/file_name.h"
+#include "core/folder_reader.h"
 #include "core/runtime_failure.h"
-#include "reporter/folder_reader.h"
 
 namespace halvane {
 namespace {
@@ -41,7 +43,7 @@ std::string WantedName(const FolderReader& entry) {
 FolderWalk::FolderWalk(std::string folder) { Enter(std::move(folder)); }
 
 void FolderWalk::Enter(std::string path) {
-  if (!path.ends_with('/')) path += '/';
+  if (!FileNameOf(path).empty()) path += '/';
   levels_.push_back({std::move(path), {}, {}, false});
 }
 
@@ -73,7 +75,7 @@ std::optional<std::string> FolderWalk::Refill(Level& level) {
   if (!names.empty()) level.last = names.front();
   if (!reader.error()) return std::nullopt;
   level.isComplete = true;
-  return RuntimeFailure(FailureKind::FileError, level.path + ": " + reader.error().message())
+  return RuntimeFailure(FailureKind::FileError, level.path + ": " + files::ReasonOf(reader.error()))
       .what();
 }
 

@@ -1,5 +1,7 @@
 #include "reporter/input.h"
 
+#include "core/file_calls.h"
+
 namespace halvane {
 namespace {
 
@@ -19,7 +21,7 @@ InputLines::Line InputLines::Read(std::vector<std::string>& complaints) {
       const std::size_t count = ReadInput(block_, error);
       rest_ = std::string_view(block_.data(), count);
       if (error) {
-        complaints.push_back("standard input: " + error.message());
+        complaints.push_back("standard input: " + files::ReasonOf(error));
         // It may be half a name.
         line.text.clear();
       }

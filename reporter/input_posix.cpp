@@ -1,4 +1,4 @@
-#include <poll.h>
+#include <sys/select.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -36,8 +36,11 @@ std::size_t ReadInput(std::span<char> room, std::error_code& error) {
   // the waiting would else be noted when it is over.
   const InterruptionsHeld held;
   while (!IsInterrupted()) {
-    pollfd input{STDIN_FILENO, POLLIN, 0};
-    if (ppoll(&input, 1, nullptr, &held.before()) < 0 && errno == EINTR) continue;
+    fd_set input;
+    FD_ZERO(&input);
+    FD_SET(STDIN_FILENO, &input);
+    const int ready = pselect(STDIN_FILENO + 1, &input, nullptr, nullptr, nullptr, &held.before());
+    if (ready < 0 && errno == EINTR) continue;
     const ssize_t count = read(STDIN_FILENO, room.data(), room.size());
     if (count >= 0) return static_cast<std::size_t>(count);
     error = {errno, std::generic_category()};

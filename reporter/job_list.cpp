@@ -1,16 +1,8 @@
 #include "reporter/job_list.h"
 
-#include <filesystem>
+#include "core/file_calls.h"
 
 namespace halvane {
-namespace {
-
-bool IsFolder(const std::string& path) {
-  std::error_code ignored;
-  return std::filesystem::is_directory(path, ignored);
-}
-
-}  // namespace
 
 JobList::JobList(std::vector<std::string> names, bool fromInput)
     : names_(std::move(names)), fromInput_(fromInput) {}
@@ -19,7 +11,7 @@ std::optional<std::string> JobList::Next(std::vector<std::string>& complaints) {
   while (true) {
     if (auto path = NextInFolder(complaints)) return path;
     auto name = NextName(complaints);
-    if (!name || !IsFolder(*name)) return name;
+    if (!name || !files::IsFolder(*name)) return name;
     folder_.emplace(*name);
     folderName_ = *std::move(name);
     folderHasFiles_ = false;

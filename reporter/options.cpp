@@ -154,7 +154,7 @@ Options Collect(std::span<const ToolRow> tools, Given given) {
 
 std::string WrongUse(std::string_view complaint) {
   const std::string name(kProgramName);
-  const std::string lineEnd(kPlatformLineEnd);
+  const std::string lineEnd(kLineEnd);
   return name + ": " + PrintableText(complaint) + lineEnd + "Run \"" + name +
          " --help\" for the options." + lineEnd;
 }
@@ -168,6 +168,8 @@ std::variant<Options, Notice> ParseOptions(std::vector<std::string> arguments,
       "Prints the reports of the tools on job files, one line a job, or what is wrong with "
       "the files.",
       std::string(kProgramName));
+  // A path from the root begins with a slash wherever the program runs.
+  app.allow_windows_style_options(false);
   app.set_version_flag("--version", std::string(kProgramName) + " " + HALVANE_VERSION);
   const auto isTool = [tools](const std::string& key) { return ToolComplaint(tools, key); };
   app.add_option("--tool", given.tools, ToolHelp(tools))

@@ -6,8 +6,9 @@
 
 namespace halvane {
 
-/// How lines of text end on this system.
-extern const std::string_view kPlatformLineEnd;
+/// How lines of text end: the same everywhere, so that what the program writes on one system can be
+/// compared with what it writes on another.
+inline constexpr std::string_view kLineEnd = "\n";
 
 /// Standard output takes no more: a closed pipe, a full disk. The message is the system's reason.
 class OutputFailure : public std::runtime_error {

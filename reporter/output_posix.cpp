@@ -9,8 +9,6 @@
 
 namespace halvane {
 
-const std::string_view kPlatformLineEnd = "\n";
-
 StandardOutput::StandardOutput() { std::signal(SIGPIPE, SIG_IGN); }
 
 void StandardOutput::Flush() {

@@ -26,7 +26,7 @@ constexpr int kInterrupted = 130;
 
 void Complain(const std::string& complaint) {
   WriteErrorText(std::string(kProgramName) + ": " + PrintableText(complaint) +
-                 std::string(kPlatformLineEnd));
+                 std::string(kLineEnd));
 }
 
 int WriteNotice(StandardOutput& output, const Notice& notice) {

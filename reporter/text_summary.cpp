@@ -86,7 +86,7 @@ void TextSummary::End(std::string& out) {
       out += cells[i].text;
       blanks = kGap + (cells[i].isNumber ? 0 : rest);
     }
-    out += kPlatformLineEnd;
+    out += kLineEnd;
   };
   append(headings);
   for (const Cells& cells : rows_) append(cells);

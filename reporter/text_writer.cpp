@@ -66,7 +66,7 @@ class Table {
         out += row.cells[i];
         column = starts[i] + CharacterCount(row.cells[i]);
       }
-      out += kPlatformLineEnd;
+      out += kLineEnd;
     }
     rows_.clear();
   }
@@ -111,7 +111,7 @@ void AppendLine(std::string& out, const Paragraph& paragraph) {
   const std::string text = CellsOf(paragraph).front();
   if (!text.empty()) out.append(Indent(paragraph.format.alignment, CharacterCount(text)), ' ');
   out += text;
-  out += kPlatformLineEnd;
+  out += kLineEnd;
 }
 
 bool HasTab(const Paragraph& paragraph) {
@@ -123,11 +123,11 @@ bool HasTab(const Paragraph& paragraph) {
 
 void TextWriter::AppendHeading(std::string& out, std::string_view file, const ToolRow& tool) {
   if (!withHeadings_) return;
-  if (!isFirst_) out += kPlatformLineEnd;
+  if (!isFirst_) out += kLineEnd;
   isFirst_ = false;
   out += "===== " + PrintableText(file) + ": " + std::string(tool.key) + " =====";
-  out += kPlatformLineEnd;
-  out += kPlatformLineEnd;
+  out += kLineEnd;
+  out += kLineEnd;
 }
 
 void TextWriter::Report(std::string& out, std::string_view file, const ToolRow& tool,
@@ -149,7 +149,7 @@ void TextWriter::NoReport(std::string& out, std::string_view file, const ToolRow
                           const ReportFailure& reason) {
   AppendHeading(out, file, tool);
   out += reason.message;
-  out += kPlatformLineEnd;
+  out += kLineEnd;
 }
 
 }  // namespace halvane

@@ -1,7 +1,6 @@
 #include "core/input_file.h"
 
 #include <gtest/gtest.h>
-#include <sys/stat.h>
 
 #include <chrono>
 #include <filesystem>
@@ -14,24 +13,6 @@
 
 namespace halvane {
 namespace {
-
-TEST(InputFileTest, FileThatMayNotBeReadFails) {
-  const TemporaryFolder folder;
-  const std::string path = folder.File("job.qjt");
-  WriteBytes(path, EmptyJobText());
-  ASSERT_EQ(chmod(path.c_str(), 0000), 0);
-  Module1 = JobState{};
-  Module1.JobFileName = path;
-  const RightsOfNobody rights;
-  EXPECT_EQ(FailureOf(OpenJobFile), "FileError");
-  EXPECT_FALSE(Module1.JobFileOpen);
-}
-
-TEST(InputFileTest, FileWithoutASizeIsReadToItsEnd) {
-  // The system tells size 0 for it, as it does for files that it makes up when they are read.
-  InputFile file("/proc/self/status");
-  EXPECT_NE(file.ReadAll().find("Name:"), std::string::npos);
-}
 
 TEST(InputFileTest, LongerFileGivesItsFirstBytesAndAnyOthers) {
   const TemporaryFolder folder;

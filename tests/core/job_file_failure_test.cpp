@@ -1,6 +1,4 @@
 #include <gtest/gtest.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 #include <string>
 #include <vector>
@@ -204,7 +202,6 @@ TEST_F(JobFileFailure, FileLeftOpenMakesEveryLaterUseFail) {
 }
 
 TEST_F(JobFileFailure, PathThatCannotBeOpenedLeavesNothingOpen) {
-  ASSERT_EQ(mkfifo(folder_.File("pipe.qjt").c_str(), 0600), 0);
   WriteBytes(folder_.File("file"), "");
   const std::vector<std::string> paths{
       "",
@@ -212,9 +209,7 @@ TEST_F(JobFileFailure, PathThatCannotBeOpenedLeavesNothingOpen) {
       folder_.File("missing/job.qjt"),
       folder_.File("file/job.qjt"),
       folder_.path(),
-      folder_.File("pipe.qjt"),
       folder_.File(std::string(300, 'x')),
-      "/dev/null",
   };
   for (const std::string& path : paths) {
     Module1 = JobState{};
@@ -230,7 +225,6 @@ TEST_F(JobFileFailure, PathThatCannotBeOpenedLeavesNothingOpen) {
 }
 
 TEST_F(JobFileFailure, PathThatCannotBeWrittenLeavesNothingOpenAndTheJobMarkedAsSaved) {
-  ASSERT_EQ(mkfifo(folder_.File("pipe.qjt").c_str(), 0600), 0);
   WriteBytes(folder_.File("file"), "");
   const std::string names = folder_.Names();
   const std::vector<std::string> paths{
@@ -238,7 +232,6 @@ TEST_F(JobFileFailure, PathThatCannotBeWrittenLeavesNothingOpenAndTheJobMarkedAs
       folder_.File("missing/job.qjt"),
       folder_.File("file/job.qjt"),
       folder_.path(),
-      folder_.File("pipe.qjt"),
       folder_.File(std::string(300, 'x')),
   };
   for (const std::string& path : paths) {
@@ -260,15 +253,6 @@ TEST_F(JobFileFailure, MessageNamesTheFileAndTheReason) {
   } catch (const RuntimeFailure& failure) {
     EXPECT_EQ(failure.what(), "File error: " + folder_.path() + ": Is a directory");
   }
-}
-
-TEST_F(JobFileFailure, FullDeviceFailsTheSaveAndLeavesTheFileOpen) {
-  Module1.JobFileName = "/dev/full";
-  Module1.JobDirty = kTrue;
-  EXPECT_EQ(FailureOf(WriteJobFile), "FileError");
-  EXPECT_TRUE(Module1.JobFileOpen);
-  EXPECT_EQ(Module1.JobDirty, kFalse);
-  EXPECT_EQ(FailureOf(WriteJobFile), "FileAlreadyOpen");
 }
 
 TEST_F(JobFileFailure, Task41FailsAtItsLoadsWhenRead) {
@@ -326,33 +310,6 @@ TEST_F(JobFileFailure, Task41IsWrittenOverNothingWithTheLinesBeforeInTheFile) {
             "Subscript out of range: " + Module1.JobFileName + " could not be written whole");
   EXPECT_TRUE(BytesOf(Module1.JobFileName).starts_with(EmptyJobText("41")));
   EXPECT_EQ(folder_.Names(), "job.qjt");
-}
-
-TEST_F(JobFileFailure, Task41IsNotWrittenOverAJobThatNoPlaceTakesACopyOf) {
-  if (geteuid() != 0) GTEST_SKIP() << "a file in a folder that takes none is made as root";
-  const EnvironmentVariable state("XDG_STATE_HOME", "/dev/null");
-  const EnvironmentVariable temporary("TMPDIR", "/dev/null");
-  MakeTask41();
-  WriteBytes(Module1.JobFileName, "the old job");
-  ASSERT_EQ(chmod(Module1.JobFileName.c_str(), 0666), 0);
-  ASSERT_EQ(chmod(folder_.path().c_str(), 0555), 0);
-  {
-    const RightsOfNobody rights;
-    EXPECT_EQ(FailureOf(WriteJobFile), "SubscriptOutOfRange");
-  }
-  EXPECT_EQ(BytesOf(Module1.JobFileName), "the old job");
-  EXPECT_EQ(folder_.Names(), "job.qjt");
-}
-
-TEST_F(JobFileFailure, PathOfAFileThatMayNotBeWrittenIsNamedAsWhole) {
-  WriteBytes(Module1.JobFileName, EmptyJobText());
-  ASSERT_EQ(chmod(Module1.JobFileName.c_str(), 0444), 0);
-  ASSERT_EQ(chmod(folder_.path().c_str(), 0777), 0);
-  const RightsOfNobody rights;
-  EXPECT_EQ(MessageOf(WriteJobFile), "File error: " + Module1.JobFileName +
-                                         ": Permission denied. " + Module1.JobFileName +
-                                         " holds the job as it was before");
-  EXPECT_FALSE(Module1.JobFileOpen);
 }
 
 TEST_F(JobFileFailure, FortyTasksAreWrittenAndRead) {

@@ -18,9 +18,9 @@ CLEAN_TREE = {
     "void JobReset() {\n  Module1.Hand = 0;\n}\n",
     "core/number_text.cpp": "#include <charconv>\nauto r = std::from_chars(a, b, value);\n",
     "core/files_posix.cpp": "#include <fcntl.h>\n#include <unistd.h>\n",
-    "core/files_windows.cpp": "#include <windows.h>\n",
+    "core/files_windows.cpp": "#include <sddl.h>\n#include <windows.h>\n",
     "core/CMakeLists.txt": "add_library(halvane_core STATIC\n  job_state.cpp number_text.cpp # why\n"
-    "  $<IF:$<PLATFORM_ID:Windows>,files_windows.cpp,files_posix.cpp>\n)\n",
+    ")\nhalvane_add_sources_of_system(halvane_core\n  files\n)\n",
     "tools/rula/score.cpp": '#include <array>\n#include "core/text.h"\n#include "tools/table.h"\n',
     "tools/rula/frm_rula.h": '#include <QWidget>\n#include "shell/tool_form.h"\n',
     "tools/rula/frm_rula.cpp": '#include "tools/posture/posture_page.h"\n#include "tools/rula/score.h"\n',
@@ -115,6 +115,13 @@ PLANTED = (
     ),
     ("Windows elsewhere", "includes", "core/a.h", "#include <windows.h>\n", "<windows.h>"),
     ("POSIX for Windows", "includes", "core/a_windows.h", "#include <unistd.h>\n", "<unistd.h>"),
+    (
+        "a system without its source",
+        "lists",
+        "widgets/CMakeLists.txt",
+        "target_sources(halvane_widgets PRIVATE box_windows.cpp)\n",
+        "lists box_windows.cpp, which is no file",
+    ),
     ("a source in no list", "lists", "core/a.cpp", "", "core/a.cpp: stands in 0 lists"),
     (
         "a source of another folder",
@@ -163,6 +170,7 @@ PLANTED = (
     ("a raw call behind digits", "raw-calls", "core/a.cpp", "f(1'000); std::exit(1); f('a');\n", "exit"),
     ("atof", "number-calls", "core/a.cpp", "auto v = atof(t);\n", "atof"),
     ("strtod", "number-calls", "tools/hal/a.cpp", "auto v = std::strtod(t, 0);\n", "strtod"),
+    ("strtod_l", "number-calls", "core/a.cpp", "auto v = strtod_l(t, 0, l);\n", "strtod_l"),
     ("stod", "number-calls", "reporter/a.cpp", "auto v = std::stod(t);\n", "stod"),
     ("QString::number", "number-calls", "shell/a.cpp", "QString::number(v);\n", "QString::number"),
     ("toDouble", "number-calls", "tools/hal/frm_hal.cpp", "text.toDouble();\n", "toDouble"),

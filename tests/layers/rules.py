@@ -21,17 +21,18 @@ STANDARD_HEADERS = frozenset(
 POSIX_HEADERS = frozenset(
     """
     dirent.h fcntl.h poll.h pthread.h pwd.h signal.h sys/file.h sys/mman.h sys/resource.h
-    sys/stat.h sys/time.h sys/types.h sys/uio.h sys/wait.h termios.h unistd.h
+    sys/select.h sys/stat.h sys/time.h sys/types.h sys/uio.h sys/wait.h termios.h unistd.h
     """.split()
 )
 
 # Code for one operating system stands in files that say so.
-POSIX_FILE = re.compile(r"\w+_posix\.(cpp|h)")
-WINDOWS_FILE = re.compile(r"\w+_windows\.(cpp|h)")
-WINDOWS_HEADERS = frozenset("aclapi.h fcntl.h io.h knownfolders.h sddl.h shellapi.h shlobj.h windows.h".split())
+SYSTEMS = (
+    (POSIX_HEADERS, re.compile(r"\w+_posix\.(cpp|h)")),
+    (frozenset("sddl.h shellapi.h shlobj.h windows.h".split()), re.compile(r"\w+_windows\.(cpp|h)")),
+)
 
-# The one file that knows the unpacker of help files.
-HELP_UNPACKER = {"help/help_archive.cpp": "mspack.h"}
+# What one file alone knows: the unpacker of help files, and locales that are not the user's.
+HEADERS_OF_ONE_FILE = {"help/help_archive.cpp": "mspack.h", "core/number_text.cpp": "xlocale.h"}
 
 TOOL_NAMES = {"ocra": "ocra", "ctd": "ctd", "strain_index": "si", "reba": "reba", "rula": "rula", "hal": "hal"}
 SCREENLESS_TOOLS = ("tool parts", "posture", *TOOL_NAMES)
@@ -125,7 +126,10 @@ NUMBER_TEXT = "core/number_text.cpp"
 NUMBER_CALLS = tuple(
     (name, re.compile(pattern), allowed)
     for name, pattern, allowed in (
-        ("reads a number", r"\b(ato[fil]|atoll|strto\w+|sto(d|f|ld|i|l|ll|ul|ull))\s*\(", ()),
+        ("reads a number", r"\b(ato[fil]|atoll|sto(d|f|ld|i|l|ll|ul|ull))\s*\(", ()),
+        ("reads a number", r"\bstrto(?!d_l\b)\w+\s*\(", ()),
+        # With a locale of its own.
+        ("reads a number", r"\bstrtod_l\s*\(", (NUMBER_TEXT,)),
         ("reads a number", r"\bv?s?scanf\s*\(|\bto(Double|Float|Int|UInt|Long|Short)\s*\(", ()),
         ("converts a number", r"\b(from|to)_chars\b|<charconv>", (NUMBER_TEXT,)),
         ("writes a number", r"\bQString::(number|asprintf)\b|\bsetNum\s*\(|\bQLocale\b", ()),

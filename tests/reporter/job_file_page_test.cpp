@@ -102,6 +102,7 @@ TEST(JobFilePage, FieldsOfATaskAreThoseOfTheProgram) {
   EXPECT_EQ(RowsOfPage("Fields of a task", "Choices of the tools"), layout.text());
 }
 
+#ifdef HALVANE_PYTHON
 TEST(JobFilePage, ExampleReadsTheSamples) {
   const std::string page = BytesOf(SourcePath(kPage));
   const std::string fence = "```python\n";
@@ -118,6 +119,7 @@ TEST(JobFilePage, ExampleReadsTheSamples) {
             "Carton packing, end of line: 60% of the time, 16.0 a minute\n"
             "Parcel sorting: 90% of the time, 16.0 a minute\n");
 }
+#endif
 
 }  // namespace
 }  // namespace halvane

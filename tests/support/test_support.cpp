@@ -1,7 +1,12 @@
 #include "tests/support/test_support.h"
 
 #include <gtest/gtest.h>
+
+#ifdef _WIN32
+#include <windows.h>
+#else
 #include <unistd.h>
+#endif
 
 #include <algorithm>
 #include <cerrno>
@@ -15,28 +20,68 @@
 namespace halvane {
 namespace {
 
-constexpr uid_t kNobody = 65534;
+/// A path as the standard library takes it on every system.
+std::filesystem::path PathOf(std::string_view path) {
+  return std::u8string(path.begin(), path.end());
+}
 
-}  // namespace
+std::string NameOf(const std::filesystem::directory_entry& entry) {
+  const std::u8string name = entry.path().filename().u8string();
+  return {name.begin(), name.end()};
+}
 
-TemporaryFolder::TemporaryFolder() {
+std::string MakeTemporaryFolder() {
+#ifdef _WIN32
+  const std::u8string start = (std::filesystem::temp_directory_path() / "halvane-test-").u8string();
+  for (DWORD number = GetCurrentProcessId();; ++number) {
+    std::string path = std::string(start.begin(), start.end()) + std::to_string(number);
+    if (std::filesystem::create_directory(PathOf(path))) return path;
+  }
+#else
   std::string pattern = (std::filesystem::temp_directory_path() / "halvane-test-XXXXXX").string();
   if (mkdtemp(pattern.data()) == nullptr) {
     throw std::system_error(errno, std::generic_category(), pattern);
   }
-  path_ = pattern;
+  return pattern;
+#endif
 }
+
+std::optional<std::string> ValueOf(const char* variable) {
+#ifdef _WIN32
+  std::wstring value(32768, L'\0');
+  const std::wstring name = PathOf(variable).wstring();
+  SetLastError(ERROR_SUCCESS);
+  const DWORD length =
+      GetEnvironmentVariableW(name.c_str(), value.data(), static_cast<DWORD>(value.size()));
+  if (length == 0 && GetLastError() != ERROR_SUCCESS) return std::nullopt;
+  const std::u8string text = std::filesystem::path(value.substr(0, length)).u8string();
+  return std::string(text.begin(), text.end());
+#else
+  const char* const value = std::getenv(variable);
+  return value == nullptr ? std::nullopt : std::optional<std::string>(value);
+#endif
+}
+
+}  // namespace
+
+TemporaryFolder::TemporaryFolder() : path_(MakeTemporaryFolder()) {}
 
 TemporaryFolder::~TemporaryFolder() {
   std::error_code ignored;
-  std::filesystem::permissions(path_, std::filesystem::perms::owner_all, ignored);
-  std::filesystem::remove_all(path_, ignored);
+#ifdef _WIN32
+  // So that what is long in it is found too.
+  const std::filesystem::path path = PathOf("\\\\?\\" + path_);
+#else
+  const std::filesystem::path& path = path_;
+#endif
+  std::filesystem::permissions(path, std::filesystem::perms::owner_all, ignored);
+  std::filesystem::remove_all(path, ignored);
 }
 
 std::string TemporaryFolder::Names() const {
   std::vector<std::string> names;
-  for (const auto& entry : std::filesystem::directory_iterator(path_)) {
-    names.push_back(entry.path().filename().string());
+  for (const auto& entry : std::filesystem::directory_iterator(PathOf(path_))) {
+    names.push_back(NameOf(entry));
   }
   std::sort(names.begin(), names.end());
   std::string text;
@@ -46,19 +91,31 @@ std::string TemporaryFolder::Names() const {
 
 EnvironmentVariable::EnvironmentVariable(const char* name, const std::optional<std::string>& value)
     : name_(name) {
-  if (const char* before = std::getenv(name)) before_ = before;
+  before_ = ValueOf(name);
   SetTo(value);
 }
 
 EnvironmentVariable::~EnvironmentVariable() { SetTo(before_); }
 
 void EnvironmentVariable::SetTo(const std::optional<std::string>& value) const {
+#ifdef _WIN32
+  const std::wstring wide = value ? PathOf(*value).wstring() : std::wstring();
+  SetEnvironmentVariableW(PathOf(name_).c_str(), value ? wide.c_str() : nullptr);
+#else
   if (value) {
     setenv(name_, value->c_str(), 1);
   } else {
     unsetenv(name_);
   }
+#endif
 }
+
+#ifndef _WIN32
+namespace {
+
+constexpr uid_t kNobody = 65534;
+
+}  // namespace
 
 RightsOfNobody::RightsOfNobody() : wasRoot_(geteuid() == 0) {
   if (wasRoot_ && setresuid(kNobody, kNobody, 0) != 0) {
@@ -70,28 +127,29 @@ RightsOfNobody::~RightsOfNobody() {
   // With the wrong rights no later test would mean anything.
   if (wasRoot_ && setresuid(0, 0, 0) != 0) std::abort();
 }
+#endif
 
 std::string BytesOf(const std::string& path) {
-  std::ifstream file(path, std::ios::binary);
+  std::ifstream file(PathOf(path), std::ios::binary);
   EXPECT_TRUE(file.is_open()) << path;
   return {std::istreambuf_iterator<char>(file), {}};
 }
 
 void WriteBytes(const std::string& path, std::string_view bytes) {
-  std::ofstream file(path, std::ios::binary | std::ios::trunc);
+  std::ofstream file(PathOf(path), std::ios::binary | std::ios::trunc);
   file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
   file.close();
   ASSERT_TRUE(file.good()) << path;
 }
 
 bool Exists(const std::string& path) {
-  return std::filesystem::exists(std::filesystem::symlink_status(path));
+  return std::filesystem::exists(std::filesystem::symlink_status(PathOf(path)));
 }
 
 std::string NameLike(const TemporaryFolder& folder, std::string_view start, std::string_view end) {
   std::string found;
-  for (const auto& entry : std::filesystem::directory_iterator(folder.path())) {
-    const std::string name = entry.path().filename().string();
+  for (const auto& entry : std::filesystem::directory_iterator(PathOf(folder.path()))) {
+    const std::string name = NameOf(entry);
     if (!name.starts_with(start) || !name.ends_with(end)) continue;
     if (!found.empty()) return "";
     found = name;

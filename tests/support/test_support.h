@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "core/file_name.h"
 #include "core/runtime_failure.h"
 
 namespace halvane {
@@ -19,7 +20,7 @@ class TemporaryFolder {
   [[nodiscard]] const std::string& path() const { return path_; }
   /// The path of a file in it.
   [[nodiscard]] std::string File(std::string_view name) const {
-    return path_ + "/" + std::string(name);
+    return WithSeparator(path_) + std::string(name);
   }
   /// The names in it, sorted, a blank between them.
   [[nodiscard]] std::string Names() const;
@@ -43,6 +44,14 @@ class EnvironmentVariable {
   std::optional<std::string> before_;
 };
 
+/// The variables that name the folders for the program's own files and for temporary ones.
+#ifdef _WIN32
+inline constexpr const char* kStateVariable = "LOCALAPPDATA";
+inline constexpr const char* kTemporaryVariable = "TMP";
+#else
+inline constexpr const char* kStateVariable = "XDG_STATE_HOME";
+inline constexpr const char* kTemporaryVariable = "TMPDIR";
+
 /// While it lives, the test has the rights of a user who owns nothing, also when it runs as root.
 class RightsOfNobody {
  public:
@@ -54,6 +63,7 @@ class RightsOfNobody {
  private:
   bool wasRoot_;
 };
+#endif
 
 std::string BytesOf(const std::string& path);
 void WriteBytes(const std::string& path, std::string_view bytes);

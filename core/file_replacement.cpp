@@ -1,10 +1,5 @@
-#include <fcntl.h>
-#include <sys/file.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
-#include <array>
 #include <chrono>
+#include <cstdint>
 #include <string>
 #include <thread>
 
@@ -18,11 +13,9 @@
 namespace halvane {
 namespace {
 
-constexpr mode_t kNewFileMode = 0666;
 /// A save takes milliseconds, so whoever holds a file for so long does something else with it.
 constexpr std::chrono::milliseconds kLongestWait{4000};
 constexpr std::chrono::milliseconds kWaitStep{10};
-constexpr std::size_t kReadBlock = 65536;
 constexpr const char* kNoFileMade = "No file was made";
 
 std::string OldStandsIn(const std::string& path) {
@@ -38,10 +31,14 @@ std::string NewStandsIn(const std::string& copy) {
   throw RuntimeFailure(FailureKind::FileError, path + ": " + reason);
 }
 
+[[noreturn]] void RefuseAsInUse(const std::string& path) {
+  Refuse(path, "another program is using it. Nothing was written");
+}
+
 /// A checksum that no other save has, here or in another program.
 std::string PassingMark(const std::string& target) {
   const auto now = std::chrono::steady_clock::now().time_since_epoch().count();
-  const pid_t program = getpid();
+  const std::uint64_t program = files::NumberOfProgram();
   Checksum mark;
   mark.Add(target);
   mark.Add({reinterpret_cast<const char*>(&now), sizeof now});
@@ -51,28 +48,18 @@ std::string PassingMark(const std::string& target) {
 
 /// The whole content of a file; false when it cannot be read.
 bool Read(const std::string& path, std::string& bytes) {
-  const files::Descriptor file(files::Open(path, O_RDONLY));
-  if (!file.isOpen()) return false;
-  std::array<char, kReadBlock> block{};
-  try {
-    while (const std::size_t count =
-               files::ReadSome(file.get(), block.data(), block.size(), path)) {
-      bytes.append(block.data(), count);
-    }
-    return true;
-  } catch (const RuntimeFailure&) {
-    return false;
-  }
+  files::File file;
+  return !file.Open(path, files::Access::Read) && !files::ReadWhole(file, SIZE_MAX, bytes);
 }
 
 }  // namespace
 
 FileReplacement::FileReplacement(const std::string& path) : path_(path) {
-  struct stat status {};
-  const bool exists = files::StatusOf(path, status);
+  files::Status status;
+  const bool exists = !files::StatusOf(path, status);
   // Opening a pipe would wait for somebody to read from it.
-  if (exists && S_ISFIFO(status.st_mode)) Refuse(path, "not a regular file");
-  target_ = TargetOf(path);
+  if (exists && status.kind == files::Kind::Pipe) Refuse(path, "not a regular file");
+  target_ = files::TargetOf(path);
   if (!OpenExisting()) OpenPart();
 }
 
@@ -82,22 +69,31 @@ FileReplacement::~FileReplacement() {
 
 bool FileReplacement::OpenExisting() {
   do {
-    file_.Reset(files::Open(path_, O_WRONLY | O_NOCTTY));
-    if (!file_.isOpen()) {
-      const int error = errno;
-      if (error == ENOENT) return false;
-      files::Fail(path_, error, UntouchedSentence());
+    const std::error_code error = OpenWhenShared();
+    if (error == std::errc::no_such_file_or_directory) return false;
+    if (error == std::errc::device_or_resource_busy) RefuseAsInUse(path_);
+    if (error) files::Fail(path_, error, UntouchedSentence());
+    files::Status status;
+    if (const auto unknown = file_.GetStatus(status)) {
+      files::Fail(path_, unknown, OldStandsIn(path_));
     }
-    struct stat status {};
-    if (!files::StatusOf(file_.get(), status)) {
-      const int error = errno;
-      files::Fail(path_, error, OldStandsIn(path_));
-    }
-    isRegular_ = S_ISREG(status.st_mode);
+    isRegular_ = status.kind == files::Kind::Regular;
     if (!isRegular_) return true;
     Lock();
   } while (!IsStillThere());
   return true;
+}
+
+std::error_code FileReplacement::OpenWhenShared() {
+  const auto end = std::chrono::steady_clock::now() + kLongestWait;
+  while (true) {
+    const std::error_code error = file_.Open(path_, files::Access::Write);
+    // So systems tell that somebody has the file open and lets nobody else write.
+    if (error != std::errc::device_or_resource_busy || std::chrono::steady_clock::now() > end) {
+      return error;
+    }
+    std::this_thread::sleep_for(kWaitStep);
+  }
 }
 
 std::string FileReplacement::UntouchedSentence() const {
@@ -107,39 +103,40 @@ std::string FileReplacement::UntouchedSentence() const {
 
 void FileReplacement::Lock() {
   const auto end = std::chrono::steady_clock::now() + kLongestWait;
-  while (files::Again([this] { return flock(file_.get(), LOCK_EX | LOCK_NB); }) != 0) {
-    // A file system without locks lets everybody write at any time.
-    if (errno != EWOULDBLOCK) return;
-    if (std::chrono::steady_clock::now() > end) {
-      Refuse(path_, "another program is using it. Nothing was written");
-    }
+  // A file system without locks, which gives any other error, lets everybody write at any time.
+  while (file_.TryLock() == std::errc::operation_would_block) {
+    if (std::chrono::steady_clock::now() > end) RefuseAsInUse(path_);
     std::this_thread::sleep_for(kWaitStep);
   }
 }
 
 bool FileReplacement::IsStillThere() const {
-  struct stat opened {};
-  struct stat named {};
-  if (!files::StatusOf(file_.get(), opened)) return true;
-  if (!files::StatusOf(path_, named)) return errno != ENOENT;
-  return opened.st_dev == named.st_dev && opened.st_ino == named.st_ino;
+  files::Status opened;
+  files::Status named;
+  if (file_.GetStatus(opened)) return true;
+  if (opened.names == 0) return false;
+  const std::error_code error = files::StatusOf(path_, named);
+  if (error) return error != std::errc::no_such_file_or_directory;
+  return opened.IsSameFileAs(named);
 }
 
 void FileReplacement::OpenPart() {
   // Names of folders end so, and none of them can be made by writing a file.
-  if (FileNameOf(target_).empty()) files::Fail(path_, path_.empty() ? ENOENT : EISDIR);
+  if (FileNameOf(target_).empty()) {
+    files::Fail(path_, std::make_error_code(path_.empty() ? std::errc::no_such_file_or_directory
+                                                          : std::errc::is_a_directory));
+  }
   std::string end(".");
   end.append(PassingMark(target_)).append(kPartEnd);
-  int error = 0;
+  std::error_code error;
   for (const std::string& name : NamesBeside(target_)) {
     std::string part(FolderOf(target_));
     part.append(name).append(end);
-    file_.Reset(files::Open(part, O_WRONLY | O_CREAT | O_EXCL, kNewFileMode));
-    error = errno;
-    if (!file_.isOpen()) continue;
+    error = file_.Open(part, files::Access::MakeNew);
+    if (error) continue;
     part_ = part;
     // Who finds the file under its own name waits until this save is over.
-    files::Again([this] { return flock(file_.get(), LOCK_EX | LOCK_NB); });
+    file_.TryLock();
     return;
   }
   files::Fail(path_, error, kNoFileMade);
@@ -149,7 +146,9 @@ void FileReplacement::Write(std::string_view bytes) {
   if (!isRegular_) return WriteToDevice(bytes);
   if (!part_.empty()) return WriteNew(bytes);
   // The room first: a copy must not take what the file itself needs.
-  if (const int error = Reserve(bytes.size())) files::Fail(path_, error, OldStandsIn(path_));
+  if (const auto error = file_.Reserve(bytes.size())) {
+    files::Fail(path_, error, OldStandsIn(path_));
+  }
   const KeptCopy copy = MakeKeptCopy(target_, bytes);
   Overwrite(bytes, copy, NewStandsIn(copy.path));
   // The job is saved; whatever stays from here on goes with a later save.
@@ -163,7 +162,7 @@ std::string FileReplacement::WriteIncomplete(std::string_view bytes) {
     return "";
   }
   std::string old;
-  if (!Read(path_, old) || Reserve(bytes.size()) != 0) return path_;
+  if (!Read(path_, old) || file_.Reserve(bytes.size())) return path_;
   const KeptCopy copy = MakeKeptCopy(target_, old);
   if (copy.path.empty()) return path_;
   Overwrite(bytes, copy, OldStandsIn(copy.path));
@@ -172,16 +171,16 @@ std::string FileReplacement::WriteIncomplete(std::string_view bytes) {
 
 void FileReplacement::WriteToDevice(std::string_view bytes) {
   std::size_t written = 0;
-  int error = files::WriteAll(file_.get(), bytes, written);
-  if (error == 0) error = file_.Reset();
-  if (error != 0) files::Fail(path_, error);
+  std::error_code error = file_.WriteAll(bytes, written);
+  if (!error) error = file_.Close();
+  if (error) files::Fail(path_, error);
 }
 
 void FileReplacement::WriteNew(std::string_view bytes) {
   std::size_t written = 0;
-  int error = files::WriteAll(file_.get(), bytes, written);
-  if (error == 0) error = files::Sync(file_.get());
-  if (error != 0) files::Fail(path_, error, kNoFileMade);
+  std::error_code error = file_.WriteAll(bytes, written);
+  if (!error) error = file_.Sync();
+  if (error) files::Fail(path_, error, kNoFileMade);
   if (PlacePart()) {
     files::SyncFolder(std::string(FolderOf(target_)));
     RemoveKeptCopies(target_);
@@ -189,23 +188,19 @@ void FileReplacement::WriteNew(std::string_view bytes) {
   }
   files::Remove(part_);
   part_.clear();
-  if (!OpenExisting()) files::Fail(path_, ENOENT, kNoFileMade);
+  if (!OpenExisting()) {
+    files::Fail(path_, std::make_error_code(std::errc::no_such_file_or_directory), kNoFileMade);
+  }
   Write(bytes);
 }
 
 bool FileReplacement::PlacePart() {
   if (files::RenameToFree(part_, target_)) {
-    part_.clear();
-    return true;
+    if (files::IsTaken(target_)) return false;
+    if (const auto error = files::RenameOver(part_, target_)) {
+      files::Fail(path_, error, kNoFileMade);
+    }
   }
-  // Some file systems know only the other way to a name without taking it from anybody.
-  if (files::Again([this] { return link(part_.c_str(), target_.c_str()); }) == 0) {
-    files::Remove(part_);
-    part_.clear();
-    return true;
-  }
-  if (files::IsTaken(target_)) return false;
-  if (!files::RenameOver(part_, target_)) files::Fail(path_, errno, kNoFileMade);
   part_.clear();
   return true;
 }
@@ -213,34 +208,14 @@ bool FileReplacement::PlacePart() {
 void FileReplacement::Overwrite(std::string_view bytes, const KeptCopy& copy,
                                 const std::string& sentence) {
   std::size_t written = 0;
-  int error = files::WriteAll(file_.get(), bytes, written);
-  if (error != 0 && written == 0) {
+  std::error_code error = file_.WriteAll(bytes, written);
+  if (error && written == 0) {
     TakeBack(copy);
     files::Fail(path_, error, OldStandsIn(path_));
   }
-  const auto size = static_cast<off_t>(bytes.size());
-  const auto cut = [&] { return ftruncate(file_.get(), size); };
-  if (error == 0 && files::Again(cut) != 0) error = errno;
-  if (error == 0) error = files::Sync(file_.get());
-  if (error != 0) files::Fail(path_, error, sentence);
-}
-
-int FileReplacement::Reserve(std::size_t size) {
-  struct stat before {};
-  if (size == 0 || !files::StatusOf(file_.get(), before)) return 0;
-  const auto length = static_cast<off_t>(size);
-  const auto call = [&] { return fallocate(file_.get(), FALLOC_FL_KEEP_SIZE, 0, length); };
-  if (files::Again(call) == 0) return 0;
-  const int error = errno;
-  // Any other error tells that the file system cannot reserve, not that the bytes cannot be
-  // written.
-  if (error != ENOSPC && error != EDQUOT && error != EFBIG) return 0;
-  struct stat after {};
-  // What it reserved before the room ended goes back.
-  if (files::StatusOf(file_.get(), after) && after.st_blocks > before.st_blocks) {
-    files::Again([&] { return ftruncate(file_.get(), before.st_size); });
-  }
-  return error;
+  if (!error) error = file_.CutTo(bytes.size());
+  if (!error) error = file_.Sync();
+  if (error) files::Fail(path_, error, sentence);
 }
 
 }  // namespace halvane

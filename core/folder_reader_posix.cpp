@@ -4,7 +4,7 @@
 
 #include <cerrno>
 
-#include "reporter/folder_reader.h"
+#include "core/folder_reader.h"
 
 namespace halvane {
 

@@ -1,34 +1,26 @@
-#include <fcntl.h>
-#include <sys/stat.h>
+#include "core/kept_copy.h"
 
 #include <algorithm>
 #include <array>
-#include <filesystem>
 #include <optional>
-#include <system_error>
 
 #include "core/checksum.h"
 #include "core/file_calls.h"
 #include "core/file_name.h"
-#include "core/kept_copy.h"
-#include "core/runtime_failure.h"
 #include "core/user_folders.h"
 
 namespace halvane {
 namespace {
 
 constexpr std::string_view kCopyEnd = ".previous";
-constexpr mode_t kForTheWriterAlone = S_IRUSR | S_IWUSR;
 /// How much of a job's name stands in a name that has to be short. With all that is put behind it,
 /// it fits where encryption leaves names 143 bytes.
 constexpr std::size_t kShortNameBytes = 60;
-/// As many links in a row as the system follows.
-constexpr int kMostLinks = 40;
 constexpr std::size_t kReadBlock = 65536;
 
 /// A folder and the beginning of the names of copies in it.
 struct Place {
-  std::string folder;  ///< ends with a slash, or is empty
+  std::string folder;  ///< ends with a separator, or is empty
   std::string name;
 };
 
@@ -43,8 +35,8 @@ std::vector<Place> PlacesFor(const std::string& target) {
   const std::string folder(FolderOf(target));
   for (const std::string& name : NamesBeside(target)) places.push_back({folder, name});
   const std::string state = StateFolder();
-  if (!state.empty()) places.push_back({state + "/", ShortName(target)});
-  places.push_back({SystemTemporaryFolder() + "/", ShortName(target)});
+  if (!state.empty()) places.push_back({WithSeparator(state), ShortName(target)});
+  places.push_back({WithSeparator(SystemTemporaryFolder()), ShortName(target)});
   return places;
 }
 
@@ -64,40 +56,26 @@ std::string_view ChecksumIn(std::string_view path) {
 
 /// Whether a file, and no link to one, has the content that its name tells.
 bool IsWholeCopy(const std::string& path) {
-  const files::Descriptor file(files::Open(path, O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY));
-  struct stat status {};
-  if (!file.isOpen() || !files::StatusOf(file.get(), status) || !S_ISREG(status.st_mode))
-    return false;
+  files::File file;
+  files::Status status;
+  if (file.Open(path, files::Access::ReadItself) || file.GetStatus(status)) return false;
+  if (status.kind != files::Kind::Regular) return false;
   Checksum checksum;
   std::array<char, kReadBlock> block{};
-  try {
-    while (const std::size_t count =
-               files::ReadSome(file.get(), block.data(), block.size(), path)) {
-      checksum.Add({block.data(), count});
-    }
-  } catch (const RuntimeFailure&) {
-    return false;
-  }
+  std::size_t count = 0;
+  do {
+    if (file.ReadSome(block.data(), block.size(), count)) return false;
+    checksum.Add({block.data(), count});
+  } while (count > 0);
   return checksum.Text() == ChecksumIn(path);
-}
-
-/// Opens a new file for the part of a copy. What a killed save left under its name goes.
-int OpenPart(const std::string& part) {
-  constexpr int kFlags = O_WRONLY | O_CREAT | O_EXCL;
-  const int descriptor = files::Open(part, kFlags, kForTheWriterAlone);
-  if (descriptor >= 0 || errno != EEXIST || !files::IsRegularFile(part)) return descriptor;
-  files::Remove(part);
-  return files::Open(part, kFlags, kForTheWriterAlone);
 }
 
 /// Writes the part of a copy to the disk; nothing is left where that fails.
 bool WritePart(const std::string& part, std::string_view bytes) {
-  const files::Descriptor file(OpenPart(part));
-  if (!file.isOpen()) return false;
-  // The user's mask may have taken rights that reading the copy again needs.
-  files::Again([&file] { return fchmod(file.get(), kForTheWriterAlone); });
+  files::File file;
+  if (files::OpenPart(file, part)) return false;
   std::size_t written = 0;
-  if (files::WriteAll(file.get(), bytes, written) == 0 && files::Sync(file.get()) == 0) return true;
+  if (!file.WriteAll(bytes, written) && !file.Sync()) return true;
   files::Remove(part);
   return false;
 }
@@ -107,9 +85,9 @@ bool WritePart(const std::string& part, std::string_view bytes) {
 bool WriteCopy(const std::string& path, std::string_view bytes) {
   const std::string part = path + std::string(kPartEnd);
   if (!WritePart(part, bytes)) return false;
-  if (files::RenameToFree(part, path)) return true;
+  if (!files::RenameToFree(part, path)) return true;
   const bool isFree = !files::IsTaken(path) || IsWholeCopy(path);
-  if (isFree && files::RenameOver(part, path)) return true;
+  if (isFree && !files::RenameOver(part, path)) return true;
   files::Remove(part);
   return false;
 }
@@ -128,15 +106,9 @@ bool IsPartIn(const Place& place, const std::string& name) {
 
 /// The names in a folder that end as those of copies and parts do.
 std::vector<std::string> NamesIn(const std::string& folder) {
-  std::vector<std::string> names;
-  std::error_code error;
-  std::filesystem::directory_iterator entry(folder.empty() ? "." : folder, error);
-  while (!error && entry != std::filesystem::directory_iterator()) {
-    const std::string name = entry->path().filename().string();
-    if (name.ends_with(kCopyEnd) || name.ends_with(kPartEnd)) names.push_back(name);
-    entry.increment(error);
-  }
-  return names;
+  return files::NamesIn(folder, [](std::string_view name) {
+    return name.ends_with(kCopyEnd) || name.ends_with(kPartEnd);
+  });
 }
 
 /// Calls `visit` with each place and each such name in its folder. They are collected first, since
@@ -155,21 +127,6 @@ void VisitNames(const std::string& target, const Visit& visit) {
 
 }  // namespace
 
-std::string TargetOf(const std::string& path) {
-  std::filesystem::path target = path;
-  std::error_code error;
-  for (int i = 0; i < kMostLinks; ++i) {
-    const std::filesystem::path next = std::filesystem::read_symlink(target, error);
-    if (error == std::errc::interrupted) continue;
-    if (error) break;
-    // A whole path as `next` takes the place of the folder.
-    target = target.parent_path() / next;
-  }
-  const std::filesystem::path folder = target.has_parent_path() ? target.parent_path() : ".";
-  const std::filesystem::path whole = std::filesystem::canonical(folder, error);
-  return error ? target.string() : (whole / target.filename()).string();
-}
-
 std::vector<std::string> NamesBeside(const std::string& target) {
   return {std::string(FileNameOf(target)), ShortName(target)};
 }
@@ -179,11 +136,11 @@ KeptCopy MakeKeptCopy(const std::string& target, std::string_view bytes) {
   end.append(ChecksumOf(bytes)).append(kCopyEnd);
   KeptCopy first;
   for (const Place& place : PlacesFor(target)) {
-    if (place.folder == StateFolder() + "/") MakeFolder(StateFolder());
+    if (place.folder == WithSeparator(StateFolder())) MakeFolder(StateFolder());
     const std::string path = place.folder + place.name + end;
     const KeptCopy copy{path, !files::IsTaken(path)};
     if (!WriteCopy(path, bytes)) continue;
-    if (files::SyncFolder(place.folder) == 0) {
+    if (!files::SyncFolder(place.folder)) {
       if (first.path != path) TakeBack(first);
       return copy;
     }

@@ -1,6 +1,3 @@
-#include <fcntl.h>
-#include <sys/stat.h>
-
 #include "core/file_calls.h"
 #include "core/file_name.h"
 #include "core/platform_file.h"
@@ -8,15 +5,14 @@
 namespace halvane {
 
 bool WriteNewFile(const std::string& path, std::string_view bytes) {
-  files::Descriptor file(files::Open(path, O_WRONLY | O_CREAT | O_EXCL, S_IRUSR | S_IWUSR));
-  if (!file.isOpen()) {
-    if (errno == EEXIST) return false;
-    files::Fail(path, errno);
-  }
+  files::File file;
+  std::error_code error = file.Open(path, files::Access::MakeForWriter);
+  if (error == std::errc::file_exists) return false;
+  if (error) files::Fail(path, error);
   std::size_t written = 0;
-  int error = files::WriteAll(file.get(), bytes, written);
-  if (error == 0) error = files::Sync(file.get());
-  if (error != 0) {
+  error = file.WriteAll(bytes, written);
+  if (!error) error = file.Sync();
+  if (error) {
     files::Remove(path);
     files::Fail(path, error);
   }

@@ -1,12 +1,8 @@
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
+#include "core/input_file.h"
 
 #include <algorithm>
-#include <cerrno>
+#include <tuple>
 
-#include "core/file_calls.h"
-#include "core/input_file.h"
 #include "core/runtime_failure.h"
 
 namespace halvane {
@@ -15,26 +11,22 @@ namespace {
 /// How much more room a file gets that turns out longer than the system told.
 constexpr std::size_t kMoreRoom = 65536;
 
-using files::Fail;
+/// What changes when somebody writes into a file, as well as the system can tell.
+auto StampOf(const files::Status& status) {
+  return std::tuple(status.size, status.seconds, status.fraction);
+}
 
 }  // namespace
 
 InputFile::InputFile(const std::string& path) : path_(path) {
-  // Without O_NONBLOCK, opening a pipe would wait for somebody to write into it.
-  descriptor_ = files::Open(path, O_RDONLY | O_NONBLOCK);
-  if (descriptor_ < 0) Fail(path, errno);
-  struct stat status {};
-  const bool known = fstat(descriptor_, &status) == 0;
-  if (known && S_ISREG(status.st_mode)) {
-    opened_ = {status.st_size, status.st_mtim.tv_sec, status.st_mtim.tv_nsec};
-    return;
+  if (const auto error = file_.Open(path, files::Access::Read)) files::Fail(path, error);
+  const std::error_code error = file_.GetStatus(opened_);
+  if (!error && opened_.kind == files::Kind::Regular) return;
+  if (!error && opened_.kind == files::Kind::Folder) {
+    files::Fail(path, std::make_error_code(std::errc::is_a_directory));
   }
-  close(descriptor_);
-  if (known && S_ISDIR(status.st_mode)) Fail(path, EISDIR);
   throw RuntimeFailure(FailureKind::FileError, path + ": not a regular file");
 }
-
-InputFile::~InputFile() { close(descriptor_); }
 
 std::string InputFile::ReadAll(std::size_t most) {
   const auto told = static_cast<std::size_t>(opened_.size);
@@ -64,18 +56,16 @@ std::size_t InputFile::ReadAt(std::uint64_t position, char* buffer, std::size_t 
 }
 
 std::size_t InputFile::ReadSome(std::uint64_t position, char* buffer, std::size_t size) const {
-  const ssize_t count =
-      files::Again([&] { return pread(descriptor_, buffer, size, static_cast<off_t>(position)); });
-  if (count < 0) Fail(path_, errno);
-  return static_cast<std::size_t>(count);
+  std::size_t count = 0;
+  const auto error = file_.ReadSomeAt(position, buffer, size, count);
+  if (error) files::Fail(path_, error);
+  return count;
 }
 
 void InputFile::TestUnchanged() const {
-  struct stat status {};
-  if (fstat(descriptor_, &status) != 0) Fail(path_, errno);
-  if (Stamp{status.st_size, status.st_mtim.tv_sec, status.st_mtim.tv_nsec} != opened_) {
-    FailAsChanged();
-  }
+  files::Status status;
+  if (const auto error = file_.GetStatus(status)) files::Fail(path_, error);
+  if (StampOf(status) != StampOf(opened_)) FailAsChanged();
 }
 
 void InputFile::FailAsChanged() const {

@@ -1,0 +1,55 @@
+#include <windows.h>
+
+#include <algorithm>
+#include <array>
+#include <memory>
+#include <thread>
+
+#include "core/file_calls_windows.h"
+#include "reporter/input.h"
+#include "reporter/interruption_windows.h"
+
+namespace halvane {
+namespace {
+
+/// One call that waits for input. It may outlive who asked for it.
+struct Reading {
+  std::vector<char> bytes;
+  DWORD count = 0;
+  DWORD error = ERROR_SUCCESS;
+  HANDLE done = CreateEventW(nullptr, TRUE, FALSE, nullptr);
+
+  explicit Reading(std::size_t size) : bytes(size) {}
+  ~Reading() { CloseHandle(done); }
+  Reading(const Reading&) = delete;
+  Reading& operator=(const Reading&) = delete;
+};
+
+void Read(Reading& reading) {
+  const auto size = static_cast<DWORD>(reading.bytes.size());
+  if (ReadFile(GetStdHandle(STD_INPUT_HANDLE), reading.bytes.data(), size, &reading.count,
+               nullptr) == 0) {
+    reading.error = GetLastError();
+  }
+  SetEvent(reading.done);
+}
+
+}  // namespace
+
+std::size_t ReadInput(std::span<char> room, std::error_code& error) {
+  // No wait for input ends when the user presses Ctrl-C, so another thread waits for it. One that
+  // waits for ever ends with the program.
+  const auto reading = std::make_shared<Reading>(room.size());
+  std::thread([reading] { Read(*reading); }).detach();
+  const std::array<HANDLE, 2> events{InterruptionEvent(), reading->done};
+  const auto count = static_cast<DWORD>(events.size());
+  if (WaitForMultipleObjects(count, events.data(), FALSE, INFINITE) == WAIT_OBJECT_0) return 0;
+  // A pipe tells its end as an error.
+  if (reading->error != ERROR_SUCCESS && reading->error != ERROR_BROKEN_PIPE) {
+    error = files::ErrorOf(reading->error);
+  }
+  std::copy_n(reading->bytes.begin(), reading->count, room.begin());
+  return reading->count;
+}
+
+}  // namespace halvane

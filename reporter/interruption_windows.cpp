@@ -1,0 +1,35 @@
+#include "reporter/interruption_windows.h"
+
+#include "reporter/interruption.h"
+
+namespace halvane {
+namespace {
+
+/// Runs in a thread of its own.
+BOOL WINAPI NoteInterruption(DWORD event) {
+  // What is not handled here ends the program: the second one, and all else that asks for its end.
+  if (event != CTRL_C_EVENT || IsInterrupted()) return FALSE;
+  return SetEvent(InterruptionEvent());
+}
+
+}  // namespace
+
+HANDLE InterruptionEvent() {
+  static const HANDLE event = CreateEventW(nullptr, TRUE, FALSE, nullptr);
+  return event;
+}
+
+void WatchForInterruption() {
+  // Made before the other thread can ask for it.
+  InterruptionEvent();
+  // A program that was started to ignore Ctrl-C is never asked.
+  SetConsoleCtrlHandler(NoteInterruption, TRUE);
+}
+
+bool IsInterrupted() { return WaitForSingleObject(InterruptionEvent(), 0) == WAIT_OBJECT_0; }
+
+void EndByInterruption() {
+  // There is no end here by which a caller could tell it from a crash. The exit status tells it.
+}
+
+}  // namespace halvane
