@@ -113,6 +113,11 @@ TEST(PostureRows, TableWithASlipIsNotWellFormed) {
   rows[0].first = -1;
   EXPECT_FALSE(AreWellFormed(rows)) << "a choice before the array";
   rows = good;
+  rows[1] = RowOf(Small::Lone);
+  EXPECT_TRUE(AreWellFormed(rows));
+  rows[1].count = 0;
+  EXPECT_FALSE(AreWellFormed(rows)) << "no choice";
+  rows = good;
   rows[1] = PostureControl{};
   EXPECT_FALSE(AreWellFormed(rows)) << "a row that was left out";
 }
