@@ -12,7 +12,9 @@ namespace {
 
 class JobFileFailure : public testing::Test {
  protected:
-  void SetUp() override {
+  void SetUp() override { StartFresh(); }
+  /// The job before each row of a table.
+  void StartFresh() {
     Module1 = JobState{};
     Module1.JobFileName = folder_.File("job.qjt");
   }
@@ -69,7 +71,7 @@ TEST_F(JobFileFailure, FileThatEndsBeforeItsTaskCountChangesNothing) {
   const std::vector<Field> fields = FieldsOf(FilledJobText());
   for (std::size_t count = 0; count <= kTaskCountField; ++count) {
     SCOPED_TRACE(count);
-    SetUp();
+    StartFresh();
     Module1.JobDirty = kTrue;
     JobState expected = Module1;
     const std::size_t end = count == 0 ? 0 : fields[count - 1].end;
@@ -89,7 +91,7 @@ TEST_F(JobFileFailure, FileThatEndsAtAnyFieldKeepsWhatWasReadAndStaysOpen) {
 
   for (std::size_t count = kTaskCountField + 1; count < fields.size(); ++count) {
     SCOPED_TRACE(count);
-    SetUp();
+    StartFresh();
     Module1.JobDirty = kTrue;
     EXPECT_EQ(OpenFailure(FilledJobText().substr(0, fields[count - 1].end)), "InputPastEnd");
     EXPECT_EQ(Module1.JobDirty, kFalse);
@@ -145,7 +147,7 @@ TEST_F(JobFileFailure, NumberThatIsNoneTellsLineFieldAndText) {
   };
   for (const WrongRow& row : rows) {
     SCOPED_TRACE(std::string("line ") + std::to_string(row.line) + ": " + row.text);
-    SetUp();
+    StartFresh();
     Module1.JobDirty = kTrue;
     Module1.RebaNeckFactors.fill(1);
     WriteBytes(Module1.JobFileName, EmptyJobWith(row.line, row.text));
@@ -344,7 +346,7 @@ TEST_F(JobFileFailure, TaskCountThatNoArrayCanHaveLeavesTheRestOfTheJobAndTheFil
       {"-1E300", "SubscriptOutOfRange", -1E300},
   };
   for (const CountRow& row : rows) {
-    SetUp();
+    StartFresh();
     Module1.TaskCount = Integer{1};
     NewTaskRecord();
     Module1.JobAnalyst = "analyst";

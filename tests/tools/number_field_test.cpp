@@ -12,7 +12,9 @@ namespace {
 
 class NumberFields : public testing::Test {
  protected:
-  void SetUp() override {
+  void SetUp() override { StartFresh(); }
+  /// The job before each row of a table.
+  void StartFresh() {
     Module1 = JobState{};
     AddTaskRecord();
     AddTaskRecord();
@@ -50,7 +52,7 @@ TEST_F(NumberFields, NumberIsReadInItsOwnKindFromItsOwnTask) {
 TEST_F(NumberFields, StoredNumberKeepsItsKindWhereTheFieldDoes) {
   for (const NumberField& field : kAll) StoreNumber(field, 1, Integer{5});
   JobState expected = Module1;
-  SetUp();
+  StartFresh();
   Module1.OcraWristHold = 5;
   Module1.JobCycleTime = 5;
   Module1.SiExertionCount = Integer{5};
@@ -103,7 +105,7 @@ struct TypedRow {
 TEST_F(NumberFields, TypedTextIsStoredAsTheNumberThatItReadsAs) {
   for (const TypedRow& row : {TypedRow{"20", 20}, TypedRow{" 1.5 min", 1.5}, TypedRow{"-3", -3},
                               TypedRow{"", 0}, TypedRow{"abc", 0}, TypedRow{"1E999", 0}}) {
-    SetUp();
+    StartFresh();
     NumberTyped(kTaggedOfTask, row.text);
     EXPECT_EQ(Module1.CtdHandSpan.at(2), TaggedField(row.number)) << row.text;
     EXPECT_EQ(Module1.CtdHandSpan.at(1), TaggedField(Integer{0})) << row.text;

@@ -49,7 +49,9 @@ TEST(CtdCaptions, BoxesHaveTheirLabels) {
 class CtdInputs : public testing::Test {
  protected:
   /// Two tasks, the second on screen.
-  void SetUp() override {
+  void SetUp() override { StartFresh(); }
+  /// The job before each row of a table.
+  void StartFresh() {
     Module1 = JobState{};
     AddTaskRecord();
     AddTaskRecord();
@@ -87,14 +89,14 @@ TEST_F(CtdInputs, EachBoxStoresItsFieldAndTouchesNothingElse) {
       BoxRow{"cycles", &CtdBoxAt(kCtdText2, 2), nothing, true},
   };
   for (const BoxRow& row : rows) {
-    SetUp();
+    StartFresh();
     JobState expected = Module1;
     expected.JobDirty = kTrue;
     row.store(expected);
     CtdTyped(*row.box, "2.5");
     EXPECT_TRUE(Module1 == expected) << row.label;
 
-    SetUp();
+    StartFresh();
     DeleteBoth();
     expected = Module1;
     expected.JobDirty = kTrue;
@@ -106,7 +108,7 @@ TEST_F(CtdInputs, EachBoxStoresItsFieldAndTouchesNothingElse) {
 
 TEST_F(CtdInputs, SlotBoxesStoreForTaskAndSlot) {
   for (int slot = 0; slot < kCtdSlotCount; ++slot) {
-    SetUp();
+    StartFresh();
     JobState expected = Module1;
     expected.JobDirty = kTrue;
     expected.CtdLoadHeld.at(2, slot) = 7;

@@ -64,7 +64,9 @@ int AddTask(const TaskRow& row) {
 /// An English job of 8 hours and a cycle of one minute with the worked task.
 class CtdScore : public testing::Test {
  protected:
-  void SetUp() override {
+  void SetUp() override { StartFresh(); }
+  /// The job before each row of a table.
+  void StartFresh() {
     StartJob();
     AddTask(kWorkedTask);
   }
@@ -189,7 +191,7 @@ TEST_F(CtdScore, CategoryMultiplierOfEachSlot) {
            {{100, 50, 25}, {0, 1, 2, 3, 6}}, {{100, 200, 300}, {4, 5}}, {{100, 100, 100}, {7}}}) {
     for (const int slot : row.slots) {
       for (std::size_t category = 1; category <= 3; ++category) {
-        SetUp();
+        StartFresh();
         Module1.CtdPostureDuration.at(1, slot) = 0;
         StoreCtdCategory(slot, 1, static_cast<Integer>(category));
         CTDcalculate();
@@ -202,7 +204,7 @@ TEST_F(CtdScore, CategoryMultiplierOfEachSlot) {
 
 TEST_F(CtdScore, UnknownCategoryHasNoCapacityButAtElbowAndNeck) {
   for (int slot = 0; slot < kCtdSlotCount; ++slot) {
-    SetUp();
+    StartFresh();
     Module1.CtdPostureDuration.at(1, slot) = 0;
     StoreCtdCategory(slot, 1, 4);
     CTDcalculate();
@@ -240,7 +242,7 @@ TEST_F(CtdScore, DurationFromTheCycleTimeOnTakesTheWholeCapacity) {
 // not, for the shoulders.
 TEST_F(CtdScore, ShoulderSlotsJoinByNumber) {
   for (const int slot : {0, 1, 2, 3}) {
-    SetUp();
+    StartFresh();
     for (int other = 0; other < kCtdSlotCount; ++other) StoreCtdCategory(other, 1, 0);
     StoreCtdCategory(slot, 1, 1);
     Module1.CtdPostureDuration.at(1, slot) = 0;
@@ -401,13 +403,13 @@ TEST_F(CtdScore, GrandScoreIsNeverBelowZero) {
 TEST_F(CtdScore, CodesThatAreNoneDivideByZero) {
   Module1.CtdGripType.at(1) = Integer{1};
   EXPECT_EQ(FailureOf(CTDcalculate), "DivisionByZero") << "grip";
-  SetUp();
+  StartFresh();
   Module1.CtdWristPosition.at(1) = 4;
   EXPECT_EQ(FailureOf(CTDcalculate), "DivisionByZero") << "wrist";
-  SetUp();
+  StartFresh();
   Module1.CtdRadUlnDeviation.at(1) = 5;
   EXPECT_EQ(FailureOf(CTDcalculate), "DivisionByZero") << "radial/ulnar";
-  SetUp();
+  StartFresh();
   Module1.CtdFlexExtDeviation.at(1) = Integer{1};
   EXPECT_EQ(FailureOf(CTDcalculate), "DivisionByZero") << "flexion/extension";
 }
@@ -423,13 +425,13 @@ TEST_F(CtdScore, WristCodeTwoComputesAsNeutral) {
 TEST_F(CtdScore, PowersWithoutRealResultFail) {
   Module1.CtdPostureDuration.at(1, 0) = -0.1;
   EXPECT_EQ(FailureOf(CTDcalculate), "InvalidCall") << "duration";
-  SetUp();
+  StartFresh();
   Module1.CtdLoadHeld.at(1, 0) = -2.28;
   EXPECT_EQ(FailureOf(CTDcalculate), "InvalidCall") << "load";
-  SetUp();
+  StartFresh();
   Module1.CtdLoadHeld.at(1, 1) = -2.28;
   EXPECT_EQ(FailureOf(CTDcalculate), "InvalidCall") << "load of a neutral slot";
-  SetUp();
+  StartFresh();
   Module1.CtdLoadHeld.at(1, 0) = -2.27;
   EXPECT_EQ(FailureOf(CTDcalculate), "none") << "a base just above 0";
 }

@@ -122,7 +122,9 @@ TEST(OcraSliders, StandAtTheNearestEndAndRateInHalves) {
 
 class OcraForm : public testing::Test {
  protected:
-  void SetUp() override { Module1 = JobState{}; }
+  void SetUp() override { StartFresh(); }
+  /// The job before each row of a table.
+  void StartFresh() { Module1 = JobState{}; }
   OcraControls controls_;
 };
 
@@ -137,7 +139,7 @@ TEST_F(OcraForm, LoadOfALeftHandJobOrATickMarksItChanged) {
   controls_.Load();
   EXPECT_EQ(controls_.hand(), 1);
   EXPECT_EQ(Module1.JobDirty, kTrue);
-  SetUp();
+  StartFresh();
   controls_.Reset();
   EXPECT_EQ(controls_.hand(), 0);
   Module1.OcraSameFingers = "4";
@@ -158,12 +160,12 @@ TEST_F(OcraForm, LoadMakesTheFirstTaskOfTheTreeCurrent) {
 
 TEST_F(OcraForm, LoadOfAValueThatNamesNoControlFails) {
   for (const Integer hand : std::array<Integer, 2>{2, -1}) {
-    SetUp();
+    StartFresh();
     Module1.Hand = hand;
     EXPECT_EQ(FailureOf([this] { controls_.Load(); }), "SubscriptOutOfRange") << hand;
   }
   for (const Integer answer : std::array<Integer, 2>{4, -1}) {
-    SetUp();
+    StartFresh();
     Module1.OcraComboChoice.at(13) = answer;
     EXPECT_EQ(FailureOf([this] { controls_.Load(); }), "SubscriptOutOfRange") << answer;
   }
@@ -182,7 +184,7 @@ TEST_F(OcraForm, AnswerOfAPairClearsItsPartner) {
   constexpr std::array kPairs{-1, -1, -1, -1, -1, -1, 7, 6, 9, 8, 11, 10, 13, 12};
   for (int list = 0; list < 14; ++list) {
     for (int answer = 0; answer < 4; ++answer) {
-      SetUp();
+      StartFresh();
       for (int i = 0; i < 14; ++i) Module1.OcraComboChoice.at(i) = 1;
       controls_.PickAnswer(list, answer);
       EXPECT_EQ(Module1.JobDirty, kTrue);
@@ -206,7 +208,7 @@ TEST_F(OcraForm, EachTickStoresFourAndZeroInItsField) {
                                  double(Module1.OcraElbowGesture)};
   };
   for (int box = 0; box < 5; ++box) {
-    SetUp();
+    StartFresh();
     std::array<double, 5> expected{};
     controls_.SetTick(box, false);
     EXPECT_EQ(Module1.JobDirty, kFalse) << "as it was";

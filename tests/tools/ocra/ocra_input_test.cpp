@@ -16,7 +16,9 @@ namespace {
 class OcraInputs : public testing::Test {
  protected:
   /// Two tasks, the second on screen.
-  void SetUp() override {
+  void SetUp() override { StartFresh(); }
+  /// The job before each row of a table.
+  void StartFresh() {
     Module1 = JobState{};
     AddTaskRecord();
     AddTaskRecord();
@@ -70,7 +72,7 @@ TEST_F(OcraInputs, EachBoxStoresItsFieldAndTouchesNothingElse) {
 
 TEST_F(OcraInputs, HoursAreStoredAsAWholeNumber) {
   for (const int hours : {0, 7, 10}) {
-    SetUp();
+    StartFresh();
     OcraHoursMoved(hours);
     expected_.OcraRecoveryHours = static_cast<Integer>(hours);
     EXPECT_TRUE(Module1 == expected_) << hours;

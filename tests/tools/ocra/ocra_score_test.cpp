@@ -19,7 +19,9 @@ namespace {
 /// A job with one task of 480 minutes at 30 actions a minute, and nothing against it.
 class OcraScore : public testing::Test {
  protected:
-  void SetUp() override {
+  void SetUp() override { StartFresh(); }
+  /// The job before each row of a table.
+  void StartFresh() {
     Module1 = JobState{};
     AddTask(480, 30, 0);
   }
@@ -181,7 +183,7 @@ TEST_F(OcraScore, AnswersScoreIntoTheirFields) {
   }};
   for (const Row& row : rows) {
     for (int answer = 0; answer < 4; ++answer) {
-      SetUp();
+      StartFresh();
       Module1.OcraComboChoice.at(row.list) = static_cast<Integer>(answer);
       OcraScoreLists();
       const double score = row.scores.at(static_cast<std::size_t>(answer));
@@ -211,7 +213,7 @@ TEST_F(OcraScore, ListsOfAPairAddIntoTheirField) {
 TEST_F(OcraScore, AnswerThatIsNoneFails) {
   for (const int list : {0, 5, 6, 13}) {
     for (const Integer answer : std::array<Integer, 3>{4, -1, 32767}) {
-      SetUp();
+      StartFresh();
       Module1.OcraComboChoice.at(list) = answer;
       EXPECT_EQ(FailureOf(OcraScoreLists), "SubscriptOutOfRange") << list << " " << answer;
     }
@@ -278,7 +280,7 @@ TEST_F(OcraScore, EachTickWeighsInItsPlace) {
                                  {"hold object", {0, 0, 0, 0}, 4},
                                  {"elbow gesture", {0, 4, 0, 0}, 0}}};
   for (std::size_t i = 0; i < rows.size(); ++i) {
-    SetUp();
+    StartFresh();
     if (i == 1) Module1.OcraWristActions = Integer{4};
     if (i == 2) Module1.OcraWristHold = 4;
     if (i == 3) Module1.OcraSameFingers = Integer{4};
@@ -418,20 +420,20 @@ TEST_F(OcraScore, RecommendedActionsBelowZeroCountAsAThousandth) {
 TEST_F(OcraScore, NumbersBeyondTheirFieldsOverflow) {
   Module1.OcraTaskDuration.at(1) = 1E308;
   EXPECT_EQ(FailureOf(Compute), "Overflow") << "product";
-  SetUp();
+  StartFresh();
   Module1.OcraTaskDuration.at(1) = 1E308;
   Module1.OcraActionFrequency.at(1) = Integer{1};
   EXPECT_EQ(FailureOf(Compute), "Overflow") << "thirty times the duration";
-  SetUp();
+  StartFresh();
   Module1.OcraTaskDuration.at(1) = 1.5E308;
   Module1.OcraActionFrequency.at(1) = Integer{1};
   AddTask(1.5E308, 1, 0);
   EXPECT_EQ(FailureOf(Compute), "Overflow") << "sum";
-  SetUp();
+  StartFresh();
   Module1.OcraElbowGesture = 32767;
   Module1.OcraComboChoice.at(6) = 0;
   EXPECT_EQ(FailureOf(Compute), "Overflow") << "region sum beyond 16 bits";
-  SetUp();
+  StartFresh();
   Module1.OcraTaskDuration.at(1) = 1E300;
   Module1.OcraActionFrequency.at(1) = 1E7;
   Module1.OcraRecoveryHours = Integer{8};

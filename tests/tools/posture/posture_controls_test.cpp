@@ -29,7 +29,9 @@ class SmallControls : public PostureControls {
 
 class Postures : public testing::Test {
  protected:
-  void SetUp() override { Module1 = JobState{}; }
+  void SetUp() override { StartFresh(); }
+  /// The job before each row of a table.
+  void StartFresh() { Module1 = JobState{}; }
   void Load() {
     controls_.Reset();
     controls_.told.clear();
@@ -87,7 +89,7 @@ TEST_F(Postures, LoadSetsWhatASavedValueStandsFor) {
   };
   for (const SavedRow& row : rows) {
     SCOPED_TRACE(std::string(RowOf(row.control).objectName) + " " + std::to_string(row.saved));
-    SetUp();
+    StartFresh();
     Saved(row.control) = row.saved;
     Factor(row.control) = 99;
     Load();
@@ -109,7 +111,7 @@ TEST_F(Postures, LoadFailsAtTheRowOfAValueThatHasToNameAChoice) {
   for (const Row& row : rows) {
     for (const Integer saved : std::array<Integer, 3>{-1, 3, 32767}) {
       SCOPED_TRACE(std::string(RowOf(row.control).objectName) + " " + std::to_string(saved));
-      SetUp();
+      StartFresh();
       Saved(row.control) = saved;
       EXPECT_EQ(FailureOf([this] { Load(); }), "SubscriptOutOfRange");
       EXPECT_EQ(controls_.told, row.told);
@@ -130,7 +132,7 @@ TEST_F(Postures, LoadOfTheIndexOfAnAddOnPressesItAndNoBase) {
 
 TEST_F(Postures, HandThatThereIsNotFailsBeforeAnythingIsSet) {
   for (const Integer hand : std::array<Integer, 2>{-1, 2}) {
-    SetUp();
+    StartFresh();
     Module1.Hand = hand;
     EXPECT_EQ(FailureOf([this] { Load(); }), "SubscriptOutOfRange");
     EXPECT_EQ(controls_.told, "");
@@ -167,7 +169,7 @@ TEST_F(Postures, ClickSetsOrReleasesWhereThatMayBe) {
   };
   for (const ClickRow& row : rows) {
     SCOPED_TRACE(std::string(RowOf(row.control).objectName) + " " + std::to_string(row.chosen));
-    SetUp();
+    StartFresh();
     Load();
     Module1.JobDirty = kFalse;
     for (const int index : row.clicks) controls_.Click(RowOf(row.control), index);

@@ -187,7 +187,9 @@ TEST(RebaTables, LoadListAndCouplings) {
 
 class RebaForm : public testing::Test {
  protected:
-  void SetUp() override { Module1 = JobState{}; }
+  void SetUp() override { StartFresh(); }
+  /// The job before each row of a table.
+  void StartFresh() { Module1 = JobState{}; }
   /// Which ribbons of a frame are down, "x" a ribbon.
   std::string DownIn(RebaRegion region) const {
     std::string down;
@@ -262,7 +264,7 @@ TEST_F(RebaForm, RibbonsThatMayBeUpAreReleasedByAClick) {
       {"unstable keeps the knee", Legs, {2, 1}, ".xx."},
   };
   for (const ClickRow& row : rows) {
-    SetUp();
+    StartFresh();
     controls_.Reset();
     controls_.Load();
     for (const int index : row.clicks) ClickRibbon(controls_, row.region, index);

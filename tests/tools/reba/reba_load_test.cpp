@@ -16,7 +16,9 @@ namespace {
 
 class RebaLoad : public testing::Test {
  protected:
-  void SetUp() override { Module1 = JobState{}; }
+  void SetUp() override { StartFresh(); }
+  /// The job before each row of a table.
+  void StartFresh() { Module1 = JobState{}; }
   /// What opening the tool on the present job does.
   void Load() {
     controls_.Reset();
@@ -165,7 +167,7 @@ TEST_F(RebaLoad, EachSavedValuePressesItsControlAlone) {
   // clang-format on
   for (const SavedRow& row : rows) {
     SCOPED_TRACE(std::to_string(row.entry) + " = " + std::to_string(row.saved));
-    SetUp();
+    StartFresh();
     Module1.RebaControlState.at(row.entry) = row.saved;
     Load();
     EXPECT_EQ(Set(), row.set);
@@ -196,7 +198,7 @@ TEST_F(RebaLoad, SavedValueThatSetsNothingIsPassedOver) {
   };
   for (const IgnoredRow& row : rows) {
     SCOPED_TRACE(row.label);
-    SetUp();
+    StartFresh();
     Module1.RebaControlState.at(row.entry) = row.saved;
     Load();
     EXPECT_EQ(Set(), "hand0 upper0 lower0 wrist0 neck0 trunk0 leg0 load0 grip0");
@@ -214,7 +216,7 @@ TEST_F(RebaLoad, WristOf3PressesTheSideBentRibbonAndSetsNoBase) {
   EXPECT_EQ(Module1.RebaWristFactors.at(0), 0);
   EXPECT_EQ(Module1.RebaWristFactors.at(1), 1);
   // The base of the job before stays where there is one.
-  SetUp();
+  StartFresh();
   Module1.RebaWristFactors.at(0) = 2;
   Module1.RebaControlState.at(6) = 3;
   Load();
@@ -253,7 +255,7 @@ TEST_F(RebaLoad, SavedValueThatNamesNoControlFailsAtItsStep) {
   for (const FailureRow& row : rows) {
     for (const Integer saved : row.saved) {
       SCOPED_TRACE(std::string(row.label) + " " + std::to_string(saved));
-      SetUp();
+      StartFresh();
       SaveStates(kFull);
       Module1.Hand = 1;
       (row.entry < 0 ? Module1.Hand : Module1.RebaControlState.at(row.entry)) = saved;

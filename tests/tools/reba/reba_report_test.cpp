@@ -23,7 +23,9 @@ using Stops = std::vector<int>;
 
 class RebaReportText : public testing::Test {
  protected:
-  void SetUp() override { Module1 = JobState{}; }
+  void SetUp() override { StartFresh(); }
+  /// The job before each row of a table.
+  void StartFresh() { Module1 = JobState{}; }
   /// What opening the tool and its report tab does.
   std::string Open() {
     RebaControls controls;
@@ -219,7 +221,7 @@ TEST_F(RebaReportText, EachStateHasItsRow) {
   };
   for (const FactorRow& row : rows) {
     SCOPED_TRACE(row.row);
-    SetUp();
+    StartFresh();
     Module1.RebaUpperArmFactors.at(0) = 11;
     Module1.RebaUpperArmFactors.at(1) = 12;
     Module1.RebaUpperArmFactors.at(2) = 13;
@@ -357,7 +359,7 @@ TEST_F(RebaReportText, StateThatNamesNoControlFails) {
   for (const StateRow& row :
        std::array<StateRow, 7>{{{0, 5}, {4, 3}, {6, 4}, {9, 3}, {12, 6}, {17, 3}, {19, 4}}}) {
     for (const Integer state : std::array<Integer, 2>{row.beyond, -1}) {
-      SetUp();
+      StartFresh();
       Module1.RebaControlState.at(row.entry) = state;
       EXPECT_EQ(FailureOf([this] { REBA_Report(pane_); }), "SubscriptOutOfRange")
           << row.entry << " = " << state;

@@ -57,7 +57,9 @@ constexpr std::array<std::array<int, 12>, 12> kTableC{{
 
 class RebaScore : public testing::Test {
  protected:
-  void SetUp() override { Module1 = JobState{}; }
+  void SetUp() override { StartFresh(); }
+  /// The job before each row of a table.
+  void StartFresh() { Module1 = JobState{}; }
   /// Puts the scores of a fresh form into the factors.
   static void LoadFreshForm() {
     RebaControls controls;
@@ -342,7 +344,7 @@ TEST_F(RebaScore, ScoreBeyondItsTableFails) {
       {"B total 32768", [] { Module1.RebaCouplingFactor = 32767; }, "Overflow"},
   };
   for (const BeyondRow& row : rows) {
-    SetUp();
+    StartFresh();
     LoadFreshForm();
     row.set();
     EXPECT_EQ(FailureOf(REBA_Calculate), row.failure) << row.label;

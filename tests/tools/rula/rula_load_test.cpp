@@ -37,7 +37,9 @@ constexpr std::string_view kFirstOfEach =
 
 class RulaLoad : public testing::Test {
  protected:
-  void SetUp() override { Module1 = JobState{}; }
+  void SetUp() override { StartFresh(); }
+  /// The job before each row of a table.
+  void StartFresh() { Module1 = JobState{}; }
   /// What showing the form does.
   void Show() {
     controls_.Reset();
@@ -118,7 +120,7 @@ constexpr auto kSavedChoices = std::to_array<SavedChoice>({
 TEST_F(RulaLoad, EachSavedChoiceSetsItsControlAndItsFactor) {
   for (const SavedChoice& row : kSavedChoices) {
     SCOPED_TRACE("state " + std::to_string(row.state) + " " + std::to_string(row.value));
-    SetUp();
+    StartFresh();
     Show();
     Factors expected = RulaFactors();
     expected.at(static_cast<std::size_t>(row.region)).at(static_cast<std::size_t>(row.element)) =
@@ -135,7 +137,7 @@ TEST_F(RulaLoad, BoxIsCheckedForOneAlone) {
   for (const int state : {1, 2, 3, 5, 7, 10, 11, 13, 14, 16, 18, 19}) {
     for (const Integer value : std::array<Integer, 4>{0, 2, -1, 32767}) {
       SCOPED_TRACE("state " + std::to_string(state) + " " + std::to_string(value));
-      SetUp();
+      StartFresh();
       FillRulaFactors(9);
       Module1.RulaControlState.at(state) = value;
       Show();
@@ -150,7 +152,7 @@ TEST_F(RulaLoad, BoxIsCheckedForOneAlone) {
 
 TEST_F(RulaLoad, TwistAndLegThatAreNotZeroAreTheSecondOption) {
   for (const Integer value : std::array<Integer, 4>{1, 2, -1, 32767}) {
-    SetUp();
+    StartFresh();
     Module1.RulaControlState.at(8) = value;
     Module1.RulaControlState.at(15) = value;
     Show();
@@ -165,7 +167,7 @@ TEST_F(RulaLoad, TwistAndLegThatAreNotZeroAreTheSecondOption) {
 
 TEST_F(RulaLoad, ForceThatIsNoneOfTheFourChoosesNoneAndKeepsItsFactor) {
   for (const Integer value : std::array<Integer, 4>{4, -1, 32767, -32768}) {
-    SetUp();
+    StartFresh();
     Module1.RulaForceFactor = 2;
     Module1.RulaControlState.at(17) = value;
     Show();
@@ -223,7 +225,7 @@ TEST_F(RulaLoad, SavedRibbonThatIsNoneFailsAtItsStep) {
   };
   for (const BrokenLoad& row : rows) {
     for (const Integer value : row.values) {
-      SetUp();
+      StartFresh();
       FillRulaFactors(9);
       SetStates(kEverything);
       Module1.RulaControlState.at(row.state) = value;
@@ -236,7 +238,7 @@ TEST_F(RulaLoad, SavedRibbonThatIsNoneFailsAtItsStep) {
 
 TEST_F(RulaLoad, SavedHandThatIsNoneFailsFirst) {
   for (const Integer hand : std::array<Integer, 3>{2, -1, 32767}) {
-    SetUp();
+    StartFresh();
     Module1.Hand = hand;
     const JobState before = Module1;
     EXPECT_EQ(FailureOf([this] { Show(); }), "SubscriptOutOfRange") << hand;

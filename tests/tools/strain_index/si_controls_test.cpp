@@ -73,7 +73,9 @@ TEST(SiRibbonCaptions, FramesColumnsAndRibbonsReadAsOnTheForm) {
 
 class SiRibbons : public testing::Test {
  protected:
-  void SetUp() override { Module1 = JobState{}; }
+  void SetUp() override { StartFresh(); }
+  /// The job before each row of a table.
+  void StartFresh() { Module1 = JobState{}; }
 
   static int PickOf(SiRibbonArray array) {
     if (array == kIntensity) return static_cast<int>(Module1.SiIntensityPick.AsDouble());
@@ -199,7 +201,7 @@ TEST_F(SiRibbons, LoadOfEachSavedPickRatesItsRow) {
   for (const SiRibbonArray array : kSiRibbonArrays) {
     for (int index = 0; index < SiFrameOf(array).ribbonCount(); ++index) {
       SCOPED_TRACE(std::string(SiFrameOf(array).objectName) + " " + std::to_string(index));
-      SetUp();
+      StartFresh();
       controls_.Reset();
       const auto pick = static_cast<Integer>(index);
       if (array == kIntensity) Module1.SiIntensityPick = pick;
@@ -272,7 +274,7 @@ TEST_F(SiRibbons, SavedPickThatNamesNoRibbonFailsAtItsStepOfTheLoad) {
       {"empty and no number", {}, "none", 0, "none", {1, 1, 1}},
   };
   for (const SavedPicks& row : rows) {
-    SetUp();
+    StartFresh();
     controls_.Reset();
     Module1.SiIntensityPick = row.intensity;
     Module1.SiPosturePick = row.posture;
@@ -286,7 +288,7 @@ TEST_F(SiRibbons, SavedPickThatNamesNoRibbonFailsAtItsStepOfTheLoad) {
 
 TEST_F(SiRibbons, SavedHandThatNamesNoOptionFailsBeforeTheRibbons) {
   for (const Integer hand : std::array<Integer, 3>{2, -1, 32767}) {
-    SetUp();
+    StartFresh();
     Module1.Hand = hand;
     JobState expected = Module1;
     EXPECT_EQ(FailureOf([&] { controls_.Load(); }), "SubscriptOutOfRange") << hand;

@@ -33,7 +33,9 @@ constexpr std::array<double, 5> kHoursOf{0.5, 1.5, 3, 6, 10};
 /// A job that all ribbons have been pressed for, with an observation of 10 minutes for both.
 class StrainIndex : public testing::Test {
  protected:
-  void SetUp() override {
+  void SetUp() override { StartFresh(); }
+  /// The job before each row of a table.
+  void StartFresh() {
     Module1 = JobState{};
     Rate(1, 1, 1);
     Module1.SiDutyObservationMinutes = 10.0;
@@ -109,7 +111,7 @@ constexpr std::array kDutyBands{
 TEST_F(StrainIndex, DutyCycleIsRatedInBandsWithGaps) {
   for (const BandRow& band : kDutyBands) {
     for (const Integer before : std::array<Integer, 3>{0, 1, 5}) {
-      SetUp();
+      StartFresh();
       Module1.SiDutyRating = before;
       Module1.SiExertionMinutes = band.value / 100;
       Module1.SiDutyObservationMinutes = 1.0;
@@ -134,7 +136,7 @@ constexpr std::array kEffortsBands{
 TEST_F(StrainIndex, EffortsPerMinuteAreRatedInBandsWithGaps) {
   for (const BandRow& band : kEffortsBands) {
     for (const Integer before : std::array<Integer, 3>{0, 1, 5}) {
-      SetUp();
+      StartFresh();
       Module1.SiEffortsRating = before;
       Module1.SiExertionCount = band.value * 2;
       Module1.SiEffortObservationMinutes = 2;
@@ -184,7 +186,7 @@ TEST_F(StrainIndex, FirstComputationInAGapFailsBeforeTheReport) {
 
 TEST_F(StrainIndex, RibbonsThatNoLoadHasPressedFail) {
   for (const int missing : {0, 1, 2}) {
-    SetUp();
+    StartFresh();
     Rate(missing == 0 ? 0 : 1, missing == 1 ? 0 : 1, missing == 2 ? 0 : 1);
     EXPECT_EQ(Failure(), "SubscriptOutOfRange") << missing;
     EXPECT_EQ(pane_.text(), "") << missing;
@@ -200,7 +202,7 @@ TEST_F(StrainIndex, HundredPerCentRatesTheEffortsHighest) {
   EXPECT_EQ(Module1.SiEffortsPerMinute, 0.1);
   EXPECT_EQ(Module1.SiEffortsRating, 5);
   // A gap counts for nothing then, not even in the first computation.
-  SetUp();
+  StartFresh();
   Module1.SiExertionMinutes = 10.0;
   Module1.SiExertionCount = Integer{85};
   EXPECT_EQ(Failure(), "none");
@@ -213,7 +215,7 @@ TEST_F(StrainIndex, HundredPerCentRatesTheEffortsHighest) {
 
 TEST_F(StrainIndex, ObservationOfNothingIsReplacedInTheJob) {
   for (const double minutes : {0.0, -5.0}) {
-    SetUp();
+    StartFresh();
     Module1.SiDutyObservationMinutes = minutes;
     Module1.SiEffortObservationMinutes = minutes;
     SI_Calculate(pane_);
@@ -284,15 +286,15 @@ TEST_F(StrainIndex, RatioBeyondADoubleOverflows) {
   Module1.SiExertionMinutes = 1E308;
   Module1.SiDutyObservationMinutes = 0.001;
   EXPECT_EQ(Failure(), "Overflow");
-  SetUp();
+  StartFresh();
   Module1.SiExertionMinutes = 1E308;
   Module1.SiDutyObservationMinutes = 1.0;
   EXPECT_EQ(Failure(), "Overflow");
-  SetUp();
+  StartFresh();
   Module1.SiExertionCount = 1E308;
   Module1.SiEffortObservationMinutes = 0.001;
   EXPECT_EQ(Failure(), "Overflow");
-  SetUp();
+  StartFresh();
   Module1.SiExertionCount = "1E999";
   EXPECT_EQ(Failure(), "Overflow");
   EXPECT_EQ(pane_.text(), "");
