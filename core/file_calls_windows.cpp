@@ -155,7 +155,7 @@ HANDLE OpenAnything(const std::string& path, DWORD rights, DWORD flags) {
 }
 
 std::error_code Ask(const std::string& path, DWORD flags, Status& status) {
-  const HANDLE handle = OpenAnything(path, FILE_READ_ATTRIBUTES, flags);
+  auto* const handle = OpenAnything(path, FILE_READ_ATTRIBUTES, flags);
   if (handle == INVALID_HANDLE_VALUE) return LastError();
   const std::error_code error = Ask(handle, status);
   CloseHandle(handle);
@@ -199,7 +199,7 @@ std::error_code File::Open(const std::string& path, Access access) {
   }
   const std::wstring widePath = WidePath(path);
   const Opening opening = OpeningFor(access);
-  const HANDLE handle =
+  auto* const handle =
       CreateFileW(widePath.c_str(), opening.rights, kShareAll, &security, opening.disposition,
                   opening.flags | FILE_ATTRIBUTE_NORMAL, nullptr);
   if (handle == INVALID_HANDLE_VALUE) return WhyNot(widePath);
@@ -216,6 +216,8 @@ std::error_code File::Close() {
 
 std::error_code File::GetStatus(Status& status) const { return Ask(HandleOf(handle_), status); }
 
+// What these do changes the file, though not what this holds of it.
+// NOLINTBEGIN(readability-make-member-function-const)
 std::error_code File::ReadSome(char* buffer, std::size_t size, std::size_t& count) {
   return ReadFrom(HandleOf(handle_), nullptr, buffer, size, count);
 }
@@ -271,6 +273,8 @@ std::error_code File::TryLock() {
                          1, 0, &place));
 }
 
+// NOLINTEND(readability-make-member-function-const)
+
 std::error_code StatusOf(const std::string& path, Status& status) { return Ask(path, 0, status); }
 
 std::error_code StatusOfName(const std::string& path, Status& status) {
@@ -291,7 +295,7 @@ std::error_code RenameOver(const std::string& from, const std::string& to) {
 }
 
 std::error_code SyncFolder(const std::string& folder) {
-  const HANDLE handle = OpenAnything(folder.empty() ? "." : folder, GENERIC_WRITE, 0);
+  auto* const handle = OpenAnything(folder.empty() ? "." : folder, GENERIC_WRITE, 0);
   if (handle == INVALID_HANDLE_VALUE) return LastError();
   const std::error_code error = Flush(handle);
   CloseHandle(handle);
@@ -305,7 +309,7 @@ std::error_code MakeOneFolder(const std::string& path) {
 }
 
 std::string WholePathOf(const std::string& path) {
-  const HANDLE handle = OpenAnything(path, FILE_READ_ATTRIBUTES, 0);
+  auto* const handle = OpenAnything(path, FILE_READ_ATTRIBUTES, 0);
   if (handle == INVALID_HANDLE_VALUE) return {};
   std::wstring whole(MAX_PATH, L'\0');
   while (true) {

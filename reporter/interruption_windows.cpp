@@ -15,7 +15,7 @@ BOOL WINAPI NoteInterruption(DWORD event) {
 }  // namespace
 
 HANDLE InterruptionEvent() {
-  static const HANDLE event = CreateEventW(nullptr, TRUE, FALSE, nullptr);
+  static auto* const event = CreateEventW(nullptr, TRUE, FALSE, nullptr);
   return event;
 }
 

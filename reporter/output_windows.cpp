@@ -63,7 +63,7 @@ bool OutputIsTerminal() {
 }
 
 bool ErrorIsTerminal() {
-  const HANDLE error = GetStdHandle(STD_ERROR_HANDLE);
+  auto* const error = GetStdHandle(STD_ERROR_HANDLE);
   DWORD mode = 0;
   // One that knows no control sequences is none to move about on.
   return IsConsole(error, mode) &&

@@ -91,7 +91,7 @@ class FileReplacementOnPosix : public testing::Test {
 
 TEST_F(FileReplacementOnPosix, NewFileHasTheModeThatTheUserWants) {
   const mode_t before = umask(0);
-  for (const mode_t mask : {0022, 0027, 0077}) {
+  for (const mode_t mask : {0022U, 0027U, 0077U}) {
     umask(mask);
     Replace(path_, "new");
     EXPECT_EQ(ModeOf(path_), 0666U & ~mask);
@@ -200,7 +200,7 @@ TEST_F(FileReplacementOnPosix, SymbolicLinkThatLeadsNowhereStaysALink) {
 }
 
 TEST_F(FileReplacementOnPosix, ModeStaysAndTheCopyIsForTheWriterAlone) {
-  for (const mode_t mode : {0600, 0640, 0664, 0755}) {
+  for (const mode_t mode : {0600U, 0640U, 0664U, 0755U}) {
     WriteBytes(path_, "old");
     ASSERT_EQ(chmod(path_.c_str(), mode), 0);
     AtTheSyncOfTheJob([this] {

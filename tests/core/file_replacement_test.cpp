@@ -27,7 +27,7 @@ class FileReplacementTest : public testing::Test {
 };
 
 TEST_F(FileReplacementTest, FileIsReplacedInPlace) {
-  for (const std::size_t size : {3, 300000, 0, 200000}) {
+  for (const std::size_t size : {3U, 300000U, 0U, 200000U}) {
     WriteBytes(path_, std::string(250000, 'o'));
     files::Status before;
     ASSERT_FALSE(files::StatusOf(path_, before));

@@ -38,7 +38,7 @@ class KeptCopyOnPosix : public testing::Test {
 };
 
 TEST_F(KeptCopyOnPosix, IsForTheWriterAloneWhateverTheMask) {
-  for (const mode_t mask : {0000, 0027, 0077, 0777}) {
+  for (const mode_t mask : {0000U, 0027U, 0077U, 0777U}) {
     const mode_t before = umask(mask);
     const std::string copy = MakeKeptCopy(target_, "new").path;
     umask(before);

@@ -34,16 +34,22 @@ void WriteNothing(RichText& /*RichTextBox1*/) {}
 }  // namespace
 
 const std::array<ToolRow, 2> kTestTools{
-    ToolRow{Tool::StrainIndex, "good", "", "", "Good <Tool>", "", &kPlain, HasReport,
-            WriteGoodReport, GoodValues},
-    ToolRow{Tool::Ocra, "failing", "", "", "Failing Tool", "", &kPlain, HasReport, Fail,
+    ToolRow{{Tool::StrainIndex, "good", "", "", "Good <Tool>", ""},
+            &kPlain,
+            HasReport,
+            WriteGoodReport,
             GoodValues},
+    ToolRow{
+        {Tool::Ocra, "failing", "", "", "Failing Tool", ""}, &kPlain, HasReport, Fail, GoodValues},
 };
 
-const ToolRow kSilentTool{Tool::Ctd, "silent",        "",          "",           "Silent Tool",
-                          "",        &kWithoutReport, HasNoReport, WriteNothing, NoValues};
-const ToolRow kUnitsTool{Tool::Ctd, "units", "",        "",         "Units Tool",
-                         "",        &kPlain, HasReport, WriteUnits, NoValues};
+const ToolRow kSilentTool{{Tool::Ctd, "silent", "", "", "Silent Tool", ""},
+                          &kWithoutReport,
+                          HasNoReport,
+                          WriteNothing,
+                          NoValues};
+const ToolRow kUnitsTool{
+    {Tool::Ctd, "units", "", "", "Units Tool", ""}, &kPlain, HasReport, WriteUnits, NoValues};
 
 RichText OneLine(std::string_view text, Alignment alignment, const std::vector<int>& tabStops) {
   RichText report;

@@ -38,10 +38,10 @@ std::vector<WorkingValue> NoValues() { return {}; }
 
 }  // namespace
 
-const ToolRow kIndexTool{Tool::Ocra, "index",         "",    "",       "Index Tool",
-                         "",         &kIndexHeadline, Opens, NoReport, NoValues};
-const ToolRow kGradeTool{Tool::Reba, "grade",         "",    "",       "Grade Tool",
-                         "",         &kGradeHeadline, Opens, NoReport, NoValues};
+const ToolRow kIndexTool{
+    {Tool::Ocra, "index", "", "", "Index Tool", ""}, &kIndexHeadline, Opens, NoReport, NoValues};
+const ToolRow kGradeTool{
+    {Tool::Reba, "grade", "", "", "Grade Tool", ""}, &kGradeHeadline, Opens, NoReport, NoValues};
 
 SummaryTools SampleTools() { return {&kIndexTool, &kGradeTool}; }
 

@@ -242,7 +242,9 @@ TEST_F(Postures, ChoiceThatThereIsNotFailsAndChangesNothing) {
       {RowOf(Small::List), 2},
       {foreign, 0},
   };
-  for (const auto& [control, index] : rows) {
+  for (const auto& row : rows) {
+    const PostureControl& control = row.first;
+    const int index = row.second;
     SCOPED_TRACE(std::string(control.array.front().caption) + " " + std::to_string(index));
     EXPECT_EQ(FailureOf([&] { controls_.Set(control, index); }), "SubscriptOutOfRange");
     EXPECT_EQ(FailureOf([&] { controls_.Release(control, index); }), "SubscriptOutOfRange");
