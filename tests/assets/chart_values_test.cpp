@@ -223,7 +223,7 @@ TEST(HalForceScalePicture, HasTheTicksAndWordsOfTheScaleAtTheirPlaces) {
   for (const HalMark& mark : kHalForceMarks) {
     SCOPED_TRACE(std::string(mark.tick));
     const double place = start + spacing * mark.position;
-    const QString words = QString::fromUtf8(mark.words.data(), mark.words.size());
+    const QString words = QString::fromStdString(std::string(mark.words));
     QStringList& here = texts[place];
     ASSERT_FALSE(here.isEmpty());
     EXPECT_EQ(here.takeFirst().toStdString(), mark.tick);
