@@ -2,7 +2,6 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
-#include <sstream>
 
 #include "reporter/output.h"
 #include "reporter/printable_text.h"
@@ -210,10 +209,12 @@ std::variant<Options, Notice> ParseOptions(std::vector<std::string> arguments,
   std::reverse(arguments.begin(), arguments.end());  // the order that the parser takes them in
   try {
     app.parse(std::move(arguments));
-  } catch (const CLI::ParseError& end) {
-    std::ostringstream out;
-    if (app.exit(end, out, out) == 0) return Notice{false, out.str()};
-    return Notice{true, WrongUse(end.what())};
+  } catch (const CLI::CallForHelp&) {
+    return Notice{false, app.help()};
+  } catch (const CLI::CallForVersion& version) {
+    return Notice{false, std::string(version.what()).append(kLineEnd)};
+  } catch (const CLI::ParseError& wrong) {
+    return Notice{true, WrongUse(wrong.what())};
   }
   const std::string complaint = ComplaintOf(given);
   if (!complaint.empty()) return Notice{true, WrongUse(complaint)};

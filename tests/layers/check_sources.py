@@ -137,6 +137,8 @@ def check_number_calls(root):
         code = without(text, ("comment", "string", "raw"))
         for name, pattern, allowed in rules.NUMBER_CALLS:
             if path.as_posix() in allowed:
+                if not pattern.search(code):
+                    yield f"{path}: may use what {name} without need"
                 continue
             for match in pattern.finditer(code):
                 where = f"{path}:{line_of(code, match.start())}"

@@ -134,8 +134,7 @@ NUMBER_CALLS = tuple(
         ("converts a number", r"\b(from|to)_chars\b|<charconv>", (NUMBER_TEXT,)),
         ("writes a number", r"\bQString::(number|asprintf)\b|\bsetNum\s*\(|\bQLocale\b", ()),
         ("writes a number", r"\bv?sn?printf\s*\(", ()),
-        # The command line library hands out its help as a stream.
-        ("writes a number", r"\b[io]?stringstream\b", ("reporter/options.cpp",)),
+        ("writes a number", r"\b[io]?stringstream\b", ()),
         # Whole numbers of messages, names and layout only: no value of a job passes here.
         (
             "writes a number",
@@ -144,7 +143,6 @@ NUMBER_CALLS = tuple(
                 "core/job_fields.cpp",
                 "core/job_text_reader.cpp",
                 "core/rescue_copy.cpp",
-                "reporter/html_writer.cpp",
             ),
         ),
     )
