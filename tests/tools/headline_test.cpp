@@ -4,6 +4,7 @@
 
 #include <array>
 #include <functional>
+#include <map>
 #include <random>
 #include <set>
 #include <string>
@@ -42,6 +43,12 @@ TEST(Headlines, EachToolHasItsColumns) {
       EXPECT_TRUE(headings.insert(std::string(column.heading)).second) << column.heading;
     }
   }
+}
+
+TEST(Headlines, BarsAreFullAtTheHighestScoreOrWhereTheWorstZoneIsWellEntered) {
+  const std::map<std::string_view, double> expected{{"ocra", 8},  {"ctd", 20}, {"si", 14},
+                                                    {"reba", 15}, {"rula", 7}, {"hal", 10}};
+  for (const ToolRow& row : Tools()) EXPECT_EQ(row.headline->fullBar, expected.at(row.key));
 }
 
 TEST(Headlines, OcraHasIndexAndZone) {

@@ -166,6 +166,11 @@ TEST_F(CtdInputs, CyclesPerShiftKeepTheirValueWithoutACycleTime) {
   Module1.JobCycleTime = 2.5;
   EXPECT_EQ(ComputeCtdCyclesPerShift(), 192);
   EXPECT_EQ(CtdCyclesText(), "192.00");
+  Module1.JobCycleTime = 0.5;
+  EXPECT_EQ(ComputeCtdCyclesPerShift(), 960);
+  EXPECT_EQ(CtdCyclesText(), "960.00");
+  Module1.JobCycleTime = 2.5;
+  ComputeCtdCyclesPerShift();
   for (const double cycle : {0.0, -1.0}) {
     Module1.JobCycleTime = cycle;
     EXPECT_EQ(ComputeCtdCyclesPerShift(), 0) << cycle;

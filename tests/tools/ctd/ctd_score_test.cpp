@@ -262,6 +262,12 @@ TEST_F(CtdScore, CycleTimeOfZeroIsGuardedAndZeroAgain) {
   EXPECT_EQ(Module1.JobCycleTime, 0);
 }
 
+TEST_F(CtdScore, ShiftOfZeroHoursIsGuardedAndZeroAgainAsADouble) {
+  Module1.JobDurationPerDay = Integer{0};
+  CTDcalculate();
+  EXPECT_EQ(Module1.JobDurationPerDay, TaggedField(0.0));
+}
+
 TEST_F(CtdScore, WorkTimeOfZeroIsComputedAsAHundredthAndZeroAgain) {
   Module1.CtdForceMvc.at(1) = 80;
   Module1.CtdWorkTime.at(1) = 0.0;
