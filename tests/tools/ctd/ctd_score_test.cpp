@@ -214,6 +214,27 @@ TEST_F(CtdScore, UnknownCategoryHasNoCapacityButAtElbowAndNeck) {
   }
 }
 
+TEST_F(CtdScore, UnknownCategoryPutsNoLoadOnTheNeck) {
+  Module1.CtdPostureDuration.at(1, kCtdNeckSlot) = 0.5;
+  StoreCtdCategory(kCtdNeckSlot, 1, 4);
+  CTDcalculate();
+  EXPECT_EQ(Capacity(kCtdNeckSlot), 100);
+}
+
+// Nothing is rounded away before there is no capacity at all.
+TEST_F(CtdScore, LastPerCentOfTheCapacityCounts) {
+  StoreCtdCategory(6, 1, 1);
+  Module1.CtdPostureDuration.at(1, 6) = 0.1;
+  double& load = Module1.CtdLoadHeld.at(1, 6);
+  load = 0;
+  do {
+    load += 0.01;
+    CTDcalculate();
+  } while (Capacity(6) >= 1);
+  EXPECT_GT(Capacity(6), 0) << load;
+  EXPECT_EQ(Score(6), 50 / Capacity(6)) << load;
+}
+
 TEST_F(CtdScore, NeutralSlotsScoreAHalfWhateverTheyHold) {
   for (int slot = 0; slot < kCtdSlotCount; ++slot) {
     StoreCtdCategory(slot, 1, 0);
