@@ -16,13 +16,13 @@
 #include <QProcess>
 #include <QSaveFile>
 #include <QStandardPaths>
-#include <QTextDocument>
 #include <QWidget>
 #include <QWindow>
 #include <array>
 
 #include "core/user_folders.h"
 #include "platform/platform_x11.h"
+#include "platform/printed_pages.h"
 #include "platform/registry_access.h"
 #include "platform/system_viewer.h"
 
@@ -113,7 +113,7 @@ void QtPlatform::SetUpPrinter(QWidget* parent) {
   dialog.exec();
 }
 
-void QtPlatform::Print(const QTextDocument& document) { document.print(&CurrentPrinter()); }
+void QtPlatform::Print(const QTextDocument& document) { PrintPages(document, CurrentPrinter()); }
 
 void QtPlatform::ClearClipboard() { QGuiApplication::clipboard()->clear(); }
 
