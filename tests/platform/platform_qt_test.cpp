@@ -231,6 +231,50 @@ TEST_F(RealPlatform, PaperAndOrientationOfPageSetupHoldForEachPrint) {
   }
 }
 
+/// Chooses a paper in a page setup dialog or the properties of a printer.
+void ChoosePaper(const QDialog& dialog, QPageSize::PageSizeId size) {
+  auto& paper = Find<QComboBox>(dialog, "pageSizeCombo");
+  paper.setCurrentIndex(paper.findText(QPageSize::name(size)));
+  Confirm(dialog);
+}
+
+TEST_F(RealPlatform, PaperOfPageSetupHoldsWhereThePrintDialogTakesThePrintersOwn) {
+  ModalSteps steps;
+  const QPrinter& printer = platform.CurrentPrinter();
+  const auto confirmWithOwnPaper = [this](QPrintDialog& dialog) {
+    Find<QLineEdit>(dialog, "filename").setText(File("report.pdf"));
+    // What the dialog does for a printer of the system.
+    dialog.printer()->setPageSize(QPageSize(QPageSize::Legal));
+    Confirm(dialog);
+  };
+  steps.Then<QPrintDialog>("QPrintDialog", confirmWithOwnPaper);
+  EXPECT_TRUE(platform.ChoosePrinter(nullptr));
+  EXPECT_EQ(printer.pageLayout().pageSize().id(), QPageSize::Legal) << "nothing was chosen yet";
+
+  steps.Then<QPageSetupDialog>(
+      "QPageSetupDialog", [](QPageSetupDialog& dialog) { ChoosePaper(dialog, QPageSize::A5); });
+  platform.SetUpPrinter(nullptr);
+  steps.Then<QPrintDialog>("QPrintDialog", confirmWithOwnPaper);
+  EXPECT_TRUE(platform.ChoosePrinter(nullptr));
+  EXPECT_EQ(printer.pageLayout().pageSize().id(), QPageSize::A5);
+}
+
+TEST_F(RealPlatform, PaperOfThePrintersPropertiesTakesThePlaceOfThatOfPageSetup) {
+  ModalSteps steps;
+  steps.Then<QPageSetupDialog>(
+      "QPageSetupDialog", [](QPageSetupDialog& dialog) { ChoosePaper(dialog, QPageSize::A5); });
+  platform.SetUpPrinter(nullptr);
+  steps.Then<QPrintDialog>("QPrintDialog", [&](QPrintDialog& dialog) {
+    steps.Then<QDialog>("QPrintPropertiesDialog",
+                        [](QDialog& properties) { ChoosePaper(properties, QPageSize::Letter); });
+    Find<QLineEdit>(dialog, "filename").setText(File("report.pdf"));
+    Find<QPushButton>(dialog, "properties").click();
+    Confirm(dialog);
+  });
+  EXPECT_TRUE(platform.ChoosePrinter(nullptr));
+  EXPECT_EQ(platform.CurrentPrinter().pageLayout().pageSize().id(), QPageSize::Letter);
+}
+
 TEST_F(RealPlatform, RescueFoldersBeginWithTheUsersDocuments) {
   const std::string home = qEnvironmentVariable("HOME").toStdString();
   const std::vector<std::string> expected{home + "/Documents", home, home + "/halvane-tools",
