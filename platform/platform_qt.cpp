@@ -14,15 +14,16 @@
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QProcess>
+#include <QPushButton>
 #include <QSaveFile>
 #include <QStandardPaths>
-#include <QTextDocument>
 #include <QWidget>
 #include <QWindow>
 #include <array>
 
 #include "core/user_folders.h"
 #include "platform/platform_x11.h"
+#include "platform/printed_pages.h"
 #include "platform/registry_access.h"
 #include "platform/system_viewer.h"
 
@@ -105,15 +106,28 @@ bool QtPlatform::ChoosePrinter(QWidget* parent) {
   dialog.setOption(QAbstractPrintDialog::PrintSelection, false);
   dialog.setOption(QAbstractPrintDialog::PrintPageRange, false);
   dialog.setOption(QAbstractPrintDialog::PrintCurrentPage, false);
-  return dialog.exec() == QDialog::Accepted;
+  const auto* properties = dialog.findChild<QPushButton*>("properties");
+  bool sawProperties = properties == nullptr;
+  if (properties != nullptr) {
+    QObject::connect(properties, &QPushButton::clicked, [&] { sawProperties = true; });
+  }
+  if (dialog.exec() != QDialog::Accepted) return false;
+  // The toolkit's own dialog goes back to a printer's usual paper unless another one is chosen in
+  // the printer's properties; the paper of the setup dialog has to hold.
+  if (sawProperties) {
+    paper_.reset();
+  } else if (paper_) {
+    CurrentPrinter().setPageSize(*paper_);
+  }
+  return true;
 }
 
 void QtPlatform::SetUpPrinter(QWidget* parent) {
   QPageSetupDialog dialog(&CurrentPrinter(), parent);
-  dialog.exec();
+  if (dialog.exec() == QDialog::Accepted) paper_ = CurrentPrinter().pageLayout().pageSize();
 }
 
-void QtPlatform::Print(const QTextDocument& document) { document.print(&CurrentPrinter()); }
+void QtPlatform::Print(const QTextDocument& document) { PrintPages(document, CurrentPrinter()); }
 
 void QtPlatform::ClearClipboard() { QGuiApplication::clipboard()->clear(); }
 

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QPageSize>
 #include <memory>
+#include <optional>
 
 #include "platform/platform.h"
 
@@ -41,6 +43,7 @@ class QtPlatform : public Platform {
 
  private:
   std::unique_ptr<QPrinter> printer_;
+  std::optional<QPageSize> paper_;  ///< chosen in the setup dialog and not replaced since
 };
 
 }  // namespace halvane

@@ -14,6 +14,8 @@ namespace {
 constexpr double kMetersPerInch = 0.0254;
 /// Of the pixels that the sizes of pictures are given in.
 constexpr double kLogicalDotsPerInch = 96;
+/// Of a page's height, for a picture: its line also has what letters reach below theirs.
+constexpr double kShareOfPage = 0.95;
 
 }  // namespace
 
@@ -31,7 +33,12 @@ QSizeF ReportPictures::intrinsicSize(QTextDocument* document, int /*position*/,
                                      const QTextFormat& format) {
   const QPaintDevice* device = document->documentLayout()->paintDevice();
   const double scale = device == nullptr ? 1 : device->logicalDpiY() / kLogicalDotsPerInch;
-  return PictureOf(format).size * scale;
+  const QSizeF size = PictureOf(format).size * scale;
+  // Paper can be too small for a picture; a pane without pages is as high as what stands in it.
+  QSizeF room = document->pageSize();
+  room.rheight() *= kShareOfPage;
+  const bool fits = room.height() <= 0 || size.boundedTo(room) == size;
+  return fits ? size : size.scaled(room, Qt::KeepAspectRatio);
 }
 
 void ReportPictures::drawObject(QPainter* painter, const QRectF& place, QTextDocument* /*document*/,

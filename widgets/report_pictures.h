@@ -28,7 +28,8 @@ class ReportPictures : public QObject, public QTextObjectInterface {
   /// Inserts a picture of assets/ by its name, "ocra/zones", as one character.
   static void Insert(QTextCursor& cursor, const QString& assetName);
 
-  /// The size on paper or screen of `document`. A JPEG is as large as its dots per inch say.
+  /// The size on paper or screen of `document`. A JPEG is as large as its dots per inch say,
+  /// and no picture is larger than a page of paper.
   QSizeF intrinsicSize(QTextDocument* document, int position, const QTextFormat& format) override;
   void drawObject(QPainter* painter, const QRectF& place, QTextDocument* document, int position,
                   const QTextFormat& format) override;

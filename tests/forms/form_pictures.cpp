@@ -3,7 +3,7 @@
 // form_pictures FOLDER [JOBFILE], with QT_SCALE_FACTOR=2 for twice the size, HALVANE_DARK=1 for the
 // dark palette and HALVANE_LEAST=1 for the least size of each tool.
 #include <QDir>
-#include <QPdfWriter>
+#include <QPrinter>
 #include <QTabWidget>
 #include <QTest>
 #include <cstdlib>
@@ -12,6 +12,7 @@
 #include "app/tool_forms.h"
 #include "core/job_file.h"
 #include "core/job_state.h"
+#include "platform/printed_pages.h"
 #include "shell/frm_about.h"
 #include "shell/frm_hand_main.h"
 #include "shell/halvane_application.h"
@@ -35,8 +36,10 @@ void Draw(QWidget& form, const QString& path) {
 }
 
 void PrintReport(const QWidget& form, const QString& folder) {
-  QPdfWriter pdf(folder + "/" + form.objectName() + ".pdf");
-  form.findChild<halvane::RichTextBox*>()->document()->print(&pdf);
+  QPrinter pdf(QPrinter::HighResolution);
+  pdf.setOutputFormat(QPrinter::PdfFormat);
+  pdf.setOutputFileName(folder + "/" + form.objectName() + ".pdf");
+  halvane::PrintPages(*form.findChild<halvane::RichTextBox*>()->document(), pdf);
 }
 
 void DrawTool(halvane::Tool tool, const QString& folder) {

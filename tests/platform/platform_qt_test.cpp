@@ -3,8 +3,10 @@
 #include <unistd.h>
 
 #include <QApplication>
+#include <QComboBox>
 #include <QDialogButtonBox>
 #include <QDir>
+#include <QDoubleSpinBox>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QLineEdit>
@@ -13,8 +15,10 @@
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QStandardPaths>
 #include <QTest>
+#include <QTextDocument>
 #include <filesystem>
 
 #include "core/user_folders.h"
@@ -192,6 +196,83 @@ TEST_F(RealPlatform, PageSetupWorksOnTheCurrentPrinter) {
   });
   platform.SetUpPrinter(nullptr);
   EXPECT_TRUE(same);
+}
+
+/// Presses a dialog's OK, as Return in a box would not always.
+void Confirm(const QDialog& dialog) {
+  const auto* buttons = dialog.findChild<QDialogButtonBox*>();
+  ASSERT_NE(buttons, nullptr);
+  QTest::mouseClick(buttons->button(QDialogButtonBox::Ok), Qt::LeftButton);
+}
+
+TEST_F(RealPlatform, PaperAndOrientationOfPageSetupHoldForEachPrint) {
+  ModalSteps steps;
+  steps.Then<QPageSetupDialog>("QPageSetupDialog", [](QPageSetupDialog& dialog) {
+    auto& paper = Find<QComboBox>(dialog, "pageSizeCombo");
+    paper.setCurrentIndex(paper.findText(QPageSize::name(QPageSize::A5)));
+    Find<QRadioButton>(dialog, "landscape").click();
+    Find<QDoubleSpinBox>(dialog, "leftMargin").setValue(12);
+    Confirm(dialog);
+  });
+  platform.SetUpPrinter(nullptr);
+  QTextDocument document("printed");
+  for (const char* name : {"first.pdf", "second.pdf"}) {
+    steps.Then<QPrintDialog>("QPrintDialog", [&](QPrintDialog& dialog) {
+      Find<QLineEdit>(dialog, "filename").setText(File(name));
+      Confirm(dialog);
+    });
+    EXPECT_TRUE(platform.ChoosePrinter(nullptr));
+    platform.Print(document);
+    const QPageLayout page = platform.CurrentPrinter().pageLayout();
+    EXPECT_EQ(page.pageSize().id(), QPageSize::A5) << name;
+    EXPECT_EQ(page.orientation(), QPageLayout::Landscape) << name;
+    EXPECT_NEAR(page.margins(QPageLayout::Millimeter).left(), 12, 0.1) << name;
+    EXPECT_TRUE(folder.Names().find(name) != std::string::npos) << folder.Names();
+  }
+}
+
+/// Chooses a paper in a page setup dialog or the properties of a printer.
+void ChoosePaper(const QDialog& dialog, QPageSize::PageSizeId size) {
+  auto& paper = Find<QComboBox>(dialog, "pageSizeCombo");
+  paper.setCurrentIndex(paper.findText(QPageSize::name(size)));
+  Confirm(dialog);
+}
+
+TEST_F(RealPlatform, PaperOfPageSetupHoldsWhereThePrintDialogTakesThePrintersOwn) {
+  ModalSteps steps;
+  const QPrinter& printer = platform.CurrentPrinter();
+  const auto confirmWithOwnPaper = [this](QPrintDialog& dialog) {
+    Find<QLineEdit>(dialog, "filename").setText(File("report.pdf"));
+    // What the dialog does for a printer of the system.
+    dialog.printer()->setPageSize(QPageSize(QPageSize::Legal));
+    Confirm(dialog);
+  };
+  steps.Then<QPrintDialog>("QPrintDialog", confirmWithOwnPaper);
+  EXPECT_TRUE(platform.ChoosePrinter(nullptr));
+  EXPECT_EQ(printer.pageLayout().pageSize().id(), QPageSize::Legal) << "nothing was chosen yet";
+
+  steps.Then<QPageSetupDialog>(
+      "QPageSetupDialog", [](QPageSetupDialog& dialog) { ChoosePaper(dialog, QPageSize::A5); });
+  platform.SetUpPrinter(nullptr);
+  steps.Then<QPrintDialog>("QPrintDialog", confirmWithOwnPaper);
+  EXPECT_TRUE(platform.ChoosePrinter(nullptr));
+  EXPECT_EQ(printer.pageLayout().pageSize().id(), QPageSize::A5);
+}
+
+TEST_F(RealPlatform, PaperOfThePrintersPropertiesTakesThePlaceOfThatOfPageSetup) {
+  ModalSteps steps;
+  steps.Then<QPageSetupDialog>(
+      "QPageSetupDialog", [](QPageSetupDialog& dialog) { ChoosePaper(dialog, QPageSize::A5); });
+  platform.SetUpPrinter(nullptr);
+  steps.Then<QPrintDialog>("QPrintDialog", [&](QPrintDialog& dialog) {
+    steps.Then<QDialog>("QPrintPropertiesDialog",
+                        [](QDialog& properties) { ChoosePaper(properties, QPageSize::Letter); });
+    Find<QLineEdit>(dialog, "filename").setText(File("report.pdf"));
+    Find<QPushButton>(dialog, "properties").click();
+    Confirm(dialog);
+  });
+  EXPECT_TRUE(platform.ChoosePrinter(nullptr));
+  EXPECT_EQ(platform.CurrentPrinter().pageLayout().pageSize().id(), QPageSize::Letter);
 }
 
 TEST_F(RealPlatform, RescueFoldersBeginWithTheUsersDocuments) {

@@ -2,9 +2,6 @@
 #include <QClipboard>
 #include <QLineEdit>
 #include <QMenu>
-#include <QPrinter>
-#include <QProcess>
-#include <QStandardPaths>
 #include <QTabWidget>
 #include <QTest>
 
@@ -155,37 +152,6 @@ TEST_F(ReportCommands, PrintSetupDoesNotMakeACancelledDialogAFailure) {
   platform.WillSave("");
   Choose(*form, "mnuSaveAs");
   EXPECT_EQ(Module1.JobFileName, "");
-}
-
-/// The real platform with the printer dialog already accepted.
-class PrinterChosen : public QtPlatform {
- public:
-  bool ChoosePrinter(QWidget* /*parent*/) override { return true; }
-};
-
-TEST_F(ReportCommands, PrintedPagesHaveTheWholeReport) {
-  const QString reader = QStandardPaths::findExecutable("pdftotext");
-  if (reader.isEmpty()) GTEST_SKIP() << "pdftotext of poppler-utils is not installed";
-  Module1.JobName = "Packing";
-  PrinterChosen real;
-  real.CurrentPrinter().setOutputFormat(QPrinter::PdfFormat);
-  real.CurrentPrinter().setOutputFileName(File("report.pdf"));
-  SetPlatform(&real);
-  Choose(*form, "mnuPrint");
-  SetPlatform(&platform);
-
-  QProcess pdftotext;
-  pdftotext.start(reader, {"-layout", File("report.pdf"), "-"});
-  ASSERT_TRUE(pdftotext.waitForFinished());
-  ASSERT_EQ(pdftotext.exitCode(), 0);
-  // How a line is broken and how far columns stand apart is the printer's business.
-  const QString text = QString::fromUtf8(pdftotext.readAllStandardOutput()).simplified();
-  for (const char* line :
-       {"Strain Index (SI)", "Job Name: Packing", "Hand: Right Side", "Job Factors Level SI Score",
-        "Intensity of exertion Light 1.0", "Duration of exertion (%) 0.0 0.5",
-        "Strain Index Score: 0.3", "Risk Level = Low", "(1995)."}) {
-    EXPECT_TRUE(text.contains(line)) << line << " is missing in: " << text.toStdString();
-  }
 }
 
 }  // namespace

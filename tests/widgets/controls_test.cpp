@@ -166,6 +166,20 @@ TEST_F(Pane, PicturesAreDrawn) {
   EXPECT_GT(coloured, 1000);
 }
 
+TEST_F(Pane, PictureIsNoLargerThanItsPage) {
+  Show([](RichText& report) { report.AppendPicture("strain_index/risk_chart"); });
+  box.resize(200, 100);
+  box.show();
+  EXPECT_EQ(PictureSize(), QSizeF(494, 292));
+  box.document()->setDocumentMargin(0);
+  box.document()->setPageSize({600, 200});
+  EXPECT_LT(PictureSize().height(), 200);
+  EXPECT_EQ(box.document()->pageCount(), 1);
+  EXPECT_NEAR(PictureSize().width() / PictureSize().height(), 494 / 292.0, 0.01);
+  box.document()->setPageSize({300, 800});
+  EXPECT_EQ(PictureSize().width(), 300);
+}
+
 TEST_F(Pane, PictureOnPaperIsAsLargeAsOnTheScreen) {
   Show([](RichText& report) { report.AppendPicture("strain_index/risk_chart"); });
   QImage paper(100, 100, QImage::Format_RGB32);
