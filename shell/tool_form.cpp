@@ -13,6 +13,7 @@
 #include "widgets/layout.h"
 #include "widgets/menu_item.h"
 #include "widgets/rich_text_box.h"
+#include "widgets/scroll_page.h"
 
 namespace halvane {
 namespace {
@@ -66,6 +67,10 @@ QWidget* ToolForm::MakeIdentificationWithHand(QWidget* rowParent) {
   row->addWidget(MakeIdentification(widget), 1);
   row->addWidget(MakeHand(widget));
   return widget;
+}
+
+QWidget* ToolForm::MakeScrolling(QWidget* page, QWidget* pageParent) {
+  return new ScrollPage(page, kLeastSize, pageParent);
 }
 
 void ToolForm::MakeMenus() {

@@ -62,6 +62,9 @@ class ToolForm : public QDialog {
   HandFrame* MakeHand(QWidget* frameParent);
   /// Both in one row, as most tools have them.
   QWidget* MakeIdentificationWithHand(QWidget* rowParent);
+  /// Puts a page of controls on what scrolls it in a window that is smaller than the page is made
+  /// for.
+  QWidget* MakeScrolling(QWidget* page, QWidget* pageParent);
   IdentificationStrip& identification() { return *identification_; }
   HandFrame& hand() { return *hand_; }
   RichTextBox& RichTextBox1() { return *pane_; }
