@@ -15,6 +15,7 @@
 #include <QPrinter>
 #include <QProcess>
 #include <QSaveFile>
+#include <QScreen>
 #include <QStandardPaths>
 #include <QTextDocument>
 #include <QWidget>
@@ -163,6 +164,12 @@ ProgramCall QtPlatform::SystemViewer() {
   return FindSystemViewer(desktops, [](const QString& program) {
     return !QStandardPaths::findExecutable(program).isEmpty();
   });
+}
+
+QRect QtPlatform::AvailableArea(QPoint at) {
+  const QScreen* screen = QGuiApplication::screenAt(at);
+  if (screen == nullptr) screen = QGuiApplication::primaryScreen();
+  return screen->availableGeometry();
 }
 
 void QtPlatform::StartWindowMove(QWidget& window, Qt::MouseButton button) {
