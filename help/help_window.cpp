@@ -15,6 +15,7 @@
 #include "help/help_pages.h"
 #include "help/help_tree.h"
 #include "platform/platform.h"
+#include "widgets/window_place.h"
 
 namespace halvane {
 namespace {
@@ -33,11 +34,12 @@ QString TitleFor(const HelpPages& pages) {
 
 }  // namespace
 
-HelpWindow::HelpWindow() : pages_(nullptr) {
+HelpWindow::HelpWindow(LastPlace& lastPlace) : pages_(nullptr) {
   setObjectName("HelpWindow");
   setWindowTitle(kTitle);
   setAttribute(Qt::WA_DeleteOnClose);
-  resize(kDefaultSize);
+  new WindowPlace(
+      *this, kDefaultSize, [this] { return minimumSizeHint(); }, lastPlace);
 
   auto* splitter = new QSplitter(this);
   tree_ = new HelpTree(splitter);

@@ -13,6 +13,7 @@ class HelpBrowser;
 class HelpFindBar;
 class HelpPages;
 class HelpTree;
+struct LastPlace;
 enum class HelpIcon;
 
 /// The window that shows a help file: contents at the left, the page at the right. A window of its
@@ -20,7 +21,8 @@ enum class HelpIcon;
 class HelpWindow : public QMainWindow {
   Q_OBJECT
  public:
-  HelpWindow();
+  /// `lastPlace` is where the help stood when it was closed; it has to outlive the window.
+  explicit HelpWindow(LastPlace& lastPlace);
   ~HelpWindow() override;
 
   /// Shows a topic of a help file, in place of what was shown.

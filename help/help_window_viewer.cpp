@@ -24,7 +24,7 @@ HelpWindow& HelpWindowViewer::Window() {
   if (!window_) {
     // Without a parent, so that no tool that holds up the program's other windows holds up this
     // one.
-    window_ = new HelpWindow;
+    window_ = new HelpWindow(lastPlace_);
     QObject::connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, window_,
                      [window = window_] { delete window; });
   }

@@ -4,6 +4,7 @@
 
 #include "help/help_viewer.h"
 #include "help/help_window.h"
+#include "widgets/window_place.h"
 
 namespace halvane {
 
@@ -23,6 +24,7 @@ class HelpWindowViewer : public HelpViewer {
  private:
   HelpWindow& Window();
 
+  LastPlace lastPlace_;
   QPointer<HelpWindow> window_;
 };
 

@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+class QPoint;
+class QRect;
 class QTextDocument;
 class QWidget;
 
@@ -25,7 +27,7 @@ struct ProgramCall {
 class Registry;
 
 /// Everything that reaches outside the program's own windows: messages, dialogs, printer,
-/// clipboard, folders, registry, other programs, the end of this one. The one in use is
+/// clipboard, folders, registry, other programs, the screen, the end of this one. The one in use is
 /// `ThePlatform()`; tests put their double there.
 class Platform {
  public:
@@ -79,6 +81,9 @@ class Platform {
   /// The desktop's own viewer of system information; no program where none is installed.
   virtual ProgramCall SystemViewer() = 0;
 
+  /// The part that windows may cover of the screen at that point, of the first screen where there
+  /// is none. In logical pixels.
+  [[nodiscard]] virtual QRect AvailableArea(QPoint at) = 0;
   /// Lets the user drag a window by the mouse button that is held down on it, as by its title bar.
   virtual void StartWindowMove(QWidget& window, Qt::MouseButton button) = 0;
 

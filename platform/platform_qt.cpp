@@ -16,6 +16,7 @@
 #include <QProcess>
 #include <QPushButton>
 #include <QSaveFile>
+#include <QScreen>
 #include <QStandardPaths>
 #include <QWidget>
 #include <QWindow>
@@ -177,6 +178,12 @@ ProgramCall QtPlatform::SystemViewer() {
   return FindSystemViewer(desktops, [](const QString& program) {
     return !QStandardPaths::findExecutable(program).isEmpty();
   });
+}
+
+QRect QtPlatform::AvailableArea(QPoint at) {
+  const QScreen* screen = QGuiApplication::screenAt(at);
+  if (screen == nullptr) screen = QGuiApplication::primaryScreen();
+  return screen->availableGeometry();
 }
 
 void QtPlatform::StartWindowMove(QWidget& window, Qt::MouseButton button) {

@@ -34,6 +34,7 @@ class QtPlatform : public Platform {
   Registry& TheRegistry() override;
   bool StartProgram(const ProgramCall& call) override;
   ProgramCall SystemViewer() override;
+  [[nodiscard]] QRect AvailableArea(QPoint at) override;
   void StartWindowMove(QWidget& window, Qt::MouseButton button) override;
   void EndProgram(int exitStatus) override;
 

@@ -13,6 +13,8 @@
 #include "widgets/layout.h"
 #include "widgets/menu_item.h"
 #include "widgets/rich_text_box.h"
+#include "widgets/scroll_page.h"
+#include "widgets/window_place.h"
 
 namespace halvane {
 namespace {
@@ -31,8 +33,10 @@ ToolForm::ToolForm(Tool tool, const char* objectName, const IdentificationNames&
                  Qt::WindowMinMaxButtonsHint | Qt::WindowCloseButtonHint);
   // Holds up the main window alone; the help beside it stays usable.
   setWindowModality(Qt::WindowModal);
-  setMinimumSize(kLeastSize);
-  resize(kDefaultSize);
+  new WindowPlace(
+      *this, kDefaultSize,
+      // With large fonts the controls may need more than the least size.
+      [this] { return kLeastSize.expandedTo(layout()->totalMinimumSize()); }, lastPlace_);
   body_ = new QVBoxLayout(this);
   body_->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
   body_->setSpacing(kGap);
@@ -66,6 +70,10 @@ QWidget* ToolForm::MakeIdentificationWithHand(QWidget* rowParent) {
   row->addWidget(MakeIdentification(widget), 1);
   row->addWidget(MakeHand(widget));
   return widget;
+}
+
+QWidget* ToolForm::MakeScrolling(QWidget* page, QWidget* pageParent) {
+  return new ScrollPage(page, kLeastSize, pageParent);
 }
 
 void ToolForm::MakeMenus() {
@@ -174,12 +182,6 @@ void ToolForm::CopySelection() {
 void ToolForm::mnuHelpContent_Click() { ShowHelpTopic(ScreenText(toolName_.helpTopic)); }
 
 void ToolForm::mnuHelpAbout_Click() { FrmAbout(this).exec(); }
-
-void ToolForm::showEvent(QShowEvent* event) {
-  // With large fonts the controls may need more than the least size.
-  setMinimumSize(kLeastSize.expandedTo(layout()->totalMinimumSize()));
-  QDialog::showEvent(event);
-}
 
 void ToolForm::keyPressEvent(QKeyEvent* event) {
   // A dialog closes on Escape and presses a button on Return; a tool does neither.

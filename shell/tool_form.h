@@ -6,6 +6,7 @@
 #include "core/tool_names.h"
 #include "shell/file_commands.h"
 #include "shell/identification_strip.h"
+#include "widgets/window_place.h"
 
 class QMenu;
 class QTabWidget;
@@ -62,6 +63,9 @@ class ToolForm : public QDialog {
   HandFrame* MakeHand(QWidget* frameParent);
   /// Both in one row, as most tools have them.
   QWidget* MakeIdentificationWithHand(QWidget* rowParent);
+  /// Puts a page of controls on what scrolls it in a window that is smaller than the page is made
+  /// for.
+  QWidget* MakeScrolling(QWidget* page, QWidget* pageParent);
   IdentificationStrip& identification() { return *identification_; }
   HandFrame& hand() { return *hand_; }
   RichTextBox& RichTextBox1() { return *pane_; }
@@ -70,7 +74,6 @@ class ToolForm : public QDialog {
   QVBoxLayout& body() { return *body_; }
 
   void keyPressEvent(QKeyEvent* event) override;
-  void showEvent(QShowEvent* event) override;
 
   /// Fills the tool's controls from the job, running the handlers that a load runs.
   virtual void loadFromJob() = 0;
@@ -92,6 +95,7 @@ class ToolForm : public QDialog {
   const ToolName& toolName_;
   const IdentificationNames& names_;
   FileCommands fileCommands_;
+  LastPlace lastPlace_;
   RichText report_;
   IdentificationStrip* identification_ = nullptr;
   HandFrame* hand_ = nullptr;

@@ -31,10 +31,11 @@ def wait_until(condition, what):
 class Desktop:
     """Use as a context manager; everything started on it ends with it."""
 
-    def __init__(self, folder, scale=1, manager="openbox"):
+    def __init__(self, folder, scale=1, manager="openbox", size=(1280, 1200)):
         """`manager` is the window manager's command; None for a screen without one."""
         self.folder = folder
         self.manager = manager
+        self.size = size
         # Without a manager, and with an old one, the keys go to the window below the mouse.
         self.keys_follow_mouse = manager in (None, "twm")
         self.processes = []
@@ -52,7 +53,7 @@ class Desktop:
         # Without -noreset the screen would start anew when its last client leaves, which the tools of
         # the test do again and again, and throw out whoever is just coming.
         self.start(
-            ["Xvfb", "-displayfd", str(writing), "-screen", "0", "1280x1200x24", "-nolisten", "tcp", "-noreset"],
+            ["Xvfb", "-displayfd", str(writing), "-screen", "0", f"{self.size[0]}x{self.size[1]}x24", "-nolisten", "tcp", "-noreset"],
             pass_fds=(writing,),
         )
         os.close(writing)
@@ -147,7 +148,7 @@ class Desktop:
         if self.keys_follow_mouse:
             self.xdotool("mousemove", "--window", window, *harmless)
         else:
-            self.xdotool("mousemove", 1279, 1199)
+            self.xdotool("mousemove", self.size[0] - 1, self.size[1] - 1)
 
     def minimise(self, window):
         self.xdotool("windowminimize", window)

@@ -184,8 +184,9 @@ def write_job(path, tasks):
         file.write("".join(line + "\r\n" for line in lines))
 
 
-def run(cases):
-    """Runs the case that the command line names: PROGRAM DATAFOLDER CASE [WINDOWMANAGER | none]. A case may skip itself."""
+def run(cases, sizes=None):
+    """Runs the case that the command line names: PROGRAM DATAFOLDER CASE [WINDOWMANAGER | none]. `sizes` has the sizes of
+    the screen that are not the usual one. A case may skip itself."""
     program, _data, case, *manager = sys.argv[1:]
     manager = manager[0] if manager else "openbox"
     missing = missing_tools(manager)
@@ -193,5 +194,6 @@ def run(cases):
         print("skipped: this machine lacks", ", ".join(missing))
         return SKIPPED
     with tempfile.TemporaryDirectory() as folder:
-        with Desktop(folder, manager=None if manager == "none" else manager) as desktop:
+        size = {"size": sizes[case]} if sizes and case in sizes else {}
+        with Desktop(folder, manager=None if manager == "none" else manager, **size) as desktop:
             return cases[case](desktop, program) or 0

@@ -1,7 +1,8 @@
 // Draws the forms into PNG files and prints the reports into PDF files, for looking at them and for
 // the documents:
 // form_pictures FOLDER [JOBFILE], with QT_SCALE_FACTOR=2 for twice the size, HALVANE_DARK=1 for the
-// dark palette and HALVANE_LEAST=1 for the least size of each tool.
+// dark palette, HALVANE_LEAST=1 for the least size of each tool and HALVANE_SCREEN=800x600 for a
+// screen of that size.
 #include <QDir>
 #include <QPrinter>
 #include <QTabWidget>
@@ -18,6 +19,7 @@
 #include "shell/halvane_application.h"
 #include "shell/tool_form.h"
 #include "tests/support/dark_palette.h"
+#include "tests/support/picture_screen.h"
 #include "tools/tool_table.h"
 #include "widgets/layout.h"
 #include "widgets/ribbon_button.h"
@@ -45,8 +47,8 @@ void PrintReport(const QWidget& form, const QString& folder) {
 void DrawTool(halvane::Tool tool, const QString& folder) {
   const auto form = halvane::MakeToolForm(tool, nullptr);
   form->load();
-  if (qEnvironmentVariableIsSet("HALVANE_LEAST")) form->resize(form->minimumSize());
   form->show();
+  if (qEnvironmentVariableIsSet("HALVANE_LEAST")) form->resize(form->minimumSize());
   auto* tabs = form->findChild<QTabWidget*>("SSTab1");
   if (tabs == nullptr) {
     Draw(*form, QString("%1/%2.png").arg(folder, form->objectName()));
@@ -79,6 +81,7 @@ int main(int argc, char** argv) {
   const QString folder = QString::fromLocal8Bit(argv[1]);
   QDir().mkpath(folder);
   halvane::TakeDarkPaletteIfAsked();
+  const halvane::PictureScreen screen;
   halvane::FrmHandMain window(halvane::MakeToolForm);
   window.show();
   Draw(window, folder + "/frmHand_Main-opening.png");

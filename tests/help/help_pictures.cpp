@@ -8,6 +8,8 @@
 #include "help/help_window.h"
 #include "shell/halvane_application.h"
 #include "tests/support/dark_palette.h"
+#include "tests/support/picture_screen.h"
+#include "widgets/window_place.h"
 
 int main(int argc, char** argv) {
   halvane::HalvaneApplication application(argc, argv);
@@ -19,7 +21,9 @@ int main(int argc, char** argv) {
   const QString file = QString::fromLocal8Bit(argv[2]);
   QDir().mkpath(folder);
   halvane::TakeDarkPaletteIfAsked();
-  halvane::HelpWindow window;
+  const halvane::PictureScreen screen;
+  halvane::LastPlace place;
+  halvane::HelpWindow window(place);
   window.setAttribute(Qt::WA_DeleteOnClose, false);
   int drawn = 0;
   const auto draw = [&] {

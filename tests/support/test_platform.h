@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QRect>
 #include <QString>
 #include <QStringList>
 #include <deque>
@@ -52,6 +53,8 @@ class TestPlatform : public Platform {
   void WillStartProgram(bool succeeds) { starts_.push_back(succeeds); }
   void SetSystemViewer(const ProgramCall& viewer) { systemViewer_ = viewer; }
   void AddFile(const QString& path) { files_.append(path); }
+  /// The part of the screen that windows may cover.
+  void SetAvailableArea(const QRect& area) { availableArea_ = area; }
   /// The one folder where a rescue copy may stand that can't stand beside its file.
   void SetDocumentsFolder(const QString& folder) { rescueFolders_ = {folder.toStdString()}; }
   /// Without it there is no journal.
@@ -94,6 +97,7 @@ class TestPlatform : public Platform {
   Registry& TheRegistry() override { return registry_; }
   bool StartProgram(const ProgramCall& call) override;
   ProgramCall SystemViewer() override { return systemViewer_; }
+  [[nodiscard]] QRect AvailableArea(QPoint /*at*/) override { return availableArea_; }
   void StartWindowMove(QWidget& window, Qt::MouseButton button) override;
   void EndProgram(int exitStatus) override;
 
@@ -109,6 +113,7 @@ class TestPlatform : public Platform {
   std::function<void()> whenSetUp_;
   MadeUpRegistry registry_;
   ProgramCall systemViewer_;
+  QRect availableArea_{0, 0, 1920, 1080};
   QStringList files_;
   std::vector<std::string> rescueFolders_;
   std::string stateFolder_;

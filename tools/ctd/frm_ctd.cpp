@@ -47,8 +47,8 @@ FrmCTD::FrmCTD(QWidget* parent) : ToolForm(Tool::Ctd, "frmCTD", kNames, parent) 
   SSTab2_ = MakeTaskList();
   row->addWidget(SSTab2_, 1);
   SSTab1_ = new TabStrip("SSTab1", this);
-  SSTab1_->addTab(MakeEffortTab(), ScreenText(kCtdTabs[0]));
-  SSTab1_->addTab(MakePostureTab(), ScreenText(kCtdTabs[1]));
+  SSTab1_->addTab(MakeScrolling(MakeEffortTab(), SSTab1_), ScreenText(kCtdTabs[0]));
+  SSTab1_->addTab(MakeScrolling(MakePostureTab(), SSTab1_), ScreenText(kCtdTabs[1]));
   SSTab1_->addTab(&RichTextBox1(), ScreenText(kCtdTabs[kCtdReportTab]));
   row->addWidget(SSTab1_, 4);
   body().addLayout(row);

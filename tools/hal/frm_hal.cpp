@@ -66,7 +66,7 @@ FrmHAL::FrmHAL(QWidget* parent) : ToolForm(Tool::Hal, "frmHAL", kNames, parent) 
   hand().setObjectName("SSFrame1(8)");
   auto* row = new QHBoxLayout;
   row->setSpacing(kGap);
-  row->addWidget(MakeInputs(), kInputsShare);
+  row->addWidget(MakeScrolling(MakeInputs(), this), kInputsShare);
   row->addWidget(&RichTextBox1(), kReportShare);
   body().addLayout(row, 1);
 }

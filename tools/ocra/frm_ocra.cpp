@@ -51,8 +51,8 @@ QSlider* MakeSlider(const QString& name, int pageStep, QWidget* parent) {
 FrmOCRA::FrmOCRA(QWidget* parent) : ToolForm(Tool::Ocra, "frmOCRA", kNames, parent) {
   body().addWidget(MakeIdentification(this));
   SSTab1_ = new TabStrip("SSTab1", this);
-  SSTab1_->addTab(MakeTaskTab(), ScreenText(kOcraTabs[0]));
-  SSTab1_->addTab(MakePostureTab(), ScreenText(kOcraTabs[1]));
+  SSTab1_->addTab(MakeScrolling(MakeTaskTab(), SSTab1_), ScreenText(kOcraTabs[0]));
+  SSTab1_->addTab(MakeScrolling(MakePostureTab(), SSTab1_), ScreenText(kOcraTabs[1]));
   SSTab1_->addTab(&RichTextBox1(), ScreenText(kOcraTabs[kOcraReportTab]));
   body().addWidget(SSTab1_, 1);
   connect(SSTab1_, &TabStrip::tabClicked, this, &FrmOCRA::SSTab1_Click);

@@ -40,7 +40,7 @@ PostureForm::PostureForm(const PostureScreen& screen, std::unique_ptr<PostureCon
                          QWidget* parent)
     : ToolForm(screen.tool, screen.objectName, kNames, parent), controls_(std::move(controls)) {
   SSTab1_ = new TabStrip("SSTab1", this);
-  SSTab1_->addTab(MakeInputTab(screen), " Task Information");
+  SSTab1_->addTab(MakeScrolling(MakeInputTab(screen), SSTab1_), " Task Information");
   SSTab1_->addTab(&RichTextBox1(), ScreenText(screen.reportTab));
   RichTextBox1().OpenToTyping();
   body().addWidget(SSTab1_);

@@ -26,7 +26,7 @@ constexpr IdentificationNames kNames{{"Text1(6)"}, {"Text1(5)"}, {"Text1(4)"}, "
 
 FrmSI::FrmSI(QWidget* parent) : ToolForm(Tool::StrainIndex, "frmSI", kNames, parent) {
   SSTab1_ = new TabStrip("SSTab1", this);
-  SSTab1_->addTab(MakeInputTab(), ScreenText(kSiTabs[0]));
+  SSTab1_->addTab(MakeScrolling(MakeInputTab(), SSTab1_), ScreenText(kSiTabs[0]));
   SSTab1_->addTab(&RichTextBox1(), ScreenText(kSiTabs[kSiReportTab]));
   body().addWidget(SSTab1_);
   connect(SSTab1_, &TabStrip::tabClicked, this, &FrmSI::SSTab1_Click);
