@@ -241,6 +241,27 @@ TEST_F(EveryWindow, TabKeyEntersAGroupOnceAtItsAnswer) {
   }
 }
 
+TEST_F(EveryWindow, CtrlTabChangesTheTabFromEveryStop) {
+  for (const auto& form : ToolForms()) {
+    auto* tabs = form->findChild<QTabWidget*>("SSTab1");
+    if (tabs == nullptr) continue;
+    ShowActive(*form);
+    for (int tab = 0; tab < tabs->count(); ++tab) {
+      tabs->setCurrentIndex(tab);
+      for (QWidget* stop : TabStops(*form)) {
+        const std::string name = NamesOf({form.get(), stop});
+        stop->setFocus();
+        QTest::keyClick(stop, Qt::Key_Tab, Qt::ControlModifier);
+        EXPECT_EQ(tabs->currentIndex(), (tab + 1) % tabs->count()) << name;
+        QTest::keyClick(form->focusWidget(), Qt::Key_Backtab,
+                        Qt::ControlModifier | Qt::ShiftModifier);
+        EXPECT_EQ(tabs->currentIndex(), tab) << name;
+      }
+    }
+    form->hide();
+  }
+}
+
 TEST_F(EveryWindow, KeyboardAloneOpensEveryMenu) {
   for (const auto& [key, menu] :
        {std::pair{Qt::Key_F, "mnuFile"}, {Qt::Key_E, "mnuEdit"}, {Qt::Key_H, "mnuHelp"}}) {
