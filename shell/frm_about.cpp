@@ -96,7 +96,6 @@ FrmAbout::FrmAbout(QWidget* parent) : QDialog(parent) {
   buttons->addStretch();
   auto* information = new QPushButton("&System Info...");
   information->setObjectName("cmdSysInfo");
-  information->setAutoDefault(false);
   information->setMinimumWidth(information->sizeHint().width() + 2 * kMargin);
   auto* ok = new QPushButton("OK");
   ok->setObjectName("cmdOK");

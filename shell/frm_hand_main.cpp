@@ -7,6 +7,7 @@
 #include <QMenu>
 #include <QMouseEvent>
 #include <QPushButton>
+#include <QShortcut>
 #include <QTimer>
 
 #include "core/job_state.h"
@@ -88,6 +89,8 @@ void FrmHandMain::MakeMenus() {
   mnuPopup2_ = new QMenu("Popup2", this);
   mnuPopup2_->setObjectName("mnuPopup2");
   AddMenuItem(*mnuPopup2_, "mnuContent", "Content...", this, &FrmHandMain::mnuContent_Click);
+  helpKey_ = new QShortcut(Qt::Key_F1, this);
+  connect(helpKey_, &QShortcut::activated, this, &FrmHandMain::mnuContent_Click);
   mnuPopup2_->addSeparator();
   AddMenuItem(*mnuPopup2_, "mnuAbout", "About Ostrel...", this, &FrmHandMain::mnuAbout_Click);
 }
@@ -145,6 +148,7 @@ void FrmHandMain::Timer1_Timer() {
 
 void FrmHandMain::EnableShortcuts(bool enabled) {
   for (QAction* item : actions()) item->setEnabled(enabled);
+  helpKey_->setEnabled(enabled);
 }
 
 void FrmHandMain::ParkFocus() {

@@ -11,6 +11,7 @@ class QAction;
 class QLabel;
 class QMenu;
 class QPushButton;
+class QShortcut;
 class QTimer;
 
 namespace halvane {
@@ -98,6 +99,7 @@ class FrmHandMain : public QWidget {
   QMenu* mnuPopup2_ = nullptr;
   QAction* mnuMetric_ = nullptr;
   QAction* mnuEnglish_ = nullptr;
+  QShortcut* helpKey_ = nullptr;
   std::map<Tool, std::unique_ptr<ToolForm>> forms_;
 };
 

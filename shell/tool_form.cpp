@@ -3,6 +3,7 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMenuBar>
+#include <QShortcut>
 #include <QVBoxLayout>
 
 #include "core/silently.h"
@@ -12,6 +13,7 @@
 #include "shell/hand_frame.h"
 #include "widgets/layout.h"
 #include "widgets/menu_item.h"
+#include "widgets/menu_letters.h"
 #include "widgets/rich_text_box.h"
 #include "widgets/scroll_page.h"
 #include "widgets/window_place.h"
@@ -82,6 +84,7 @@ void ToolForm::MakeMenus() {
 
   QMenu& file = *bar->addMenu("&File");
   file.setObjectName("mnuFile");
+  new MenuLetters(file);
   AddMenuItem(file, "mnuFileNew", "&New", this, &ToolForm::mnuFileNew_Click);
   AddMenuItem(file, "mnuFileOpen", "&Open...", this, &ToolForm::mnuFileOpen_Click);
   AddMenuItem(file, "mnuSave", "&Save", this, &ToolForm::mnuSave_Click);
@@ -101,6 +104,8 @@ void ToolForm::MakeMenus() {
   QMenu& help = *bar->addMenu("&Help");
   help.setObjectName("mnuHelp");
   AddMenuItem(help, "mnuHelpContent", "&Content...", this, &ToolForm::mnuHelpContent_Click);
+  connect(new QShortcut(Qt::Key_F1, this), &QShortcut::activated, this,
+          &ToolForm::mnuHelpContent_Click);
   // Has no action, which is wanted.
   AddMenuItem(help, "mnuHelpSearch", "&Search...");
   help.addSeparator();

@@ -53,10 +53,11 @@ void RaisedButton::paintEvent(QPaintEvent* /*event*/) {
     icon().paint(&painter, place);
   }
   if (!hasFocus()) return;
-  painter.setRenderHint(QPainter::Antialiasing, false);
-  painter.setPen(QPen(painter.pen().color(), 1, Qt::DotLine));
+  // In the place of the two edges, so that a small button has room for it beside its picture.
+  painter.setPen(QPen(painter.pen().color(), kEdge));
   painter.setBrush(Qt::NoBrush);
-  painter.drawRect(top.toRect().adjusted(1, 1, -2, -2));
+  const double half = kEdge / 2;
+  painter.drawRoundedRect(inside.adjusted(half, half, -half, -half), kRounding - 1, kRounding - 1);
 }
 
 }  // namespace halvane

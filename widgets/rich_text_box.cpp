@@ -7,6 +7,7 @@
 #include <QTextCursor>
 #include <algorithm>
 
+#include "widgets/focus_frame.h"
 #include "widgets/report_pictures.h"
 
 namespace halvane {
@@ -41,6 +42,7 @@ QTextBlockFormat BlockFormat(const ParagraphFormat& format, int dotsPerInch) {
 RichTextBox::RichTextBox(QWidget* parent) : QTextEdit(parent) {
   setObjectName("RichTextBox1");
   setAccessibleName(tr("Report"));
+  SetUpFocusFrame(*this);
   setReadOnly(true);
   setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   setTabChangesFocus(true);
@@ -113,6 +115,12 @@ QString RichTextBox::SelectedText() const {
   text.replace(QChar::LineSeparator, '\n');
   text.remove(QChar::ObjectReplacementCharacter);
   return text;
+}
+
+bool RichTextBox::event(QEvent* event) {
+  const bool handled = QTextEdit::event(event);
+  if (event->type() == QEvent::Paint) PaintFocusFrame(*this);
+  return handled;
 }
 
 QMimeData* RichTextBox::createMimeDataFromSelection() const {

@@ -8,6 +8,7 @@ namespace halvane {
 
 /// The report pane on screen: shows a `RichText` as black on white paper, in light and dark
 /// palettes alike, since that is how it prints. Nobody types in it unless it is opened to typing.
+/// Its frame shows the focus.
 class RichTextBox : public QTextEdit {
   Q_OBJECT
  public:
@@ -27,6 +28,7 @@ class RichTextBox : public QTextEdit {
   [[nodiscard]] QString SelectedText() const;
 
  protected:
+  bool event(QEvent* event) override;
   [[nodiscard]] QMimeData* createMimeDataFromSelection() const override;
 };
 

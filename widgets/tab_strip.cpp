@@ -1,8 +1,11 @@
 #include "widgets/tab_strip.h"
 
 #include <QMouseEvent>
+#include <QShortcut>
 #include <QTabBar>
 #include <functional>
+
+#include "widgets/text_box.h"
 
 namespace halvane {
 namespace {
@@ -35,6 +38,26 @@ TabStrip::TabStrip(const QString& name, QWidget* parent) : QTabWidget(parent) {
   setObjectName(name);
   setTabBar(new Bar([this](int tab) { emit tabClicked(tab); }, this));
   connect(this, &QTabWidget::currentChanged, this, &TabStrip::tabClicked);
+  connect(new QShortcut(Qt::CTRL | Qt::Key_Tab, this), &QShortcut::activated, this,
+          [this] { Go(1); });
+  connect(new QShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_Tab, this), &QShortcut::activated, this,
+          [this] { Go(-1); });
+}
+
+void TabStrip::keyPressEvent(QKeyEvent* event) {
+  // The toolkit's own Ctrl+Tab, which a key that is held down would still come to.
+  event->ignore();
+}
+
+void TabStrip::Go(int step) {
+  for (int i = 1; i < count(); ++i) {
+    const int tab = (currentIndex() + i * step + count()) % count();
+    if (!isTabEnabled(tab)) continue;
+    // The focus may stay in a box beside the tabs, and a report has to find what is typed there.
+    TextBox::CountKeysDown();
+    setCurrentIndex(tab);
+    return;
+  }
 }
 
 }  // namespace halvane

@@ -5,7 +5,9 @@
 namespace halvane {
 
 /// The tabs of a form. Tells of every click on a tab, also on the one that is showing, so that a
-/// report can be written again where it stands. The mouse wheel does not change tabs.
+/// report can be written again where it stands. Ctrl+Tab and Ctrl+Shift+Tab go to the next and the
+/// previous tab that is enabled, round the ends, from wherever in its window the focus is. The
+/// mouse wheel does not change tabs.
 class TabStrip : public QTabWidget {
   Q_OBJECT
  public:
@@ -14,6 +16,13 @@ class TabStrip : public QTabWidget {
  signals:
   /// The user chose a tab, or the program did.
   void tabClicked(int tab);
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  /// Shows the nearest enabled tab so many steps on.
+  void Go(int step);
 };
 
 }  // namespace halvane

@@ -6,7 +6,7 @@ import os
 import sys
 
 from desktop import wait_until
-from program import CTD, MESSAGE, OCRA, REBA, RULA, SI, Job, Program, run, write_job
+from program import CTD, MAIN, MESSAGE, OCRA, REBA, RULA, SI, Job, Program, run, write_job
 
 OCRA_ANALYST = (207, 39)
 OCRA_ADD_TASK = (86, 657)
@@ -167,6 +167,75 @@ def open_with_enter(desktop, program):
     run_.end()
 
 
+def answer_is_kept(desktop, program):
+    """Tab comes to the hand that is chosen, where Space changes nothing; the arrows choose from there."""
+    run_ = Program(desktop, program)
+    run_.open(SI)
+    desktop.keys("Tab", "Tab", "Tab")
+    desktop.hold("Right", PRESSED)
+    desktop.hold("Tab", PRESSED)
+    desktop.keydown("shift")
+    desktop.hold("Tab", PRESSED)
+    desktop.keyup("shift")
+    desktop.hold("space", PRESSED)
+    job = run_.saved_job()
+    assert job.hand == "1", job.lines[3]
+    run_.end()
+
+
+def tabs_by_key(desktop, program):
+    """Ctrl+Tab changes the tab though the focus is in a box above the tabs."""
+    run_ = Program(desktop, program)
+    run_.open(OCRA)
+    desktop.type("Mia Wallace")
+    desktop.keydown("ctrl")
+    desktop.hold("Tab", PRESSED)
+    desktop.hold("Tab", PRESSED)
+    desktop.keyup("ctrl")
+    # Only the report tab has an Edit menu.
+    report = run_.copied_report()
+    assert "Mia Wallace" in report, report
+    run_.end()
+
+
+def file_menu_by_letter(desktop, program):
+    """In the open File menu A is Save As and S is Save."""
+    run_ = Program(desktop, program)
+    run_.open(OCRA)
+    path = os.path.join(desktop.folder, "saved.qjt")
+    desktop.type("first")
+    desktop.keys("alt+f")
+    desktop.hold("a", PRESSED)
+    desktop.window("Save As")
+    desktop.type(path)
+    desktop.keys("Return")
+    wait_until(lambda: os.path.exists(path) and run_.job_with(lambda job: job.analyst == "first"), "the saved file")
+    desktop.window(OCRA.title)
+    desktop.type("second")
+    desktop.keys("alt+f")
+    desktop.hold("s", PRESSED)
+    wait_until(lambda: run_.job_with(lambda job: job.analyst.endswith("second")), "the file saved again")
+    run_.end()
+
+
+def help_by_key(desktop, program):
+    """F1 shows the help beside the main window, and beside a tool."""
+    run_ = Program(desktop, program)
+
+    def ask(window, title):
+        desktop.hold("F1", PRESSED)
+        wait_until(lambda: desktop.focused() not in ("", window), "the help or a message that there is none")
+        desktop.keys("Escape")
+        if desktop.visible(MESSAGE):
+            desktop.gone(MESSAGE)
+        desktop.activate(window)
+        desktop.window(title)
+
+    ask(run_.main, MAIN)
+    ask(run_.open(SI), SI.title)
+    run_.end()
+
+
 CASES = {
     "save_with_enter": lambda desktop, program: save_with_enter(desktop, program, OCRA, CTD),
     "save_with_enter_no_tasks": lambda desktop, program: save_with_enter(desktop, program, SI, REBA, RULA),
@@ -176,6 +245,10 @@ CASES = {
     "key_down_elsewhere": key_down_elsewhere,
     "new_with_a_held_key": new_with_a_held_key,
     "open_with_enter": open_with_enter,
+    "answer_is_kept": answer_is_kept,
+    "tabs_by_key": tabs_by_key,
+    "file_menu_by_letter": file_menu_by_letter,
+    "help_by_key": help_by_key,
 }
 
 if __name__ == "__main__":

@@ -1,7 +1,6 @@
 // What every window has to keep: the Tab key follows the eye, the keyboard reaches everything, and
 // nothing is cut off.
 #include <QApplication>
-#include <QButtonGroup>
 #include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
@@ -18,44 +17,16 @@
 #include <QTreeView>
 #include <algorithm>
 
-#include "app/tool_forms.h"
-#include "core/task_list.h"
-#include "shell/frm_about.h"
-#include "shell/frm_hand_main.h"
-#include "shell/tool_form.h"
-#include "tests/support/form_support.h"
+#include "tests/forms/every_window.h"
 #include "tools/posture/posture_frame.h"
 #include "tools/posture/posture_page.h"
 #include "tools/strain_index/frm_si.h"
-#include "tools/tool_table.h"
-#include "widgets/layout.h"
+#include "widgets/choice_group.h"
+#include "widgets/mouse_slider.h"
 #include "widgets/ribbon_button.h"
 
 namespace halvane {
 namespace {
-
-class EveryWindow : public ShellTest {
- protected:
-  /// Every window of the program, ready for input.
-  std::vector<std::unique_ptr<QWidget>> Windows() {
-    std::vector<std::unique_ptr<QWidget>> windows;
-    windows.push_back(IdleMainWindow());
-    windows.push_back(std::make_unique<FrmAbout>(nullptr));
-    for (auto& form : ToolForms()) windows.push_back(std::move(form));
-    return windows;
-  }
-
-  /// Every tool, on a job with a task.
-  static std::vector<std::unique_ptr<ToolForm>> ToolForms() {
-    if (Module1.TaskCount.AsDouble() == 0) AddTaskRecord();
-    std::vector<std::unique_ptr<ToolForm>> forms;
-    for (const ToolRow& row : Tools()) {
-      forms.push_back(MakeToolForm(row.tool, nullptr));
-      forms.back()->load();
-    }
-    return forms;
-  }
-};
 
 QRect PlaceOf(const QWidget& widget) {
   return {widget.mapTo(widget.window(), QPoint(0, 0)), widget.size()};
@@ -150,13 +121,18 @@ void ExpectReadingOrder(const std::vector<QWidget*>& stops) {
   }
 }
 
-/// The controls that the user can reach with Tab or, within an exclusive group, with arrow keys.
+const ChoiceGroup* GroupOf(const QWidget& control) {
+  const auto* button = qobject_cast<const QAbstractButton*>(&control);
+  return button != nullptr ? qobject_cast<const ChoiceGroup*>(button->group()) : nullptr;
+}
+
+/// The controls that the user can reach with Tab or, within a group of one stop, with arrow keys.
 QStringList Reached(const std::vector<QWidget*>& stops) {
   QStringList names;
-  for (QWidget* stop : stops) {
-    auto* button = qobject_cast<QAbstractButton*>(stop);
-    if (button != nullptr && button->group() != nullptr && button->group()->exclusive()) {
-      for (const auto* member : button->group()->buttons()) names.append(member->objectName());
+  for (const QWidget* stop : stops) {
+    const ChoiceGroup* group = GroupOf(*stop);
+    if (group != nullptr && group->choice() != Choice::Any) {
+      for (const auto* member : group->buttons()) names.append(member->objectName());
     } else {
       names.append(stop->objectName());
     }
@@ -180,7 +156,9 @@ QStringList InputsOf(const QWidget& window) {
                         qobject_cast<const QTabBar*>(widget->parentWidget()) != nullptr ||
                         qobject_cast<const QMenuBar*>(widget->parentWidget()) != nullptr;
     const bool isOwn = qobject_cast<const QTabBar*>(widget) != nullptr;
-    if (isInput && (isOwn || !isPart) && widget->isVisible() && widget->isEnabled()) {
+    // This slider is the mouse's; its number is typed beside it.
+    const bool isMouses = qobject_cast<const MouseSlider*>(widget) != nullptr;
+    if (isInput && (isOwn || !isPart) && !isMouses && widget->isVisible() && widget->isEnabled()) {
       names.append(widget->objectName());
     }
   }
@@ -196,24 +174,6 @@ TEST(ReadingOrder, RowsFromTheTopEachFromTheLeft) {
   EXPECT_TRUE(IsReadBefore(left, QRect(60, -2, 50, 20)));
   EXPECT_TRUE(IsReadBefore(left, QRect(0, 30, 50, 20)));
   EXPECT_TRUE(IsReadBefore(QRect(60, -30, 50, 20), left));
-}
-
-/// Runs `check` on every tab of a window, or once where it has none.
-template <typename Check>
-void OnEveryTab(QWidget& window, const Check& check) {
-  auto* tabs = window.findChild<QTabWidget*>("SSTab1");
-  for (int tab = 0; tab < (tabs == nullptr ? 1 : tabs->count()); ++tab) {
-    SCOPED_TRACE(window.objectName().toStdString() + ", tab " + std::to_string(tab));
-    if (tabs != nullptr) tabs->setCurrentIndex(tab);
-    check();
-    // The body parts of the CTD tool show their frames one after the other.
-    const int parts = window.objectName() == "frmCTD" && tab == 1 ? 4 : 0;
-    for (int part = 0; part < parts; ++part) {
-      SCOPED_TRACE("part " + std::to_string(part));
-      Find<RibbonButton>(window, ElementName("SSRibbon3", part)).click();
-      check();
-    }
-  }
 }
 
 TEST_F(EveryWindow, TabKeyFollowsReadingOrder) {
@@ -233,6 +193,72 @@ TEST_F(EveryWindow, KeyboardAloneReachesEveryControl) {
     ShowActive(*window);
     OnEveryTab(*window, [&window] { EXPECT_EQ(Reached(TabStops(*window)), InputsOf(*window)); });
     window->hide();
+  }
+}
+
+TEST_F(EveryWindow, EveryRibbonOptionAndBoxOfAToolIsInAGroup) {
+  for (const auto& form : ToolForms()) {
+    for (const auto* button : form->findChildren<QAbstractButton*>()) {
+      if (!button->isCheckable()) continue;
+      EXPECT_NE(GroupOf(*button), nullptr)
+          << form->objectName().toStdString() << " " << button->objectName().toStdString();
+    }
+  }
+}
+
+/// The groups of a window that the user sees and that have one answer.
+std::vector<ChoiceGroup*> ShownGroups(const QWidget& window) {
+  std::vector<ChoiceGroup*> groups;
+  for (ChoiceGroup* group : window.findChildren<ChoiceGroup*>()) {
+    const bool isShown = !group->buttons().isEmpty() && group->buttons().first()->isVisible();
+    if (isShown && group->choice() != Choice::Any) groups.push_back(group);
+  }
+  return groups;
+}
+
+TEST_F(EveryWindow, TabKeyEntersAGroupOnceAtItsAnswer) {
+  for (const auto& form : ToolForms()) {
+    ShowActive(*form);
+    OnEveryTab(*form, [&form] {
+      // The selector of body parts shows other frames; its answer is the one that is there.
+      for (const ChoiceGroup* group : ShownGroups(*form)) {
+        const bool isSelector = group->buttons().first()->objectName() == "SSRibbon3(0)" &&
+                                form->objectName() == "frmCTD";
+        if (!isSelector || group->checkedButton() == nullptr) group->buttons().last()->click();
+      }
+      const auto stops = TabStops(*form);
+      for (const ChoiceGroup* group : ShownGroups(*form)) {
+        std::vector<QWidget*> within;
+        for (QWidget* stop : stops) {
+          if (GroupOf(*stop) == group) within.push_back(stop);
+        }
+        SCOPED_TRACE("stops: " + NamesOf(within));
+        ASSERT_EQ(within.size(), 1U);
+        EXPECT_EQ(within.front(), group->checkedButton());
+      }
+    });
+    form->hide();
+  }
+}
+
+TEST_F(EveryWindow, CtrlTabChangesTheTabFromEveryStop) {
+  for (const auto& form : ToolForms()) {
+    auto* tabs = form->findChild<QTabWidget*>("SSTab1");
+    if (tabs == nullptr) continue;
+    ShowActive(*form);
+    for (int tab = 0; tab < tabs->count(); ++tab) {
+      tabs->setCurrentIndex(tab);
+      for (QWidget* stop : TabStops(*form)) {
+        const std::string name = NamesOf({form.get(), stop});
+        stop->setFocus();
+        QTest::keyClick(stop, Qt::Key_Tab, Qt::ControlModifier);
+        EXPECT_EQ(tabs->currentIndex(), (tab + 1) % tabs->count()) << name;
+        QTest::keyClick(form->focusWidget(), Qt::Key_Backtab,
+                        Qt::ControlModifier | Qt::ShiftModifier);
+        EXPECT_EQ(tabs->currentIndex(), tab) << name;
+      }
+    }
+    form->hide();
   }
 }
 

@@ -229,6 +229,32 @@ TEST_F(HelpCommands, TheLinkOnTheOpeningPanelOpensTheContents) {
   EXPECT_EQ(viewer.calls, (Calls{contents, contents, contents}));
 }
 
+TEST_F(HelpCommands, TheHelpKeyDoesWhatContentDoes) {
+  platform.AddFile("/program/QJT Tools 1.chm");
+  for (const ToolName& tool : kToolNames) {
+    const auto form = MakeToolForm(tool.tool, nullptr);
+    form->load();
+    ShowActive(*form);
+    viewer.calls.clear();
+    Choose(*form, "mnuHelpContent");
+    QTest::keyClick(form->focusWidget(), Qt::Key_F1);
+    ASSERT_EQ(viewer.calls.size(), 2U) << tool.helpTopic;
+    EXPECT_EQ(viewer.calls[0], viewer.calls[1]);
+  }
+  viewer.calls.clear();
+  const auto window = IdleMainWindow();
+  QTest::keyClick(window.get(), Qt::Key_F1);
+  EXPECT_EQ(viewer.calls, (Calls{{nullptr, "/program/QJT Tools 1.chm", 1, ""}}));
+}
+
+TEST_F(HelpCommands, TheHelpKeyWaitsForTheEndOfTheOpeningPhase) {
+  platform.AddFile("/program/QJT Tools 1.chm");
+  FrmHandMain opening(MakeToolForm);
+  ShowActive(opening);
+  QTest::keyClick(&opening, Qt::Key_F1);
+  EXPECT_TRUE(viewer.calls.empty());
+}
+
 TEST_F(HelpCommands, AMissingFileLeavesTheFormWorking) {
   const auto form = LoadedStrainIndex();
   platform.WillAnswer(Answer::Ok);

@@ -1,6 +1,5 @@
 #include "tools/ctd/frm_ctd.h"
 
-#include <QButtonGroup>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -20,6 +19,7 @@
 #include "tools/task_list/task_commands.h"
 #include "tools/task_list/task_list_frame.h"
 #include "tools/task_list/task_tree.h"
+#include "widgets/choice_group.h"
 #include "widgets/layout.h"
 #include "widgets/ribbon_button.h"
 #include "widgets/rich_text_box.h"
@@ -147,14 +147,14 @@ void FrmCTD::AddText2(QGridLayout& grid, int row, int column, int index) {
   connect(box, &TextBox::keyReleased, this, [this, index] { Text2_KeyUp(index); });
 }
 
-RibbonButton* FrmCTD::AddRibbon(QGridLayout& grid, QButtonGroup& group, std::string_view array,
+RibbonButton* FrmCTD::AddRibbon(QGridLayout& grid, ChoiceGroup& group, std::string_view array,
                                 const CtdRibbon& ribbon) {
   auto* button = new RibbonButton(ElementName(ScreenText(array), ribbon.index),
                                   ScreenText(ribbon.caption), grid.parentWidget());
   button->SetPicture(ScreenText(ribbon.picture));
   button->setToolTip(ScreenText(ribbon.caption));
   grid.addWidget(button, 0, static_cast<int>(group.buttons().size()), 2, 1);
-  group.addButton(button);
+  group.Add(*button);
   return button;
 }
 
@@ -164,7 +164,7 @@ QGroupBox* FrmCTD::MakeGroup(CtdGroup group, QWidget* parent) {
   AddInputFrame(*frame);
   grid->setContentsMargins(kGap / 2, kGap / 2, kGap / 2, kGap / 2);
   grid->setHorizontalSpacing(0);
-  auto* buttons = new QButtonGroup(frame);
+  auto* buttons = new ChoiceGroup(Choice::One, frame);
   for (const CtdRibbon& ribbon : row.ribbons) {
     RibbonButton* button = AddRibbon(*grid, *buttons, row.objectName, ribbon);
     connect(button, &RibbonButton::clicked, this,
@@ -184,12 +184,15 @@ QWidget* FrmCTD::MakePostureTab() {
   auto* column = new QVBoxLayout(parts);
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(0);
+  auto* group = new ChoiceGroup(Choice::One, parts);
   for (int part = 0; part < static_cast<int>(kCtdBodyParts.size()); ++part) {
     const CtdBodyPart& row = kCtdBodyParts[static_cast<std::size_t>(part)];
     auto* button = new RibbonButton(ElementName("SSRibbon3", part), ScreenText(row.caption), parts);
     button->SetPicture(ScreenText(row.picture));
     connect(button, &RibbonButton::clicked, this, [this, part] { SSRibbon3_Click(part); });
     column->addWidget(button);
+    group->Add(*button);
+    bodyParts_.Add(*button, [this, part] { return framesShown_ && part == controls_.bodyPart(); });
     SSRibbon3_[static_cast<std::size_t>(part)] = button;
   }
   column->addStretch(1);
@@ -210,7 +213,7 @@ QGroupBox* FrmCTD::MakeSlot(int slot, QWidget* parent) {
   frame->setObjectName(ElementName("SSFrame3", row.frameSlot));
   SSFrame3_[static_cast<std::size_t>(row.frameSlot)] = frame;
   grid->setHorizontalSpacing(0);
-  auto* buttons = new QButtonGroup(frame);
+  auto* buttons = new ChoiceGroup(Choice::One, frame);
   for (const CtdRibbon& ribbon : row.categories) {
     RibbonButton* button = AddRibbon(*grid, *buttons, row.objectName, ribbon);
     connect(button, &RibbonButton::clicked, this,
@@ -328,9 +331,7 @@ void FrmCTD::ShowRibbons() {
   for (std::size_t slot = 0; slot < categories_.size(); ++slot) {
     categories_[slot].at(controls_.category(static_cast<int>(slot)))->setChecked(true);
   }
-  for (std::size_t part = 0; part < SSRibbon3_.size(); ++part) {
-    SSRibbon3_[part]->setChecked(framesShown_ && static_cast<int>(part) == controls_.bodyPart());
-  }
+  bodyParts_.Show();
   choosePart_->setVisible(partsShown_ && !framesShown_);
 }
 

@@ -5,14 +5,15 @@
 
 #include "shell/tool_form.h"
 #include "tools/ctd/ctd_controls.h"
+#include "widgets/button_states.h"
 
-class QButtonGroup;
 class QGridLayout;
 class QGroupBox;
 class QLabel;
 
 namespace halvane {
 
+class ChoiceGroup;
 class RibbonButton;
 class TabStrip;
 class TaskTree;
@@ -63,7 +64,7 @@ class FrmCTD : public ToolForm {
   QGroupBox* MakeGroup(CtdGroup group, QWidget* parent);
   QWidget* MakePostureTab();
   QGroupBox* MakeSlot(int slot, QWidget* parent);
-  static RibbonButton* AddRibbon(QGridLayout& grid, QButtonGroup& group, std::string_view array,
+  static RibbonButton* AddRibbon(QGridLayout& grid, ChoiceGroup& group, std::string_view array,
                                  const CtdRibbon& ribbon);
   void AddInputFrame(QGroupBox& frame);
   void AddText1(int index, TextBox* box);
@@ -88,6 +89,7 @@ class FrmCTD : public ToolForm {
   std::vector<QGroupBox*> SSFrame1_;
   std::array<std::map<int, RibbonButton*>, 4> ribbons_;  ///< by group
   std::array<RibbonButton*, 4> SSRibbon3_{};
+  ButtonStates bodyParts_;
   std::array<QGroupBox*, kCtdSlotCount> SSFrame3_{};
   std::array<std::map<int, RibbonButton*>, kCtdSlotCount> categories_;  ///< by slot
 };

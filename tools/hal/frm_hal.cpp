@@ -107,6 +107,8 @@ QGroupBox* FrmHAL::MakeDutyFrame(QWidget* parent) {
                                    ScreenText(kHalBoxes[kHalDuty].name), frame));
   Slider3_ = new MouseSlider(frame);
   SetUpSlider(*Slider3_, "Slider3", kHalHighestDuty, kDutyPage);
+  // A key would move it and nothing else; the box beside it is there for keys.
+  Slider3_->setFocusPolicy(Qt::NoFocus);
   Slider3_->setAccessibleName(frame->title());
   grid->addWidget(Text1_[kHalDuty], 0, 0);
   grid->addWidget(Slider3_, 0, 1);

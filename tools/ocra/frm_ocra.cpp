@@ -17,6 +17,7 @@
 #include "tools/task_list/task_commands.h"
 #include "tools/task_list/task_list_frame.h"
 #include "tools/task_list/task_tree.h"
+#include "widgets/choice_group.h"
 #include "widgets/layout.h"
 #include "widgets/pair_panel.h"
 #include "widgets/rich_text_box.h"
@@ -182,10 +183,12 @@ QGroupBox* FrmOCRA::MakeRegionFrame(const OcraFrame& region, QWidget* parent) {
     }
   }
   const auto [ticks, tickGrid] = MakeFrame(ScreenText(kOcraTicksCaption), frame);
+  auto* group = new ChoiceGroup(Choice::Any, ticks);
   for (const int index : region.ticks) {
     const auto at = static_cast<std::size_t>(index);
     SSCheck1_[at] = AddWrappedCheck(*tickGrid, ElementName("SSCheck1", index),
                                     ScreenText(kOcraTicks[at].caption));
+    group->Add(*SSCheck1_[at]);
     connect(SSCheck1_[at], &QCheckBox::clicked, this,
             [this, index](bool ticked) { SSCheck1_Click(index, ticked); });
   }

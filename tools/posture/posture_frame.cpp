@@ -1,12 +1,12 @@
 #include "tools/posture/posture_frame.h"
 
 #include <QBoxLayout>
-#include <QButtonGroup>
 #include <QCheckBox>
 #include <QGridLayout>
 #include <QLabel>
 #include <QRadioButton>
 
+#include "widgets/choice_group.h"
 #include "widgets/layout.h"
 #include "widgets/ribbon_button.h"
 
@@ -42,7 +42,8 @@ PostureFrame::PostureFrame(std::string_view caption, QWidget* parent)
   column_->setSpacing(0);
   options_ = new QVBoxLayout;
   options_->setSpacing(kOptionGap);
-  optionGroup_ = new QButtonGroup(this);
+  optionGroup_ = new ChoiceGroup(Choice::One, this);
+  checkGroup_ = new ChoiceGroup(Choice::Any, this);
   // What room is left over stands above and below alike.
   column_->addStretch(1);
   column_->addLayout(options_);
@@ -69,7 +70,7 @@ void PostureFrame::MakeFirstRow() {
 void PostureFrame::BeginGroup(bool oneIsDown) {
   MakeFirstRow();
   if (ribbons_->count() > 0) ribbons_->addSpacing(kGap);
-  ribbonGroup_ = oneIsDown ? new QButtonGroup(this) : nullptr;
+  ribbonGroup_ = new ChoiceGroup(oneIsDown ? Choice::One : Choice::OneAtMost, this);
 }
 
 RibbonButton* PostureFrame::AddRibbon(const QString& name, const PictureRibbon& ribbon) {
@@ -82,7 +83,7 @@ RibbonButton* PostureFrame::AddRibbon(const QString& name, const PictureRibbon& 
   button->setAccessibleName(title() + " " + caption.trimmed());
   // Ribbons of all frames have one size, whatever room there is.
   button->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
-  if (ribbonGroup_ != nullptr) ribbonGroup_->addButton(button);
+  ribbonGroup_->Add(*button);
   ribbons_->addWidget(button);
   return button;
 }
@@ -95,6 +96,7 @@ void PostureFrame::AddInput(QWidget* input) {
 QCheckBox* PostureFrame::AddCheck(const QString& name, std::string_view caption) {
   MakeFirstRow();
   QCheckBox* box = AddWrappedCheck(*checks_, name, ScreenText(caption));
+  checkGroup_->Add(*box);
   if (ribbons_->count() > 0) KeepChecksLow();
   return box;
 }
@@ -109,7 +111,7 @@ void PostureFrame::KeepChecksLow() {
 QRadioButton* PostureFrame::AddOption(const QString& name, std::string_view caption) {
   auto* option = new QRadioButton(ScreenText(caption), this);
   option->setObjectName(name);
-  optionGroup_->addButton(option);
+  optionGroup_->Add(*option);
   options_->addWidget(option);
   return option;
 }

@@ -4,13 +4,13 @@
 #include <string_view>
 
 class QBoxLayout;
-class QButtonGroup;
 class QCheckBox;
 class QGridLayout;
 class QRadioButton;
 
 namespace halvane {
 
+class ChoiceGroup;
 class RibbonButton;
 
 /// A picture ribbon as a tool's tables have it.
@@ -28,7 +28,7 @@ class PostureFrame : public QGroupBox {
   PostureFrame(std::string_view caption, QWidget* parent);
 
   /// Begins a group of ribbons, apart from those that stand there. Of a group with `oneIsDown` a
-  /// click lets up the one that was down, and arrow keys move within it.
+  /// click, or an arrow key, lets up the one that was down.
   void BeginGroup(bool oneIsDown);
   /// Adds a ribbon to the group begun last.
   RibbonButton* AddRibbon(const QString& name, const PictureRibbon& ribbon);
@@ -48,11 +48,12 @@ class PostureFrame : public QGroupBox {
   void KeepChecksLow();
 
   QBoxLayout* column_;
-  QBoxLayout* ribbons_ = nullptr;        ///< null until there are ribbons, boxes or other inputs
-  QButtonGroup* ribbonGroup_ = nullptr;  ///< null where each may be up
+  QBoxLayout* ribbons_ = nullptr;       ///< null until there are ribbons, boxes or other inputs
+  ChoiceGroup* ribbonGroup_ = nullptr;  ///< the one begun last
   QGridLayout* checks_ = nullptr;
+  ChoiceGroup* checkGroup_;
   QBoxLayout* options_;
-  QButtonGroup* optionGroup_;
+  ChoiceGroup* optionGroup_;
 };
 
 }  // namespace halvane

@@ -1,6 +1,5 @@
 #include "tools/strain_index/frm_si.h"
 
-#include <QButtonGroup>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -11,6 +10,7 @@
 
 #include "shell/hand_frame.h"
 #include "tools/strain_index/si_score.h"
+#include "widgets/choice_group.h"
 #include "widgets/layout.h"
 #include "widgets/ribbon_button.h"
 #include "widgets/rich_text_box.h"
@@ -83,14 +83,14 @@ QWidget* FrmSI::MakeRibbonFrame(SiRibbonArray array, QWidget* parent) {
     heading->setMinimumHeight(2 * heading->fontMetrics().lineSpacing());
     grid->addWidget(heading, 0, gridColumn);
     // One ribbon of a column is down; the arrow keys move within it.
-    auto* group = new QButtonGroup(box);
+    auto* group = new ChoiceGroup(Choice::One, box);
     for (int row = 0; row < kSiRatings; ++row) {
       const int index = gridColumn * kSiRatings + row;
       const QString caption = ScreenText(column.captions.at(static_cast<std::size_t>(row)));
       auto* ribbon =
           new RibbonButton(ElementName(ScreenText(frame.objectName), index), caption, box);
       ribbon->setAccessibleName(ScreenText(column.heading) + " " + caption);
-      group->addButton(ribbon);
+      group->Add(*ribbon);
       grid->addWidget(ribbon, row + 1, gridColumn);
       grid->setRowStretch(row + 1, 1);
       connect(ribbon, &RibbonButton::clicked, this,

@@ -11,6 +11,7 @@
 
 #include "core/job_state.h"
 #include "core/task_list.h"
+#include "widgets/focus_frame.h"
 
 namespace halvane {
 namespace {
@@ -57,6 +58,7 @@ class NameEditing : public QStyledItemDelegate {
 TaskTree::TaskTree(QWidget* parent) : QTreeWidget(parent) {
   setObjectName("TreeView1");
   setAccessibleName(tr("Tasks"));
+  SetUpFocusFrame(*this);
   setHeaderHidden(true);
   setRootIsDecorated(false);
   setColumnCount(1);
@@ -124,6 +126,12 @@ int TaskTree::SelectedTask() const {
 
 int TaskTree::TaskOf(const QTreeWidgetItem& node) {
   return TaskOfKey(node.data(0, kKeyRole).toString().toStdString());
+}
+
+bool TaskTree::event(QEvent* event) {
+  const bool handled = QTreeWidget::event(event);
+  if (event->type() == QEvent::Paint) PaintFocusFrame(*this);
+  return handled;
 }
 
 QItemSelectionModel::SelectionFlags TaskTree::selectionCommand(const QModelIndex& index,

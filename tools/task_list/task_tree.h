@@ -6,7 +6,8 @@
 namespace halvane {
 
 /// The task list on screen, the same in both tools that have one: one flat node a task, its name
-/// edited in place. It keeps nothing but nodes; what a task is stands in the job.
+/// edited in place. It keeps nothing but nodes; what a task is stands in the job. Its frame shows
+/// the focus.
 class TaskTree : public QTreeWidget {
   Q_OBJECT
  public:
@@ -41,6 +42,7 @@ class TaskTree : public QTreeWidget {
   void taskRenamed(int task, const QString& name);
 
  protected:
+  bool event(QEvent* event) override;
   [[nodiscard]] QItemSelectionModel::SelectionFlags selectionCommand(
       const QModelIndex& index, const QEvent* event) const override;
   bool edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) override;
