@@ -73,7 +73,7 @@ void ScrollPage::FocusChanged(QWidget* now) {
   // A press of the mouse gives the focus to what is in view; a control that moves away under it
   // would miss the release.
   const bool byMouse = QApplication::mouseButtons() != Qt::NoButton;
-  if (now == nullptr || byMouse || !isAncestorOf(now)) return;
+  if (now == nullptr || byMouse || !widget()->isAncestorOf(now)) return;
   // The area's own way, for the Tab key, shows of a box no more than the place of its caret.
   const QRect place(now->mapTo(widget(), QPoint()), now->size());
   ensureVisible(place.center().x(), place.center().y(), place.width() / 2 + kMargin,

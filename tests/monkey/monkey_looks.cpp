@@ -33,7 +33,11 @@ void Monkey::LookAtRelease(const Before& before, const HeldKey& key) {
   const QWidget* target = before.target;
   if (qobject_cast<const TextBox*>(target) == nullptr || !target->isVisible()) return;
   const bool sameShowing = key.showing == showing_;
-  const bool pressedInBox = sameShowing && qobject_cast<TextBox*>(key.pressedIn) != nullptr;
+  // Ctrl+Tab is the form's, whatever has the focus.
+  const bool isForm =
+      key.key.modifiers.testFlag(Qt::ControlModifier) && key.key.code == Qt::Key_Tab;
+  const bool pressedInBox =
+      sameShowing && !isForm && qobject_cast<TextBox*>(key.pressedIn) != nullptr;
   const bool isTab = key.key.code == Qt::Key_Tab || key.key.code == Qt::Key_Backtab;
   if (pressedInBox && key.pressedIn == target) {
     Stored(target, " after a key was pressed and released in it");
