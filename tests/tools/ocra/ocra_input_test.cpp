@@ -108,6 +108,8 @@ TEST_F(OcraInputs, TaskFramesGoWithTheLastTaskAndStayAsTheyWereWithoutAny) {
   Module1 = JobState{};
   EXPECT_FALSE(OcraEverHadTasks());
   EXPECT_EQ(OcraShowsTaskFrames(), std::nullopt);
+  Module1.TaskCount = Integer{1};
+  EXPECT_TRUE(OcraEverHadTasks());
 }
 
 }  // namespace
