@@ -60,6 +60,11 @@ ScrollPage::ScrollPage(QWidget* page, QSize leastWindow, QWidget* parent)
           [this](QWidget* /*old*/, QWidget* now) { FocusChanged(now); });
 }
 
+ScrollPage::~ScrollPage() {
+  // A control that goes with the page gives the focus up, when this part of it is gone already.
+  disconnect(qApp, nullptr, this, nullptr);
+}
+
 QSize ScrollPage::minimumSizeHint() const { return LeastOf(*page_); }
 
 QSize ScrollPage::sizeHint() const { return page_->sizeHint(); }

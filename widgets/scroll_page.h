@@ -12,6 +12,7 @@ class ScrollPage : public QScrollArea {
   /// Takes `page` over, which is made for windows from `leastWindow` on: in a smaller one it keeps
   /// the size that it has there, and scrolls.
   ScrollPage(QWidget* page, QSize leastWindow, QWidget* parent);
+  ~ScrollPage() override;
 
   [[nodiscard]] QSize minimumSizeHint() const override;
   [[nodiscard]] QSize sizeHint() const override;
