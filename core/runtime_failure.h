@@ -22,9 +22,10 @@ enum class FailureKind {
 /// The name of a kind as it stands above, for output that programs read.
 std::string_view KindName(FailureKind kind);
 
-/// A failure that stops the computation or command under way. Nothing between the place that throws
-/// it and one of the three places that may catch it looks at it: a command that ends silently, the
-/// top of the event loop, and the reporter.
+/// A failure that stops the computation or command under way. It ends at a command that ends
+/// without a word, at the top of the event loop or at the reporter's line for a job; on its way
+/// there it is caught by what has to undo a step or give the failure its place, and where something
+/// can go on without the part that failed.
 class RuntimeFailure : public std::runtime_error {
  public:
   /// The message is the kind's own sentence.

@@ -10,6 +10,7 @@ enum class LengthUnit {
 
 /// Centimetres an inch.
 inline constexpr double kCentimetresPerInch = 2.54;
+inline constexpr double kMinutesPerHour = 60;
 
 /// Makes `unit` the unit of hand spans and converts the hand span of every task, deleted ones
 /// included, rounded to two decimals. Whether the unit really changes is not tested: choosing

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <exception>
 #include <new>
 #include <optional>
 #include <string>
@@ -26,6 +27,9 @@ std::optional<ReportFailure> Try(const Action& action) {
     return FailureFrom(failure);
   } catch (const std::bad_alloc&) {
     return FailureFrom(RuntimeFailure(FailureKind::OutOfMemory));
+  } catch (const std::exception& failure) {
+    // No job may end the run of those behind it.
+    return ReportFailure{"Unexpected", failure.what()};
   }
 }
 

@@ -1,6 +1,7 @@
 #include "tools/report_parts.h"
 
 #include "core/job_state.h"
+#include "core/number_text.h"
 
 namespace halvane {
 
@@ -9,6 +10,8 @@ void SetStops(RichText& RichTextBox1, std::span<const int> stops) {
   int stop = 0;
   for (const int twips : stops) RichTextBox1.SetTab(stop++, twips);
 }
+
+std::string Whole(Integer score) { return Format(score, Pattern::Whole); }
 
 std::string_view HandLine() { return Module1.Hand == 0 ? "Hand: Right Side" : "Hand: Left Side"; }
 

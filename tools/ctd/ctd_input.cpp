@@ -8,12 +8,6 @@
 #include "core/units.h"
 
 namespace halvane {
-namespace {
-
-constexpr double kMinutesPerHour = 60;
-
-}  // namespace
-
 bool CtdOpen() {
   CtdControls controls;
   controls.Load();

@@ -11,9 +11,7 @@
 namespace halvane {
 namespace {
 
-constexpr CharacterFormat kHeading{.size = 10, .bold = true, .underline = true};
 constexpr CharacterFormat kBold{.size = 10, .bold = true, .underline = false};
-constexpr CharacterFormat kPlain{.size = 10, .bold = false, .underline = false};
 
 using Stops = std::array<int, 4>;
 

@@ -11,7 +11,6 @@
 namespace halvane {
 namespace {
 
-constexpr double kMinutesPerHour = 60;
 /// Stands for a cycle time, work time, rest time or shift of 0. A value really typed so is wiped
 /// when the guard is undone, which is wanted: the test is on the value.
 constexpr double kGuard = 0.01;

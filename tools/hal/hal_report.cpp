@@ -15,10 +15,6 @@ constexpr std::size_t kTitleLength = 35;
 constexpr std::string_view kFrequencyUnit = " (# of exertion per minute)'& CR$";
 constexpr std::string_view kDutyUnit = " (% of cycle time)'& CR$";
 
-constexpr CharacterFormat kTitle{.size = 12, .bold = true, .underline = true};
-constexpr CharacterFormat kHeading{.size = 10, .bold = true, .underline = true};
-constexpr CharacterFormat kPlain{.size = 10, .bold = false, .underline = false};
-
 void WriteLimit(RichText& RichTextBox1, int element) {
   RichTextBox1.Append(kNewLine, kHalLimitCaptions.at(static_cast<std::size_t>(element)), " ",
                       Format(Module1.HalLimits.at(element), Pattern::TwoDecimals));

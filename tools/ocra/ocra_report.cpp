@@ -11,10 +11,6 @@
 namespace halvane {
 namespace {
 
-constexpr CharacterFormat kTitle{.size = 12, .bold = true, .underline = true};
-constexpr CharacterFormat kHeading{.size = 10, .bold = true, .underline = true};
-constexpr CharacterFormat kPlain{.size = 10, .bold = false, .underline = false};
-
 using Lines = std::array<std::string_view, 3>;
 
 constexpr std::string_view kZoneLabel = "Zone: ";

@@ -13,15 +13,9 @@
 namespace halvane {
 namespace {
 
-constexpr CharacterFormat kTitle{.size = 12, .bold = true, .underline = true};
-constexpr CharacterFormat kHeading{.size = 10, .bold = true, .underline = true};
-constexpr CharacterFormat kPlain{.size = 10, .bold = false, .underline = false};
-
 // The second stop lies behind the third, which is wanted.
 constexpr std::array kFactorStops{2500, 8000, 7500, 8000};
 constexpr std::array kScoreStops{2500, 4500, 6300, 8000};
-
-std::string Whole(Integer value) { return Format(value, Pattern::Whole); }
 
 // Trailing blanks of the descriptions are wanted as they stand, and so is the wording that differs
 // from the captions on screen.

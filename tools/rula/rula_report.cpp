@@ -14,15 +14,9 @@ namespace {
 
 using Stops = std::array<int, 4>;
 
-constexpr CharacterFormat kTitle{.size = 12, .bold = true, .underline = true};
-constexpr CharacterFormat kHeading{.size = 10, .bold = true, .underline = true};
-constexpr CharacterFormat kPlain{.size = 10, .bold = false, .underline = false};
-
 // The third stop stands before the second, which is wanted.
 constexpr Stops kPostureStops{2500, 8000, 7500, 8000};
 constexpr Stops kTotalStops{2500, 4500, 6500, 8000};
-
-std::string Whole(Integer score) { return Format(score, Pattern::Whole); }
 
 // Add-ons have the report's own wording, which is not always that of their controls.
 void WritePostures(RichText& RichTextBox1) {

@@ -9,10 +9,7 @@
 namespace halvane {
 namespace {
 
-constexpr CharacterFormat kTitle{.size = 12, .bold = true, .underline = true};
-constexpr CharacterFormat kHeading{.size = 10, .bold = true, .underline = true};
 constexpr CharacterFormat kScoreLabel{.size = 10, .bold = true, .underline = false};
-constexpr CharacterFormat kPlain{.size = 10, .bold = false, .underline = false};
 
 constexpr std::array kTableStops{4000, 6500, 7500};
 
