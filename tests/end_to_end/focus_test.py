@@ -6,7 +6,7 @@ import sys
 import time
 
 from desktop import RIGHT, wait_until
-from program import CLOSE_BUTTON, FINGERTIP, MAIN, MESSAGE, OCRA, SI, TOOLS, Program, run
+from program import CLOSE_BUTTON, FINGERTIP, HELP, MAIN, MESSAGE, OCRA, SI, TOOLS, Program, run
 
 ANALYST = (207, 39)
 JOB_NAME = (570, 39)
@@ -182,7 +182,31 @@ def launch_by_key(desktop, program):
     run_.end()
 
 
+def closed_beside_help(desktop, program):
+    """Closing a tool gives the keyboard to the main window, also while the help is open."""
+    run_ = Program(desktop, program)
+    tool = run_.open(OCRA)
+    desktop.keys("F1")
+    help_window = wait_until(lambda: desktop.visible(HELP), "the help")[0]
+    for _ in range(2):
+        desktop.activate(help_window)
+        wait_until(lambda: desktop.focused() == help_window, "the help in front")
+        desktop.activate(tool)
+        desktop.window(OCRA.title)
+        run_.leave()
+        # Keys of the main window's are heard there.
+        desktop.keys("ctrl+o")
+        desktop.window("Open")
+        desktop.keys("Escape")
+        desktop.gone("Open")
+        desktop.window(MAIN)
+        tool = run_.open(OCRA)
+    run_.leave()
+    run_.end()
+
+
 CASES = {
+    "closed_beside_help": closed_beside_help,
     "edit_one_word": edit_one_word,
     "go_on_typing": go_on_typing,
     "help_and_back": help_and_back,

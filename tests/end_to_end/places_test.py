@@ -2,13 +2,13 @@
 """Where the windows stand on screens of several sizes, their frames included: places_test.py PROGRAM DATAFOLDER CASE
 [WINDOWMANAGER]. Exit status 77 says that a tool is missing and the test was skipped."""
 
+import os
 import re
 import sys
 
 from desktop import wait_until
-from program import MAIN, MESSAGE, OCRA, RULA, TOOLS, Program, run
+from program import HELP, MAIN, MESSAGE, OCRA, RULA, TOOLS, Program, run
 
-HELP = ".*Help"
 SETTLED = 5  # equal measures one after another until a window counts as standing still
 SMALL = {"small": (1024, 768), "flat": (1280, 720), "smallest": (800, 600)}
 
@@ -76,7 +76,7 @@ def on_screen(desktop, program):
 
 
 def reopened(desktop, program):
-    """A tool stays where it is through closing and opening it and through New, also where it was moved to."""
+    """A tool stays where it is through closing and opening it, through New and Open, also where it was moved to."""
     run_ = Program(desktop, program)
     window = run_.open(RULA)
     for by in ((0, 0), (21, 13)):
@@ -102,6 +102,22 @@ def reopened(desktop, program):
             window = desktop.window(RULA.title)
             again = settled(desktop, window)[0]
             assert again == before, f"after New at {again} and not at {before}"
+        saved = os.path.join(desktop.folder, f"moved by {by[0]}.qjt")
+        run_.save_as(saved)
+        for _ in range(3):
+            desktop.window(RULA.title)
+            desktop.keys("alt+f", "Down", "Return")
+            # A job that the tool has shown may count as changed.
+            title = wait_until(lambda: desktop.active("Open", MESSAGE), "the dialog or the question")[0]
+            if title == MESSAGE:
+                desktop.keys("n")
+            desktop.window("Open")
+            desktop.type(saved)
+            desktop.keys("Return")
+            desktop.gone("Open")
+            window = desktop.window(RULA.title)
+            again = settled(desktop, window)[0]
+            assert again == before, f"after Open at {again} and not at {before}"
     run_.leave()
     assert desktop.window(MAIN)
     run_.end()

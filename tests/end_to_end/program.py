@@ -10,6 +10,7 @@ from desktop import Desktop, missing_tools, wait_until
 SKIPPED = 77
 MAIN = "Halvane Tools V1.0"
 MESSAGE = "Halvane Tools"
+HELP = ".*Help"
 
 # Places in the windows, in pixels from their upper left corner.
 CLOSE_BUTTON = (264, 220)
