@@ -11,10 +11,8 @@ namespace {
 constexpr int kPadding = 4;
 /// What of a pressed ribbon has the highlight all round.
 constexpr int kEdge = 2;
-/// Beside a picture, where there is room.
-constexpr int kPictureSide = 8;
-/// Beside a caption that is wider than its picture, where there is room.
-constexpr int kCaptionSide = 6;
+/// The room beside a picture gets wider by this part of what the picture does.
+constexpr int kGrowingSide = 4;
 /// A caption wider than this many average characters wraps.
 constexpr int kWidestLine = 17;
 
@@ -32,12 +30,22 @@ RibbonButton::RibbonButton(const QString& name, const QString& caption, QWidget*
 void RibbonButton::SetPicture(const QString& assetName, int size) {
   setIcon(QIcon(":/assets/" + assetName + ".svg"));
   setIconSize({size, size});
-  setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Maximum);
+  setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
 
 void RibbonButton::SetOneLine() {
   oneLine_ = true;
   updateGeometry();
+}
+
+void RibbonButton::StandLevelWith(const RibbonButton& other) {
+  neighbours_.emplace_back(&other);
+  updateGeometry();
+}
+
+void RibbonButton::SetLargestHeight(int height) {
+  largestHeight_ = height;
+  setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Maximum);
 }
 
 QString RibbonButton::ShownText() const {
@@ -68,55 +76,72 @@ int RibbonButton::SideRoom() const {
   return oneLine_ ? kPadding / 2 : kPadding;
 }
 
+int RibbonButton::PictureRoom() const {
+  if (icon().isNull()) return 0;
+  // The least one fits a small window by standing close to the edges.
+  const int size = iconSize().width();
+  return size + std::max(size - kLeastPicture, 0) / kGrowingSide;
+}
+
 int RibbonButton::LeastWidth() const {
   const int caption = CaptionWidth();
   const QRect box =
       fontMetrics().boundingRect(0, 0, caption, QWIDGETSIZE_MAX, CaptionFlags(), ShownText());
-  const int picture = icon().isNull() ? 0 : iconSize().width();
-  return std::max({caption, box.width(), picture}) + 2 * SideRoom();
+  return std::max({caption, box.width(), PictureRoom()}) + 2 * SideRoom();
 }
 
-QSize RibbonButton::CaptionSize(int buttonWidth) const {
-  const int width = buttonWidth - 2 * SideRoom();
+QSize RibbonButton::CaptionSize(int width) const {
   return fontMetrics()
       .boundingRect(0, 0, width, QWIDGETSIZE_MAX, CaptionFlags(), ShownText())
       .size();
 }
 
+int RibbonButton::EvenWidth(int room) const {
+  if (oneLine_) return room;
+  const int height = CaptionSize(room).height();
+  int width = CaptionSize(0).width();  // of the widest word
+  while (width < room && CaptionSize(width).height() > height) ++width;
+  return std::min(width, room);
+}
+
 std::vector<const RibbonButton*> RibbonButton::Alike() const {
-  if (icon().isNull() || group() == nullptr) return {this};
+  if (group() == nullptr) return {this};
   std::vector<const RibbonButton*> alike;
   for (const QAbstractButton* button : group()->buttons()) {
     const auto* ribbon = qobject_cast<const RibbonButton*>(button);
-    if (ribbon != nullptr && !ribbon->icon().isNull()) alike.push_back(ribbon);
+    if (ribbon != nullptr) alike.push_back(ribbon);
   }
   return alike;
 }
 
-int RibbonButton::CaptionRoom(int buttonWidth) const {
+int RibbonButton::GroupWidth() const {
+  int width = 0;
+  for (const RibbonButton* ribbon : Alike()) width = std::max(width, ribbon->LeastWidth());
+  return width;
+}
+
+int RibbonButton::GroupCaption() const {
+  const int width = GroupWidth() - 2 * SideRoom();
   int height = 0;
   for (const RibbonButton* ribbon : Alike()) {
-    height = std::max(height, ribbon->CaptionSize(buttonWidth).height());
+    height = std::max(height, ribbon->CaptionSize(width).height());
   }
   return height;
 }
 
-QSize RibbonButton::sizeHint() const {
-  QSize hint = minimumSizeHint();
-  if (icon().isNull()) return hint;
-  for (const RibbonButton* ribbon : Alike()) {
-    const int picture = ribbon->iconSize().width() + 2 * kPictureSide;
-    const int caption = ribbon->CaptionWidth() + 2 * kCaptionSide;
-    hint = hint.expandedTo({std::max(picture, caption), 0});
+int RibbonButton::CaptionRoom() const {
+  int height = GroupCaption();
+  for (const auto& neighbour : neighbours_) {
+    if (neighbour != nullptr) height = std::max(height, neighbour->GroupCaption());
   }
-  return hint;
+  return height;
 }
 
+QSize RibbonButton::sizeHint() const { return minimumSizeHint().expandedTo({0, largestHeight_}); }
+
 QSize RibbonButton::minimumSizeHint() const {
-  int width = 0;
-  for (const RibbonButton* ribbon : Alike()) width = std::max(width, ribbon->LeastWidth());
   const int picture = icon().isNull() ? 0 : iconSize().height() + kPadding;
-  return {width, picture + CaptionRoom(width) + 2 * kPadding};
+  return {GroupWidth(), picture + CaptionRoom() + 2 * kPadding};
 }
 
 QPalette::ColorGroup RibbonButton::Group() const {
@@ -131,14 +156,14 @@ void RibbonButton::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
   PaintGround(painter);
   painter.setPen(TextColor());
-  QRect caption = rect().adjusted(SideRoom(), kPadding, -SideRoom(), -kPadding);
+  const int captionWidth = EvenWidth(width() - 2 * SideRoom());
+  QRect caption((width() - captionWidth) / 2, 0, captionWidth, height());
   if (!icon().isNull()) {
-    const int room = CaptionRoom(width());
-    const int top = (height() - iconSize().height() - kPadding - room) / 2;
+    const int top = (height() - iconSize().height() - kPadding - CaptionRoom()) / 2;
     PaintPicture(painter, {(width() - iconSize().width()) / 2, top});
     // From below the picture on, so that first lines of a row stand level.
-    const int captionTop = top + iconSize().height() + kPadding;
-    caption = QRect(caption.left(), captionTop, caption.width(), CaptionSize(width()).height());
+    caption.setTop(top + iconSize().height() + kPadding);
+    caption.setHeight(CaptionSize(captionWidth).height());
   }
   painter.drawText(caption, CaptionFlags(), ShownText());
   if (hasFocus()) PaintFocus(painter);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAbstractButton>
+#include <QPointer>
 #include <vector>
 
 namespace halvane {
@@ -9,8 +10,8 @@ namespace halvane {
 /// unless it is to stay in one line, and stands under its picture where it has one. Both are one
 /// block in the middle of the button.
 ///
-/// Ribbons with pictures that are in one button group have one size, and their pictures and
-/// captions stand level in a row.
+/// Ribbons that are in one button group need the same room, and their pictures and captions stand
+/// level in a row.
 class RibbonButton : public QAbstractButton {
   Q_OBJECT
  public:
@@ -24,10 +25,14 @@ class RibbonButton : public QAbstractButton {
   RibbonButton(const QString& name, const QString& caption, QWidget* parent = nullptr);
 
   /// Gives the button a picture by its asset name, so many logical pixels wide and high. It is then
-  /// not larger than picture and caption need.
+  /// as large as picture and caption need, whatever room there is.
   void SetPicture(const QString& assetName, int size = kLeastPicture);
   /// Keeps the caption in one line, however wide the button gets by it.
   void SetOneLine();
+  /// Has a button without a picture get so high, where there is room.
+  void SetLargestHeight(int height);
+  /// Keeps as much height for the caption as the group of `other` does, which stands beside it.
+  void StandLevelWith(const RibbonButton& other);
 
   [[nodiscard]] QSize sizeHint() const override;
   [[nodiscard]] QSize minimumSizeHint() const override;
@@ -39,14 +44,22 @@ class RibbonButton : public QAbstractButton {
   [[nodiscard]] QString ShownText() const;
   [[nodiscard]] int CaptionFlags() const;
   [[nodiscard]] int CaptionWidth() const;
+  /// The width that the picture asks for.
+  [[nodiscard]] int PictureRoom() const;
   [[nodiscard]] int LeastWidth() const;
   /// Between the edge of the button and its caption.
   [[nodiscard]] int SideRoom() const;
-  [[nodiscard]] QSize CaptionSize(int buttonWidth) const;
+  [[nodiscard]] QSize CaptionSize(int width) const;
+  /// The least width in which the caption has no more lines than in `room`: they get alike in
+  /// length.
+  [[nodiscard]] int EvenWidth(int room) const;
   /// The ribbons that have one size with this one, itself among them.
   [[nodiscard]] std::vector<const RibbonButton*> Alike() const;
-  /// The height that the captions of all these need in buttons of a width.
-  [[nodiscard]] int CaptionRoom(int buttonWidth) const;
+  /// The width that all these need, and the height that their captions need in it.
+  [[nodiscard]] int GroupWidth() const;
+  [[nodiscard]] int GroupCaption() const;
+  /// The height that is kept for captions.
+  [[nodiscard]] int CaptionRoom() const;
 
   void PaintGround(QPainter& painter) const;
   void PaintPicture(QPainter& painter, QPoint corner) const;
@@ -55,6 +68,8 @@ class RibbonButton : public QAbstractButton {
   [[nodiscard]] QColor TextColor() const;
 
   bool oneLine_ = false;
+  int largestHeight_ = 0;
+  std::vector<QPointer<const RibbonButton>> neighbours_;
 };
 
 }  // namespace halvane

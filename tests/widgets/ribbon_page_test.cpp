@@ -87,13 +87,19 @@ TEST_F(Ribbons, GrowFromTheLeastPictureToTheLargest) {
 
 TEST_F(Ribbons, GrowAsFarAsTheScarcerSideAllows) {
   const QSize least = page.minimumSizeHint();
+  Resize(least);
+  const int around = least.width() - 2 * ribbons[0]->width();
   Resize({least.width() + 400, least.height()});
   EXPECT_EQ(Picture(), 56);
   Resize({least.width(), least.height() + 400});
   EXPECT_EQ(Picture(), 56);
-  // Two ribbons side by side, so twice a step in width for one in height.
   Resize({least.width() + 200, least.height() + 24});
   EXPECT_EQ(Picture(), 80);
+  // A ribbon is wider than its picture by 8 pixels and a quarter of what the picture has grown.
+  Resize({around + 2 * (80 + 8 + 6), least.height() + 200});
+  EXPECT_EQ(Picture(), 80);
+  Resize({around + 2 * (80 + 8 + 6) - 1, least.height() + 200});
+  EXPECT_EQ(Picture(), 72);
 }
 
 TEST_F(Ribbons, GetSmallerWhenSomethingElseNeedsTheRoom) {
@@ -122,7 +128,7 @@ TEST_F(Ribbons, AreNoLargerThanPictureAndCaption) {
   Resize({1000, 800});
   const QSize size = ribbons[0]->size();
   EXPECT_EQ(ribbons[1]->size(), size);
-  EXPECT_EQ(size.width(), 112 + 16);
+  EXPECT_EQ(size.width(), 112 + 8 + 14);
   EXPECT_GT(size.height(), 112 + 2 * page.fontMetrics().height());
   EXPECT_LT(size.height(), 112 + 3 * page.fontMetrics().height());
 }
@@ -159,9 +165,29 @@ TEST_F(Ribbons, StandLevelInARow) {
             InkIn(ribbons[0]->grab().toImage()).bottom());
 }
 
+TEST_F(Ribbons, StandLevelWithAnotherGroupOfTheirRow) {
+  RibbonButton other("other", "Power Grip");
+  other.SetPicture("ctd/grip_power");
+  Resize(page.minimumSizeHint());
+  ASSERT_LT(other.sizeHint().height(), ribbons[0]->height());
+  other.StandLevelWith(*ribbons[0]);
+  EXPECT_EQ(other.sizeHint().height(), ribbons[0]->height());
+  // Nothing but the height.
+  EXPECT_EQ(other.sizeHint().width(), 64);
+}
+
+TEST_F(Ribbons, LinesOfACaptionAreAlikeInLength) {
+  RibbonButton ribbon("a", "aaaa aaaa aaaa aaaa");
+  const int word = ribbon.fontMetrics().horizontalAdvance("aaaa");
+  const int blank = ribbon.fontMetrics().horizontalAdvance(' ');
+  // Room for three words in a line and no more.
+  ribbon.resize(3 * word + 2 * blank + 12, 100);
+  EXPECT_NEAR(InkIn(ribbon.grab().toImage()).width(), 2 * word + blank, 4);
+}
+
 TEST_F(Ribbons, PictureIsDrawnInTheSizeThatItHas) {
   Resize({1000, 800});
-  const QPoint corner(8, (ribbons[0]->height() - 112 - 4 - 2 * page.fontMetrics().height()) / 2);
+  const QPoint corner(11, (ribbons[0]->height() - 112 - 4 - 2 * page.fontMetrics().height()) / 2);
   const QImage drawn = ribbons[0]->grab().toImage();
   QImage expected(112, 112, QImage::Format_RGB32);
   expected.fill(drawn.pixelColor(3, 3));

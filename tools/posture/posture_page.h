@@ -27,13 +27,15 @@ struct FramePlace {
 class PosturePage : public RibbonPage {
   Q_OBJECT
  public:
-  explicit PosturePage(QWidget* parent);
+  /// So many rows on top hold ribbons alone; those below get less high where there is room.
+  PosturePage(int ribbonRows, QWidget* parent);
 
   /// Puts the row about the job in its place.
   void SetTop(QWidget* row);
   PostureFrame* AddFrame(const FramePlace& place, std::string_view caption);
 
  private:
+  int ribbonRows_;
   QVBoxLayout* rows_;
   QGridLayout* frames_;
 };
