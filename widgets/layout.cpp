@@ -77,6 +77,12 @@ TextBox* AddNumberAt(QGridLayout& grid, int row, int column, const QString& labe
   return box;
 }
 
+void KeepLeft(QGridLayout& grid) {
+  const int columns = grid.columnCount();
+  for (int column = 0; column < columns; ++column) grid.setColumnStretch(column, 0);
+  grid.setColumnStretch(columns, 1);
+}
+
 TextBox* MakeNumberBox(const QString& boxName, const QString& name, QWidget* parent) {
   auto* box = new TextBox(boxName, parent);
   box->setAccessibleName(name);

@@ -34,6 +34,9 @@ TextBox* AddNumberRow(QGridLayout& grid, const QString& label, const QString& bo
 TextBox* AddNumberAt(QGridLayout& grid, int row, int column, const QString& label,
                      const QString& boxName);
 
+/// Keeps the columns of a grid at its left, so that wide frames have no label far from its box.
+void KeepLeft(QGridLayout& grid);
+
 /// A box for a number that has no label; `name` is its accessible name.
 TextBox* MakeNumberBox(const QString& boxName, const QString& name, QWidget* parent);
 /// Adds such a box with its unit behind it; `unitName` is the name of the unit's label.

@@ -1,20 +1,38 @@
 #pragma once
 
 #include <QAbstractButton>
+#include <QPointer>
+#include <vector>
 
 namespace halvane {
 
 /// A two-state button; the one that is down is filled with the highlight colour. Its caption wraps,
-/// unless it is to stay in one line, and stands under its picture where it has one.
+/// unless it is to stay in one line, and stands under its picture where it has one. Both are one
+/// block in the middle of the button.
+///
+/// Ribbons that are in one button group need the same room, and their pictures and captions stand
+/// level in a row.
 class RibbonButton : public QAbstractButton {
   Q_OBJECT
  public:
+  /// Logical pixels that a picture is wide and high, on a small page and on one with room. It grows
+  /// in steps, so that a window that is dragged larger draws few pictures anew; so wide a step is
+  /// whole device pixels at every usual scale.
+  static constexpr int kLeastPicture = 56;
+  static constexpr int kLargestPicture = 112;
+  static constexpr int kPictureStep = 8;
+
   RibbonButton(const QString& name, const QString& caption, QWidget* parent = nullptr);
 
-  /// Gives the button a picture by its asset name, so many logical pixels wide and high.
-  void SetPicture(const QString& assetName, int size = kPictureSize);
+  /// Gives the button a picture by its asset name, so many logical pixels wide and high. It is then
+  /// as large as picture and caption need, whatever room there is.
+  void SetPicture(const QString& assetName, int size = kLeastPicture);
   /// Keeps the caption in one line, however wide the button gets by it.
   void SetOneLine();
+  /// Has a button without a picture get so high, where there is room.
+  void SetLargestHeight(int height);
+  /// Keeps as much height for the caption as the group of `other` does, which stands beside it.
+  void StandLevelWith(const RibbonButton& other);
 
   [[nodiscard]] QSize sizeHint() const override;
   [[nodiscard]] QSize minimumSizeHint() const override;
@@ -23,13 +41,35 @@ class RibbonButton : public QAbstractButton {
   void paintEvent(QPaintEvent* event) override;
 
  private:
-  static constexpr int kPictureSize = 56;
-
   [[nodiscard]] QString ShownText() const;
   [[nodiscard]] int CaptionFlags() const;
   [[nodiscard]] int CaptionWidth() const;
+  /// The width that the picture asks for.
+  [[nodiscard]] int PictureRoom() const;
+  [[nodiscard]] int LeastWidth() const;
+  /// Between the edge of the button and its caption.
+  [[nodiscard]] int SideRoom() const;
+  [[nodiscard]] QSize CaptionSize(int width) const;
+  /// The least width in which the caption has no more lines than in `room`: they get alike in
+  /// length.
+  [[nodiscard]] int EvenWidth(int room) const;
+  /// The ribbons that have one size with this one, itself among them.
+  [[nodiscard]] std::vector<const RibbonButton*> Alike() const;
+  /// The width that all these need, and the height that their captions need in it.
+  [[nodiscard]] int GroupWidth() const;
+  [[nodiscard]] int GroupCaption() const;
+  /// The height that is kept for captions.
+  [[nodiscard]] int CaptionRoom() const;
+
+  void PaintGround(QPainter& painter) const;
+  void PaintPicture(QPainter& painter, QPoint corner) const;
+  void PaintFocus(QPainter& painter) const;
+  [[nodiscard]] QPalette::ColorGroup Group() const;
+  [[nodiscard]] QColor TextColor() const;
 
   bool oneLine_ = false;
+  int largestHeight_ = 0;
+  std::vector<QPointer<const RibbonButton>> neighbours_;
 };
 
 }  // namespace halvane

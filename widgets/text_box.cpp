@@ -4,6 +4,7 @@
 #include <QFocusEvent>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
+#include <QStyle>
 #include <limits>
 
 #include "widgets/key_place.h"
@@ -43,6 +44,19 @@ TextBox::TextBox(const QString& name, QWidget* parent) : QLineEdit(parent) {
   setObjectName(name);
   setMaxLength(std::numeric_limits<int>::max());
   connect(this, &QLineEdit::textEdited, this, [this] { typedSinceRelease_ = true; });
+}
+
+void TextBox::ShowResult() {
+  setReadOnly(true);
+  setFocusPolicy(Qt::ClickFocus);
+  // Under the texts that are typed above or below it.
+  const int frame = style()->pixelMetric(QStyle::PM_DefaultFrameWidth, nullptr, this);
+  setFrame(false);
+  setTextMargins(frame, 0, frame, 0);
+  // What is behind shows through.
+  QPalette flat = palette();
+  flat.setBrush(QPalette::Base, Qt::NoBrush);
+  setPalette(flat);
 }
 
 bool TextBox::event(QEvent* event) {

@@ -14,10 +14,16 @@ namespace halvane {
 /// comes later, in whatever has the focus then, does nothing. Two releases have no press to go by:
 /// that of the Tab key that brought the focus counts in the box that it reached, and a text that an
 /// input method puts in counts at once.
+///
+/// It can be the place of a result instead.
 class TextBox : public QLineEdit {
   Q_OBJECT
  public:
   explicit TextBox(const QString& name, QWidget* parent = nullptr);
+
+  /// Makes it the place of a computed number: it looks like the text that it is, nobody types in it
+  /// and the Tab key passes it. A click still selects its text, to be copied.
+  void ShowResult();
 
   /// Tells of the keys that are down in the box with the focus as if they came up now; when they
   /// do they are told of once more. For a command that is given without taking the focus, before it

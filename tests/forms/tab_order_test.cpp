@@ -188,10 +188,23 @@ TEST_F(EveryWindow, TabKeyFollowsReadingOrder) {
   }
 }
 
+/// The places of computed numbers, which are read and not typed.
+QStringList ResultsOf(const QWidget& window) {
+  QStringList names;
+  for (const auto* box : window.findChildren<QLineEdit*>()) {
+    if (box->isReadOnly()) names.append(box->objectName());
+  }
+  return names;
+}
+
 TEST_F(EveryWindow, KeyboardAloneReachesEveryControl) {
   for (const auto& window : Windows()) {
     ShowActive(*window);
-    OnEveryTab(*window, [&window] { EXPECT_EQ(Reached(TabStops(*window)), InputsOf(*window)); });
+    OnEveryTab(*window, [&window] {
+      QStringList inputs = InputsOf(*window);
+      for (const QString& result : ResultsOf(*window)) inputs.removeAll(result);
+      EXPECT_EQ(Reached(TabStops(*window)), inputs);
+    });
     window->hide();
   }
 }

@@ -5,6 +5,7 @@
 #include <QTest>
 #include <QVBoxLayout>
 #include <QWindow>
+#include <set>
 
 #include "shell/held_keys.h"
 #include "tests/support/form_support.h"
@@ -48,6 +49,50 @@ TEST_F(TextBoxes, TellOfAReleasedKeyOnly) {
   EXPECT_EQ(told_, "");
   QTest::keyRelease(second_, Qt::Key_A);
   EXPECT_EQ(told_, "2");
+}
+
+/// The colours of a box, at its edge and all over it.
+std::set<QRgb> ColoursOf(TextBox& box) {
+  box.deselect();
+  const QImage picture = box.grab().toImage();
+  std::set<QRgb> colours;
+  for (int y = 0; y < picture.height(); ++y) {
+    for (int x = 0; x < picture.width(); ++x) colours.insert(picture.pixel(x, y));
+  }
+  return colours;
+}
+
+TEST_F(TextBoxes, ResultLooksLikeTheTextThatItIs) {
+  second_->clear();
+  EXPECT_GT(ColoursOf(*second_).size(), 1U);
+  second_->ShowResult();
+  // Nothing but the ground of the window: no frame and no field.
+  EXPECT_EQ(ColoursOf(*second_), std::set{window_.palette().color(QPalette::Window).rgb()});
+  second_->setText("0.63");
+  EXPECT_GT(ColoursOf(*second_).size(), 1U);
+}
+
+TEST_F(TextBoxes, ResultStandsUnderWhatIsTypedAboveIt) {
+  const auto textStart = [](TextBox& box) {
+    box.home(false);
+    return box.inputMethodQuery(Qt::ImCursorRectangle).toRectF().center().x();
+  };
+  first_->setText("0.63");
+  second_->setText("0.63");
+  const double typed = textStart(*first_);
+  second_->ShowResult();
+  EXPECT_NEAR(textStart(*second_), typed, 1);
+}
+
+TEST_F(TextBoxes, ResultIsPassedByTabAndSelectedByTheMouse) {
+  second_->ShowResult();
+  QTest::keyClick(first_, Qt::Key_Tab);
+  EXPECT_TRUE(first_->hasFocus());
+  QTest::mouseClick(second_, Qt::LeftButton);
+  EXPECT_TRUE(second_->hasFocus());
+  EXPECT_EQ(second_->selectedText(), "Packing");
+  QTest::keyClicks(second_, "x");
+  EXPECT_EQ(second_->text(), "Packing");
 }
 
 TEST_F(TextBoxes, KeyHeldDownIsReleasedOnce) {

@@ -22,6 +22,7 @@
 #include "widgets/choice_group.h"
 #include "widgets/layout.h"
 #include "widgets/ribbon_button.h"
+#include "widgets/ribbon_page.h"
 #include "widgets/rich_text_box.h"
 #include "widgets/tab_strip.h"
 #include "widgets/text_box.h"
@@ -32,6 +33,18 @@ namespace {
 constexpr IdentificationNames kNames{
     {"Text1(8)", "Label1(10)"}, {"Text1(7)", "Label1(9)"}, {"Text1(4)", "Label1(8)"}, "SSOption1"};
 constexpr auto kPdaFile = "/me.pda";
+constexpr int kGroupColumns = 2;
+/// Frames of the body-posture tab that are shown at a time.
+constexpr int kShownSlots = static_cast<int>(kCtdBodyParts.front().shownSlots.size());
+/// How rows of frames, and the room between them, share what is left over.
+constexpr int kFrameShare = 5;
+constexpr int kGapShare = 1;
+
+using Ribbons = std::map<int, RibbonButton*>;
+
+void StandLevel(const Ribbons& ribbons, const Ribbons& others) {
+  for (const auto& [index, ribbon] : ribbons) ribbon->StandLevelWith(*others.begin()->second);
+}
 
 std::string TextIn(const TextBox& box) { return box.text().toStdString(); }
 
@@ -65,26 +78,36 @@ QWidget* FrmCTD::MakeTaskList() {
 }
 
 QWidget* FrmCTD::MakeEffortTab() {
-  auto* tab = new QWidget(SSTab1_);
+  auto* tab = new RibbonPage(SSTab1_);
   auto* column = new QVBoxLayout(tab);
   column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
   column->setSpacing(kGap);
   column->addWidget(MakeIdentificationWithHand(tab));
   AddInputFrame(hand());
   MakeNumberFrames(*column);
-  const auto addGroups = [&](CtdGroup left, CtdGroup right) {
-    auto* row = new QHBoxLayout;
-    row->setSpacing(kGap);
-    for (const CtdGroup group : {left, right}) {
-      const auto ribbons = kCtdGroups[static_cast<std::size_t>(group)].ribbons.size();
-      row->addWidget(MakeGroup(group, tab), static_cast<int>(ribbons));
-    }
-    column->addLayout(row);
-  };
-  addGroups(CtdGroup::Grip, CtdGroup::Wrist);
-  addGroups(CtdGroup::RadialUlnar, CtdGroup::FlexionExtension);
-  column->addStretch(1);
+  column->addLayout(MakeGroups(tab), 1);
   return tab;
+}
+
+QLayout* FrmCTD::MakeGroups(QWidget* parent) {
+  // One grid, so that the frames of both rows stand level at their sides too.
+  auto* grid = new QGridLayout;
+  grid->setHorizontalSpacing(kGap);
+  grid->setVerticalSpacing(kGap / 2);
+  for (int group = 0; group < static_cast<int>(kCtdGroups.size()); ++group) {
+    const int row = group / kGroupColumns * 2;
+    const int column = group % kGroupColumns;
+    grid->addWidget(MakeGroup(static_cast<CtdGroup>(group), parent), row, column);
+    grid->setColumnStretch(column, 1);
+    grid->setRowStretch(row, kFrameShare);
+  }
+  // Between the two rows.
+  grid->setRowStretch(1, kGapShare);
+  for (std::size_t left = 0; left < ribbons_.size(); left += kGroupColumns) {
+    StandLevel(ribbons_[left], ribbons_[left + 1]);
+    StandLevel(ribbons_[left + 1], ribbons_[left]);
+  }
+  return grid;
 }
 
 void FrmCTD::AddInputFrame(QGroupBox& frame) {
@@ -120,11 +143,16 @@ void FrmCTD::MakeNumberFrames(QVBoxLayout& column) {
   QGridLayout& task = addFrame(durations, kCtdTaskCaption);
   addText1(task, 0, 2);
   addText1(task, 1, 3);
+  KeepLeft(job);
+  KeepLeft(task);
 
   QHBoxLayout& effort = *addRow();
-  addText1(addFrame(effort, kCtdRepetitionCaption), 0, 5);
+  QGridLayout& repetition = addFrame(effort, kCtdRepetitionCaption);
+  addText1(repetition, 0, 5);
+  KeepLeft(repetition);
   QGridLayout& strength = addFrame(effort, kCtdStrengthCaption);
   Text5_ = AddNumberAt(strength, 0, 0, ScreenText(kCtdText5.label), "Text5");
+  KeepLeft(strength);
   connect(Text5_, &TextBox::keyReleased, this, &FrmCTD::Text5_KeyUp);
   QGridLayout& span = addFrame(effort, kCtdSpanCaption);
   AddText1(6, AddNumberWithUnit(span, "Text1(6)", ScreenText(CtdBoxAt(kCtdText1, 6).label), "",
@@ -134,7 +162,7 @@ void FrmCTD::MakeNumberFrames(QVBoxLayout& column) {
 
 void FrmCTD::AddText1(int index, TextBox* box) {
   Text1_[index] = box;
-  box->setReadOnly(CtdBoxAt(kCtdText1, index).isComputed);
+  if (CtdBoxAt(kCtdText1, index).isComputed) box->ShowResult();
   connect(box, &TextBox::keyReleased, this, [this, index] { Text1_KeyUp(index); });
 }
 
@@ -143,43 +171,73 @@ void FrmCTD::AddText2(QGridLayout& grid, int row, int column, int index) {
   TextBox* box =
       AddNumberAt(grid, row, column, ScreenText(number.label), ElementName("Text2", index));
   Text2_[index] = box;
-  box->setReadOnly(number.isComputed);
+  if (number.isComputed) box->ShowResult();
   connect(box, &TextBox::keyReleased, this, [this, index] { Text2_KeyUp(index); });
 }
 
-RibbonButton* FrmCTD::AddRibbon(QGridLayout& grid, ChoiceGroup& group, std::string_view array,
+RibbonButton* FrmCTD::AddRibbon(QBoxLayout& row, ChoiceGroup& group, std::string_view array,
                                 const CtdRibbon& ribbon) {
   auto* button = new RibbonButton(ElementName(ScreenText(array), ribbon.index),
-                                  ScreenText(ribbon.caption), grid.parentWidget());
+                                  ScreenText(ribbon.caption), row.parentWidget());
   button->SetPicture(ScreenText(ribbon.picture));
   button->setToolTip(ScreenText(ribbon.caption));
-  grid.addWidget(button, 0, static_cast<int>(group.buttons().size()), 2, 1);
+  row.addWidget(button);
   group.Add(*button);
   return button;
 }
 
+QHBoxLayout* FrmCTD::MakeRibbonRow(QGroupBox& frame) {
+  auto* row = new QHBoxLayout(&frame);
+  row->setContentsMargins(kGap / 2, kGap / 2, kGap / 2, kGap / 2);
+  row->setSpacing(0);
+  return row;
+}
+
 QGroupBox* FrmCTD::MakeGroup(CtdGroup group, QWidget* parent) {
   const CtdGroupRow& row = kCtdGroups[static_cast<std::size_t>(group)];
-  const auto [frame, grid] = MakeFrame(ScreenText(row.caption), parent);
+  auto* frame = new QGroupBox(ScreenText(row.caption), parent);
   AddInputFrame(*frame);
-  grid->setContentsMargins(kGap / 2, kGap / 2, kGap / 2, kGap / 2);
-  grid->setHorizontalSpacing(0);
+  QHBoxLayout* line = MakeRibbonRow(*frame);
   auto* buttons = new ChoiceGroup(Choice::One, frame);
   for (const CtdRibbon& ribbon : row.ribbons) {
-    RibbonButton* button = AddRibbon(*grid, *buttons, row.objectName, ribbon);
+    RibbonButton* button = AddRibbon(*line, *buttons, row.objectName, ribbon);
     connect(button, &RibbonButton::clicked, this,
             [this, group, index = ribbon.index] { SSRibbon_Click(group, index); });
     ribbons_[static_cast<std::size_t>(group)][ribbon.index] = button;
   }
+  line->addStretch(1);
   return frame;
 }
 
 QWidget* FrmCTD::MakePostureTab() {
-  auto* tab = new QWidget(SSTab1_);
+  auto* tab = new RibbonPage(SSTab1_);
   auto* grid = new QGridLayout(tab);
   grid->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
-  grid->setSpacing(kGap);
-  auto* parts = new QWidget(tab);
+  grid->setHorizontalSpacing(kGap);
+  grid->setVerticalSpacing(kGap / 2);
+  grid->addWidget(MakeBodyParts(tab), 0, 0, kShownSlots * 2 - 1, 1);
+  choosePart_ = new QLabel(ScreenText(kCtdChoosePart), tab);
+  choosePart_->setForegroundRole(QPalette::PlaceholderText);
+  choosePart_->setAlignment(Qt::AlignCenter);
+  grid->addWidget(choosePart_, 0, 1, kShownSlots * 2 - 1, 1);
+  // The frames of all parts have one place, and the room that the largest of them need.
+  for (const CtdBodyPart& part : kCtdBodyParts) {
+    for (int place = 0; place < kShownSlots; ++place) {
+      QGroupBox* frame = MakeSlot(part.shownSlots.at(static_cast<std::size_t>(place)), tab);
+      QSizePolicy policy = frame->sizePolicy();
+      policy.setRetainSizeWhenHidden(true);
+      frame->setSizePolicy(policy);
+      grid->addWidget(frame, 2 * place, 1);
+      grid->setRowStretch(2 * place, kFrameShare);
+    }
+  }
+  grid->setRowStretch(1, kGapShare);
+  grid->setColumnStretch(1, 1);
+  return tab;
+}
+
+QWidget* FrmCTD::MakeBodyParts(QWidget* parent) {
+  auto* parts = new QWidget(parent);
   parts->setObjectName("SSPanel2");
   auto* column = new QVBoxLayout(parts);
   column->setContentsMargins(0, 0, 0, 0);
@@ -196,52 +254,50 @@ QWidget* FrmCTD::MakePostureTab() {
     SSRibbon3_[static_cast<std::size_t>(part)] = button;
   }
   column->addStretch(1);
-  grid->addWidget(parts, 0, 0, kCtdSlotCount + 1, 1);
-  for (int slot = 0; slot < kCtdSlotCount; ++slot) grid->addWidget(MakeSlot(slot, tab), slot, 1);
-  choosePart_ = new QLabel(ScreenText(kCtdChoosePart), tab);
-  choosePart_->setForegroundRole(QPalette::PlaceholderText);
-  choosePart_->setAlignment(Qt::AlignCenter);
-  grid->addWidget(choosePart_, kCtdSlotCount, 1);
-  grid->setColumnStretch(1, 1);
-  grid->setRowStretch(kCtdSlotCount, 1);
-  return tab;
+  return parts;
 }
 
 QGroupBox* FrmCTD::MakeSlot(int slot, QWidget* parent) {
   const CtdSlot& row = kCtdSlots[static_cast<std::size_t>(slot)];
-  const auto [frame, grid] = MakeFrame(ScreenText(row.frameCaption), parent);
+  auto* frame = new QGroupBox(ScreenText(row.frameCaption), parent);
   frame->setObjectName(ElementName("SSFrame3", row.frameSlot));
   SSFrame3_[static_cast<std::size_t>(row.frameSlot)] = frame;
-  grid->setHorizontalSpacing(0);
+  QHBoxLayout* line = MakeRibbonRow(*frame);
   auto* buttons = new ChoiceGroup(Choice::One, frame);
   for (const CtdRibbon& ribbon : row.categories) {
-    RibbonButton* button = AddRibbon(*grid, *buttons, row.objectName, ribbon);
+    RibbonButton* button = AddRibbon(*line, *buttons, row.objectName, ribbon);
     connect(button, &RibbonButton::clicked, this,
             [this, slot, index = ribbon.index] { SSctd_Click(slot, index); });
     categories_[static_cast<std::size_t>(slot)][ribbon.index] = button;
   }
+  line->addSpacing(kGap);
   // The boxes carry the number of the slot that they are stored in, which on the shoulders is the
   // other side's.
+  line->addLayout(MakeSlotNumbers(row.frameSlot, frame));
+  line->addStretch(1);
+  return frame;
+}
+
+QLayout* FrmCTD::MakeSlotNumbers(int slot, QWidget* parent) {
   auto* numbers = new QVBoxLayout;
-  numbers->setContentsMargins(kGap, 0, 0, 0);
-  numbers->setSpacing(kGap / 2);
-  grid->addLayout(numbers, 0, static_cast<int>(row.categories.size()), 2, 1);
-  const int stored = row.frameSlot;
-  const auto addNumber = [&, box = frame](const CtdSlotBox& number) {
-    const auto [inner, innerGrid] = MakeFrame(ScreenText(number.caption), box);
+  numbers->setSpacing(kGap);
+  numbers->addStretch(1);
+  const auto addNumber = [&](const CtdSlotBox& number) {
+    const auto [inner, grid] = MakeFrame(ScreenText(number.caption), parent);
     numbers->addWidget(inner);
-    return AddNumberWithUnit(*innerGrid, ElementName(ScreenText(number.objectName), stored),
+    return AddNumberWithUnit(*grid, ElementName(ScreenText(number.objectName), slot),
                              inner->title(), ScreenText(number.unit));
   };
-  if (stored != kCtdNeckSlot) {
+  if (slot != kCtdNeckSlot) {
     TextBox* box = addNumber(kCtdLoad);
-    connect(box, &TextBox::keyReleased, this, [this, stored] { Text3_KeyUp(stored); });
-    Text3_[stored] = box;
+    connect(box, &TextBox::keyReleased, this, [this, slot] { Text3_KeyUp(slot); });
+    Text3_[slot] = box;
   }
   TextBox* box = addNumber(kCtdDuration);
-  connect(box, &TextBox::keyReleased, this, [this, stored] { Text4_KeyUp(stored); });
-  Text4_[stored] = box;
-  return frame;
+  connect(box, &TextBox::keyReleased, this, [this, slot] { Text4_KeyUp(slot); });
+  Text4_[slot] = box;
+  numbers->addStretch(1);
+  return numbers;
 }
 
 void FrmCTD::loadFromJob() {

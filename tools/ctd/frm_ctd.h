@@ -7,8 +7,10 @@
 #include "tools/ctd/ctd_controls.h"
 #include "widgets/button_states.h"
 
+class QBoxLayout;
 class QGridLayout;
 class QGroupBox;
+class QHBoxLayout;
 class QLabel;
 
 namespace halvane {
@@ -61,10 +63,14 @@ class FrmCTD : public ToolForm {
   QWidget* MakeTaskList();
   QWidget* MakeEffortTab();
   void MakeNumberFrames(QVBoxLayout& column);
+  QLayout* MakeGroups(QWidget* parent);
   QGroupBox* MakeGroup(CtdGroup group, QWidget* parent);
   QWidget* MakePostureTab();
+  QWidget* MakeBodyParts(QWidget* parent);
   QGroupBox* MakeSlot(int slot, QWidget* parent);
-  static RibbonButton* AddRibbon(QGridLayout& grid, ChoiceGroup& group, std::string_view array,
+  QLayout* MakeSlotNumbers(int slot, QWidget* parent);
+  static QHBoxLayout* MakeRibbonRow(QGroupBox& frame);
+  static RibbonButton* AddRibbon(QBoxLayout& row, ChoiceGroup& group, std::string_view array,
                                  const CtdRibbon& ribbon);
   void AddInputFrame(QGroupBox& frame);
   void AddText1(int index, TextBox* box);

@@ -48,7 +48,7 @@ PostureForm::PostureForm(const PostureScreen& screen, std::unique_ptr<PostureCon
 }
 
 QWidget* PostureForm::MakeInputTab(const PostureScreen& screen) {
-  auto* page = new PosturePage(SSTab1_);
+  auto* page = new PosturePage(screen.ribbonRows, SSTab1_);
   page->SetTop(MakeIdentificationWithHand(page));
   for (std::size_t i = 0; i < screen.regions.size(); ++i) {
     AddInputs(screen.regions[i], *page->AddFrame(screen.places[i], screen.regions[i].caption));

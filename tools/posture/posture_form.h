@@ -24,6 +24,7 @@ struct PostureScreen {
   std::string_view reportTab;
   std::span<const PostureRegion> regions;
   std::span<const FramePlace> places;  ///< by region
+  int ribbonRows;                      ///< so many rows of frames on top hold ribbons alone
 };
 
 /// The screen of a tool that looks at the regions of the body: a tab with its controls, made from

@@ -7,6 +7,7 @@
 #include <QRadioButton>
 
 #include "widgets/choice_group.h"
+#include "widgets/heading_label.h"
 #include "widgets/layout.h"
 #include "widgets/ribbon_button.h"
 
@@ -16,22 +17,13 @@ namespace {
 // As low as four rows of frames in a small window ask for.
 constexpr int kPadding = kGap / 2;
 /// Between boxes; options have some room of their own.
-constexpr int kCheckGap = 6;
+constexpr int kCheckGap = 4;
 constexpr int kOptionGap = 3;
 /// What captions beside ribbons may take: of a box that stands alone, and of each of several.
 constexpr int kLinesOfOneCheck = 3;
 constexpr int kLinesOfACheck = 2;
-
-/// The least width in which the text of a label wraps to `lines` lines.
-int WidthForLines(const QLabel& label, int lines) {
-  const QFontMetrics font = label.fontMetrics();
-  const auto boxAt = [&](int width) {
-    return font.boundingRect(0, 0, width, QWIDGETSIZE_MAX, Qt::TextWordWrap, label.text());
-  };
-  int width = boxAt(0).width();  // of the widest word
-  while (boxAt(width).height() > lines * font.lineSpacing()) ++width;
-  return width;
-}
+/// Mark and caption of a box.
+constexpr int kCheckColumns = 2;
 
 }  // namespace
 
@@ -64,7 +56,11 @@ void PostureFrame::MakeFirstRow() {
   checks_->setHorizontalSpacing(kPadding);
   checks_->setVerticalSpacing(kCheckGap);
   row->addWidget(rest, 1, Qt::AlignVCenter);
-  column_->insertLayout(1, row);
+  column_->insertLayout(1, row, 1);
+  // It takes the room above and below itself: so the ribbons of frames side by side stand level,
+  // whatever height the boxes beside them have.
+  column_->setStretch(0, 0);
+  column_->setStretch(column_->count() - 1, 0);
 }
 
 void PostureFrame::BeginGroup(bool oneIsDown) {
@@ -81,8 +77,6 @@ RibbonButton* PostureFrame::AddRibbon(const QString& name, const PictureRibbon& 
   button->setToolTip(ScreenText(ribbon.toolTip));
   // Captions repeat from region to region.
   button->setAccessibleName(title() + " " + caption.trimmed());
-  // Ribbons of all frames have one size, whatever room there is.
-  button->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
   ribbonGroup_->Add(*button);
   ribbons_->addWidget(button);
   return button;
@@ -90,7 +84,7 @@ RibbonButton* PostureFrame::AddRibbon(const QString& name, const PictureRibbon& 
 
 void PostureFrame::AddInput(QWidget* input) {
   MakeFirstRow();
-  ribbons_->addWidget(input);
+  checks_->addWidget(input, checks_->rowCount(), 0, 1, kCheckColumns, Qt::AlignLeft);
 }
 
 QCheckBox* PostureFrame::AddCheck(const QString& name, std::string_view caption) {
@@ -105,7 +99,9 @@ void PostureFrame::KeepChecksLow() {
   // In a small window ribbons get narrower before the boxes beside them get higher than they.
   const auto captions = checks_->parentWidget()->findChildren<QLabel*>();
   const int lines = captions.size() == 1 ? kLinesOfOneCheck : kLinesOfACheck;
-  for (QLabel* caption : captions) caption->setMinimumWidth(WidthForLines(*caption, lines));
+  for (QLabel* caption : captions) {
+    caption->setMinimumWidth(WidthForLines(caption->text(), lines, caption->fontMetrics()));
+  }
 }
 
 QRadioButton* PostureFrame::AddOption(const QString& name, std::string_view caption) {
@@ -120,7 +116,6 @@ void PostureFrame::SetOptionsInARow() { options_->setDirection(QBoxLayout::LeftT
 
 void PostureFrame::AddBelow(QWidget* panel) {
   column_->addWidget(panel);
-  column_->addStretch(1);
 }
 
 }  // namespace halvane

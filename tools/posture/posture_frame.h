@@ -32,7 +32,7 @@ class PostureFrame : public QGroupBox {
   void BeginGroup(bool oneIsDown);
   /// Adds a ribbon to the group begun last.
   RibbonButton* AddRibbon(const QString& name, const PictureRibbon& ribbon);
-  /// Adds an input of another kind behind the ribbons.
+  /// Adds an input of another kind above the boxes.
   void AddInput(QWidget* input);
   /// Adds a tick box under those that stand there.
   QCheckBox* AddCheck(const QString& name, std::string_view caption);

@@ -1,7 +1,8 @@
 #pragma once
 
-#include <QWidget>
 #include <string_view>
+
+#include "widgets/ribbon_page.h"
 
 class QGridLayout;
 class QVBoxLayout;
@@ -23,16 +24,18 @@ struct FramePlace {
 /// The tab with the inputs of a tool that looks at the regions of the body one by one: the row
 /// about the job on top, frames in two columns below. One reads down the left column, then down the
 /// right one; add the frames in that order, since it is the order of the Tab key.
-class PosturePage : public QWidget {
+class PosturePage : public RibbonPage {
   Q_OBJECT
  public:
-  explicit PosturePage(QWidget* parent);
+  /// So many rows on top hold ribbons alone; those below get less high where there is room.
+  PosturePage(int ribbonRows, QWidget* parent);
 
   /// Puts the row about the job in its place.
   void SetTop(QWidget* row);
   PostureFrame* AddFrame(const FramePlace& place, std::string_view caption);
 
  private:
+  int ribbonRows_;
   QVBoxLayout* rows_;
   QGridLayout* frames_;
 };

@@ -26,7 +26,7 @@ static_assert(kPlaces.size() == kRebaRegions.size(), "each frame has its place")
 }  // namespace
 
 FrmREBA::FrmREBA(QWidget* parent)
-    : PostureForm({Tool::Reba, "frmREBA", "REBA Score", kRebaRegions, kPlaces},
+    : PostureForm({Tool::Reba, "frmREBA", "REBA Score", kRebaRegions, kPlaces, 3},
                   std::make_unique<RebaControls>(), parent) {}
 
 void FrmREBA::writeReport(RichText& RichTextBox1) { RebaComputeAndReport(RichTextBox1); }

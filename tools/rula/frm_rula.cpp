@@ -25,7 +25,7 @@ static_assert(kPlaces.size() == kRulaRegions.size(), "each frame has its place")
 }  // namespace
 
 FrmRULA::FrmRULA(QWidget* parent)
-    : PostureForm({Tool::Rula, "frmRULA", "RULA Score", kRulaRegions, kPlaces},
+    : PostureForm({Tool::Rula, "frmRULA", "RULA Score", kRulaRegions, kPlaces, 2},
                   std::make_unique<RulaControls>(), parent) {}
 
 void FrmRULA::writeReport(RichText& RichTextBox1) { RulaComputeAndReport(RichTextBox1); }

@@ -3,7 +3,6 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QMenu>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
@@ -11,6 +10,7 @@
 #include "shell/hand_frame.h"
 #include "tools/strain_index/si_score.h"
 #include "widgets/choice_group.h"
+#include "widgets/heading_label.h"
 #include "widgets/layout.h"
 #include "widgets/ribbon_button.h"
 #include "widgets/rich_text_box.h"
@@ -20,6 +20,11 @@
 namespace halvane {
 namespace {
 
+/// Lines of a heading.
+constexpr int kHeadingLines = 2;
+/// Logical pixels up to which the rows and columns of ribbons grow.
+constexpr int kLargestRow = 112;
+constexpr int kLargestColumn = 240;
 constexpr IdentificationNames kNames{{"Text1(6)"}, {"Text1(5)"}, {"Text1(4)"}, "SSOption5"};
 
 }  // namespace
@@ -45,7 +50,9 @@ QWidget* FrmSI::MakeInputTab() {
     const auto columns = static_cast<int>(SiFrameOf(array).columns.size());
     ratings->addWidget(MakeRibbonFrame(array, tab), columns);
   }
-  column->addLayout(ratings, 1);
+  KeepRowsLevel();
+  column->addLayout(ratings);
+  column->addStretch(1);
   return tab;
 }
 
@@ -62,6 +69,7 @@ QWidget* FrmSI::MakeNumberFrames(QWidget* parent) {
       Text1_[index] = AddNumberRow(*grid, ScreenText(number.label), ElementName("Text1", index));
       connect(Text1_[index], &TextBox::keyReleased, this, [this, index] { Text1_KeyUp(index); });
     }
+    KeepLeft(*grid);
   }
   return frames;
 }
@@ -69,18 +77,15 @@ QWidget* FrmSI::MakeNumberFrames(QWidget* parent) {
 QWidget* FrmSI::MakeRibbonFrame(SiRibbonArray array, QWidget* parent) {
   const SiFrame& frame = SiFrameOf(array);
   const auto [box, grid] = MakeFrame(ScreenText(frame.caption), parent);
+  box->setMaximumWidth(static_cast<int>(frame.columns.size()) * kLargestColumn + 2 * kMargin);
   // No gap between the columns, so that the pressed row is one band.
   grid->setHorizontalSpacing(0);
   grid->setVerticalSpacing(0);
   for (std::size_t c = 0; c < frame.columns.size(); ++c) {
     const SiColumn& column = frame.columns[c];
     const int gridColumn = static_cast<int>(c);
-    auto* heading = new QLabel(ScreenText(column.heading), box);
-    heading->setAlignment(Qt::AlignHCenter | Qt::AlignBottom);
-    heading->setWordWrap(true);
+    auto* heading = new HeadingLabel(ScreenText(column.heading), kHeadingLines, box);
     heading->setContentsMargins(kGap / 2, 0, kGap / 2, 0);
-    // Room for two lines everywhere, so that the rows of all frames stand level.
-    heading->setMinimumHeight(2 * heading->fontMetrics().lineSpacing());
     grid->addWidget(heading, 0, gridColumn);
     // One ribbon of a column is down; the arrow keys move within it.
     auto* group = new ChoiceGroup(Choice::One, box);
@@ -89,16 +94,28 @@ QWidget* FrmSI::MakeRibbonFrame(SiRibbonArray array, QWidget* parent) {
       const QString caption = ScreenText(column.captions.at(static_cast<std::size_t>(row)));
       auto* ribbon =
           new RibbonButton(ElementName(ScreenText(frame.objectName), index), caption, box);
+      ribbon->SetLargestHeight(kLargestRow);
       ribbon->setAccessibleName(ScreenText(column.heading) + " " + caption);
       group->Add(*ribbon);
       grid->addWidget(ribbon, row + 1, gridColumn);
-      grid->setRowStretch(row + 1, 1);
       connect(ribbon, &RibbonButton::clicked, this,
               [this, array, index] { SSRibbon_Click(array, index); });
       ribbons_.at(static_cast<std::size_t>(array)).push_back(ribbon);
     }
   }
   return box;
+}
+
+void FrmSI::KeepRowsLevel() {
+  for (const auto& ribbons : ribbons_) {
+    for (RibbonButton* ribbon : ribbons) {
+      for (const auto& others : ribbons_) {
+        for (std::size_t first = 0; first < others.size(); first += kSiRatings) {
+          ribbon->StandLevelWith(*others[first]);
+        }
+      }
+    }
+  }
 }
 
 void FrmSI::loadFromJob() {

@@ -34,6 +34,8 @@ class FrmSI : public ToolForm {
   QWidget* MakeInputTab();
   QWidget* MakeNumberFrames(QWidget* parent);
   QWidget* MakeRibbonFrame(SiRibbonArray array, QWidget* parent);
+  /// Gives the ribbons of all columns one height.
+  void KeepRowsLevel();
   void ShowControls();
 
   SiControls controls_;

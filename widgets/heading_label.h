@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QLabel>
+
+namespace halvane {
+
+/// The heading of a column: wraps to so many lines at most, in the middle and down to the column,
+/// and keeps the room of all of them, so that columns with shorter headings begin at the same
+/// height.
+class HeadingLabel : public QLabel {
+  Q_OBJECT
+ public:
+  HeadingLabel(const QString& text, int lines, QWidget* parent);
+
+  [[nodiscard]] QSize sizeHint() const override { return minimumSizeHint(); }
+  [[nodiscard]] QSize minimumSizeHint() const override;
+  [[nodiscard]] bool hasHeightForWidth() const override { return false; }
+
+ private:
+  int lines_;
+};
+
+/// The least width in which a text wraps to so many lines.
+int WidthForLines(const QString& text, int lines, const QFontMetrics& font);
+
+}  // namespace halvane
