@@ -4,6 +4,8 @@
 #include <QPalette>
 #include <algorithm>
 
+#include "widgets/picture_inks.h"
+
 namespace halvane {
 namespace {
 
@@ -25,6 +27,7 @@ RibbonButton::RibbonButton(const QString& name, const QString& caption, QWidget*
 }
 
 void RibbonButton::SetPicture(const QString& assetName, int size) {
+  picture_ = assetName;
   setIcon(QIcon(":/assets/" + assetName + ".svg"));
   setIconSize({size, size});
 }
@@ -75,13 +78,20 @@ QSize RibbonButton::minimumSizeHint() const {
   return {std::max(width, box.width()) + sides, picture + box.height() + 2 * kPadding};
 }
 
+void RibbonButton::DrawPicture(QPainter& painter, const QRect& place, const QColor& ground) const {
+  const int side = qRound(place.width() * devicePixelRatioF());
+  const QIcon inked(InkedPicture(picture_, ground, side));
+  inked.paint(&painter, place, Qt::AlignCenter, isEnabled() ? QIcon::Normal : QIcon::Disabled);
+}
+
 void RibbonButton::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
   const QPalette::ColorGroup group = isEnabled() ? QPalette::Active : QPalette::Disabled;
   const bool down = isChecked();
   const bool near = underMouse() && isEnabled() && !down;
   const QColor fill = palette().color(group, down ? QPalette::Highlight : QPalette::Button);
-  painter.fillRect(rect(), near ? fill.lighter(108) : fill);
+  const QColor shown = near ? fill.lighter(108) : fill;
+  painter.fillRect(rect(), shown);
   // Lines of whole logical pixels, which end at the edge at every scale.
   const QColor line = palette().color(group, QPalette::Mid);
   painter.fillRect(0, 0, width(), 1, line);
@@ -93,10 +103,10 @@ void RibbonButton::paintEvent(QPaintEvent* /*event*/) {
   if (!icon().isNull()) {
     const QRect place((width() - iconSize().width()) / 2, inside.top(), iconSize().width(),
                       iconSize().width());
-    // The accent of a picture would be lost on the highlight.
-    if (down)
-      painter.fillRect(place.adjusted(-2, -2, 2, 2), palette().color(group, QPalette::Base));
-    icon().paint(&painter, place, Qt::AlignCenter, isEnabled() ? QIcon::Normal : QIcon::Disabled);
+    // The inks of a picture would be lost on the highlight.
+    const QColor ground = down ? palette().color(group, QPalette::Base) : shown;
+    if (down) painter.fillRect(place.adjusted(-2, -2, 2, 2), ground);
+    DrawPicture(painter, place, ground);
     inside.setTop(place.bottom() + kPadding);
   }
   if (oneLine_) inside.adjust(-kPadding, 0, kPadding, 0);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAbstractButton>
+#include <QString>
 
 namespace halvane {
 
@@ -28,7 +29,10 @@ class RibbonButton : public QAbstractButton {
   [[nodiscard]] QString ShownText() const;
   [[nodiscard]] int CaptionFlags() const;
   [[nodiscard]] int CaptionWidth() const;
+  /// Draws the picture into `place`, in the inks that stand out on `ground`.
+  void DrawPicture(QPainter& painter, const QRect& place, const QColor& ground) const;
 
+  QString picture_;  ///< asset name
   bool oneLine_ = false;
 };
 
