@@ -17,7 +17,7 @@ from pictures.chart import (
     YELLOW_GREEN,
     Chart,
 )
-from pictures.figure import BENDING, Pose, SideFigure
+from pictures.figure import TRUNK_SIDE, Pose, SideFigure
 from pictures.hand import forearm_up, hand_above
 from pictures.inks import SIGN_ACCENT, SIGN_FIGURE
 from pictures.svg import Drawing, Frame, number
@@ -155,8 +155,7 @@ def _hand_and_wrist(drawing):
 
 
 def _body_posture(drawing):
-    moving = frozenset({"trunk", "head", "upper_arm", "forearm"})
-    SideFigure(Pose(trunk=33, arm=12, elbow=28, moving=moving), BENDING).draw(drawing)
+    SideFigure(Pose(trunk=33, neck=-8, arm=6, elbow=12), TRUNK_SIDE).draw_trunk(drawing)
 
 
 def ctd_report(title):

@@ -34,7 +34,11 @@ QImage OnCanvas(const QString& asset, int scale) {
   return image;
 }
 
-QImage Picture(const QString& asset) { return OnCanvas(asset, 1).copy(kSide, kSide, kSide, kSide); }
+/// The picture, `scale` pixels a logical pixel.
+QImage Picture(const QString& asset, int scale) {
+  const int side = kSide * scale;
+  return OnCanvas(asset, scale).copy(side, side, side, side);
+}
 
 /// How many pixels of two pictures differ clearly, on white paper.
 int PixelsApart(const QImage& a, const QImage& b) {
@@ -42,8 +46,8 @@ int PixelsApart(const QImage& a, const QImage& b) {
     return 255 - qAlpha(pixel) + part * qAlpha(pixel) / 255;
   };
   int apart = 0;
-  for (int y = 0; y < kSide; ++y) {
-    for (int x = 0; x < kSide; ++x) {
+  for (int y = 0; y < a.height(); ++y) {
+    for (int x = 0; x < a.width(); ++x) {
       const QRgb p = a.pixel(x, y);
       const QRgb q = b.pixel(x, y);
       apart += std::max({std::abs(onWhite(p, qRed(p)) - onWhite(q, qRed(q))),
@@ -89,8 +93,7 @@ TEST(PosturePictures, AreDrawnInInksThatTheProgramKnows) {
   }
   QSet<QString> inks{"#ffffff"};
   for (const PictureInk& ink : PictureInks()) inks << ink.onLight;
-  EXPECT_EQ(seen - inks, QSet<QString>{});
-  EXPECT_TRUE(seen.contains("#0b3296"));
+  EXPECT_EQ(seen, inks);
 }
 
 TEST(PosturePictures, TheGeneratorKnowsTheSameInks) {
@@ -102,7 +105,7 @@ TEST(PosturePictures, TheGeneratorKnowsTheSameInks) {
   for (const PictureInk& ink : PictureInks()) {
     wanted << QString("%1 %2 %3").arg(ink.name, ink.onLight, ink.onDark);
   }
-  wanted << "edge #ffffff #2d2d30";
+  wanted.prepend("edge #ffffff #2d2d30");
   EXPECT_EQ(known, wanted);
 }
 
@@ -138,26 +141,56 @@ TEST(PosturePictures, LeaveTheirGroundClearAndStayInside) {
 }
 
 TEST(PosturePictures, TheLeftSideIsTheMirrorImageOfTheRight) {
+  constexpr int kScale = 4;
   int pairs = 0;
   for (const QString& name : PosturePictures()) {
     if (!name.contains("_right_")) continue;
     ++pairs;
-    const QImage mirrored = Picture(name).mirrored(true, false);
-    const QImage left = Picture(QString(name).replace("_right_", "_left_"));
-    EXPECT_LT(PixelsApart(mirrored, left), 20) << name.toStdString();
-    EXPECT_GT(PixelsApart(Picture(name), left), 300) << name.toStdString();
+    const QImage mirrored = Picture(name, kScale).mirrored(true, false);
+    const QImage left = Picture(QString(name).replace("_right_", "_left_"), kScale);
+    EXPECT_LT(PixelsApart(mirrored, left), 20 * kScale) << name.toStdString();
+    EXPECT_GT(PixelsApart(Picture(name, kScale), left), 300 * kScale * kScale)
+        << name.toStdString();
   }
   EXPECT_EQ(pairs, 11);
 }
 
-TEST(PosturePictures, NoTwoOfARowLookAlike) {
-  const int least = kSide * kSide * 5 / 100;
+/// The grey of the figure alone, without lines, arc and sector.
+QImage Silhouette(const QString& asset) {
+  const QRegularExpression solid("<svg[^>]*>|<g (?:fill|transform)=.*|</g>|</svg>");
+  QString figure;
+  auto elements = solid.globalMatch(ContentOf(SourceFile("assets/" + asset + ".svg")));
+  while (elements.hasNext()) figure += elements.next().captured() + "\n";
+  QSvgRenderer renderer(figure.toUtf8());
+  EXPECT_TRUE(renderer.isValid()) << asset.toStdString();
+  QImage image(kSide, kSide, QImage::Format_Grayscale8);
+  image.fill(Qt::white);
+  QPainter painter(&image);
+  renderer.render(&painter);
+  return image;
+}
+
+/// How many pixels of two pictures differ clearly in grey.
+int GreysApart(const QImage& a, const QImage& b) {
+  int apart = 0;
+  for (int y = 0; y < kSide; ++y) {
+    for (int x = 0; x < kSide; ++x) {
+      apart += std::abs(qGray(a.pixel(x, y)) - qGray(b.pixel(x, y))) > 64;
+    }
+  }
+  return apart;
+}
+
+TEST(PosturePictures, NoTwoOfARowHaveOneSilhouette) {
+  // A twentieth of the picture, five pixels wide along a head. The steps of the neck are the
+  // smallest that captions ask for; they reach it with a head as large as the picture has room for.
+  constexpr int kLeastApart = kSide * kSide / 20;
   const QMap<QString, QStringList> rows = Rows();
   for (auto row = rows.begin(); row != rows.end(); ++row) {
     ASSERT_GE(row->size(), 3) << row.key().toStdString();
     for (qsizetype i = 0; i < row->size(); ++i) {
       for (qsizetype j = 0; j < i; ++j) {
-        EXPECT_GT(PixelsApart(Picture(row->at(i)), Picture(row->at(j))), least)
+        EXPECT_GE(GreysApart(Silhouette(row->at(i)), Silhouette(row->at(j))), kLeastApart)
             << row->at(i).toStdString() << " and " << row->at(j).toStdString();
       }
     }
