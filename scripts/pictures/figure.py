@@ -96,7 +96,7 @@ class SideFigure:
         forward = min(1, max(0, self.pose.neck / 70))
         back = [low + (high - low) * forward for low, high in zip(body.OCCIPUT, body.CREST)]
         return smooth([torso.at(*body.NAPE), bend.at(-4.2, -4.6), head.at(*back),
-                       head.at(0, -12), head.at(*body.JAW), bend.at(3.4, -2.6),
+                       head.at(0, -12), head.at(*body.JAW), bend.at(3.4, -2.6 + 2.4 * forward),
                        torso.at(*body.THROAT), torso.at(-1, -28)])
 
     def head_paths(self):

@@ -106,22 +106,20 @@ def from_side(title, angle, shown=None):
     drawing.solid([polygon([(0.6, y - 5.6), (x, y - 4.2), (x, y + 4.2), (0.6, y + 5.6)]),
                    disc(wrist, 4.2)], FIGURE)
     measure.draw_lines()
-    parts = [(frame.all(joints), [r * frame.scale for r in radii])
-             for joints, radii in [*FINGERS_SIDE[::-1], THUMB_SIDE]]
-    back = smooth(frame.all(BACK_OF_SIDE))
-    drawing.solid([back, *(curl(*part) for part in parts)], ACCENT)
-    for part in parts:
-        drawing.solid([curl(*part)], ACCENT, edge=0.5)
-        if part is parts[1]:
-            drawing.solid([back], ACCENT, edge=0.5)
+    _side_hand(drawing, smooth(frame.all(BACK_OF_SIDE)),
+               [(frame.all(joints), [r * frame.scale for r in radii])
+                for joints, radii in [*FINGERS_SIDE[::-1], THUMB_SIDE]])
     measure.draw_axis()
     return drawing
 
 
-EDGE_HAND = [
-    (-3.4, 1), (-4.8, -4), (-5, -9), (-4.2, -14), (-3.5, -20), (-3.1, -25.6), (-2.2, -28.2),
-    (-0.3, -29.2), (1.6, -28.2), (2.4, -25.6), (2.8, -20), (4, -14), (4.8, -8), (4.4, -3), (3.4, 1),
-]
+def _side_hand(drawing, back, parts):
+    """A hand seen from its thumb's side: fingers under the back of the hand, the thumb above."""
+    drawing.solid([back, *(curl(*part) for part in parts)], ACCENT)
+    for part in parts:
+        drawing.solid([curl(*part)], ACCENT, edge=0.5)
+        if part is parts[-2]:
+            drawing.solid([back], ACCENT, edge=0.5)
 
 
 def turned(title, shows):
@@ -162,14 +160,11 @@ def _turn(drawing, middle, sides):
 
 def thumb_edge(drawing, frame):
     """The straight hand on edge: thumb towards the reader, palm to the left."""
-    hand = smooth(frame.all(EDGE_HAND))
-    thumb = curl(frame.all([(0.9, -2.4), (-2.2, -9), (-6, -14), (-8.4, -19.2)]), [3.5, 3, 2.4, 1.8])
-    drawing.solid([hand], ACCENT)
-    for knuckle in (-14.6, -20.4):
-        drawing.line(polyline(frame.all([(0.4, knuckle), (2.6, knuckle + 0.4)])), EDGE, 0.8)
-    drawing.solid([thumb], ACCENT, edge=0.7)
-    nail = capsule(frame.at(-7.3, -17.2), 1.15, frame.at(-8.2, -18.9), 1.15)
-    drawing.raw(f'<path d="{nail}" fill="{EDGE}" fill-opacity="0.75"/>')
+    def upright(corners):
+        return frame.all([(-y, -x) for x, y in corners])
+
+    _side_hand(drawing, smooth(upright(BACK_OF_SIDE)),
+               [(upright(joints), radii) for joints, radii in [*FINGERS_SIDE[::-1], THUMB_SIDE]])
 
 
 def open_palm(drawing, frame):

@@ -13,7 +13,7 @@ from pictures.svg import PIXELS, arc, disc, number, polar, polyline, sector
 
 DASH = 2.2
 OPEN = 6.0  # degrees that an open sector goes beyond the segment before it fades
-FADING = [(7.0, 0.6), (7.0, 0.3)]  # degrees and opacity of what follows
+FADING = [(4.0, 0.7), (4.0, 0.45), (4.0, 0.2)]  # degrees and opacity of what follows
 
 
 @dataclass(frozen=True)
@@ -99,6 +99,7 @@ class Protractor:
                 raw(f'<path d="{edge}" fill="none" stroke="{GUIDE}" stroke-width="0.7"/>')
         if self.angle:
             path = arc(self.joint, reach.arc, self.direction(0), self.direction(self.angle))
+            raw(f'<path d="{path}" fill="none" stroke="{EDGE}" stroke-width="2.7"/>')
             raw(f'<path id="arc" d="{path}" fill="none" stroke="{ACCENT}" stroke-width="1.3"/>')
 
     def draw_axis(self):
