@@ -120,7 +120,8 @@ def two_point_pinch(title):
 def chuck_pinch(title):
     """A cap between the pads of thumb, index and middle finger; the others lie in the palm."""
     drawing = Drawing(title)
-    _bent(drawing, [(44, 29), (34, 26.4), (32, 31), (37, 33)], [3.3, 3, 2.7, 2.3], FIGURE)
+    _bent(drawing, [(45, 35), (37.4, 36.6)], [3, 2.6], FIGURE)
+    _bent(drawing, [(44, 28.6), (35, 30)], [3.2, 2.8], FIGURE)
     _bent(drawing, [(41, 19), (24.6, 5.6), (13.4, 9), (8.8, 18)], [3.6, 3, 2.5, 2])
     _object(drawing, [disc((12, 27.6), 7.4)])
     _bent(drawing, [(41, 22.6), (29, 12.6), (20.4, 16.2), (16.6, 23)], [3.5, 2.9, 2.4, 1.9])

@@ -22,8 +22,9 @@ SIGN_ACCENT = "#3a72ee"
 SIGN_FIGURE = "#8a8f98"
 
 
-def on_dark(document):
-    """The document in the inks of dark grounds."""
-    for light, dark in INKS.values():
-        document = document.replace(light, dark)
+def on_ground(document, ground, dark):
+    """The document as the program shows it on a ground, a light or a dark one."""
+    document = document.replace(EDGE, ground)
+    for light, other in list(INKS.values())[1:] if dark else ():
+        document = document.replace(light, other)
     return document
