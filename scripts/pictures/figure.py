@@ -27,7 +27,7 @@ class View:
 ARM_SIDE = View(0.72, (24.2, 41))
 ELBOW_SIDE = View(0.82, (19, 44.4))
 TRUNK_SIDE = View(0.56, (21.2, 35.4))
-NECK_SIDE = View(1.34, (20.8, 80.6))
+NECK_SIDE = View(1.34, (22, 81.6))
 LEGS = View(0.82, (24, 10.6))
 LEGS_FRONT = View(0.82, (28, 10.6))
 ARM_FRONT = View(0.68, (40, 40.2))

@@ -65,9 +65,9 @@ def hand_above(drawing, frame, colour=ACCENT, nails=True):
 def from_above(title, angle, shown=None, twisted=False):
     """The hand bent sideways by `angle`: ulnar positive, radial negative; maybe turned too."""
     drawing = Drawing(title.format(abs(angle)))
-    wrist = (28, 41)
-    frame = Frame(wrist, 1.06, angle)
-    reach = Reach(segment=29, sector=36, arc=36, line=38.5)
+    wrist = (28, 42)
+    frame = Frame(wrist, 0.98, angle)
+    reach = Reach(segment=27, sector=37.4, arc=35.6, line=40.4)
     measure = Protractor(drawing, wrist, 0, 1, angle, reach, shown)
     measure.draw_range()
     forearm_up(drawing, wrist)
@@ -91,16 +91,16 @@ FINGERS_SIDE = [
     ([(12, 2), (18.6, 4.4), (24, 6), (27.6, 8)], [2.1, 1.8, 1.6, 1.3]),
 ]
 THUMB_SIDE = ([(3.4, 3), (8.6, 7), (13.6, 9.2), (18.4, 9.8)], [2.9, 2.3, 2, 1.6])
-SIDE_WRIST = (17, 27.8)
+SIDE_WRIST = (17, 28.2)
 
 
 def from_side(title, angle, shown=None):
     """The palm-down hand bent at the wrist by `angle`: flexion positive, extension negative."""
     drawing = Drawing(title.format(abs(angle)))
     wrist = SIDE_WRIST
-    frame = Frame(wrist, 0.96, angle)
+    frame = Frame(wrist, 0.91, angle)
     x, y = wrist
-    reach = Reach(segment=28.5, sector=33.5, arc=33.5, line=36)
+    reach = Reach(segment=27, sector=34.4, arc=33, line=37)
     measure = Protractor(drawing, wrist, 90, 1, angle, reach, shown)
     measure.draw_range()
     drawing.solid([polygon([(0.6, y - 5.6), (x, y - 4.2), (x, y + 4.2), (0.6, y + 5.6)]),

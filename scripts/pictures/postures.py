@@ -62,7 +62,7 @@ def side_trunk(title, angle, shown=None):
     s = TRUNK_SIDE.scale
     elbow = 18 if angle >= 0 else 6
     figure = SideFigure(Pose(trunk=angle, neck=-angle / 4, arm=elbow / 3, elbow=elbow), TRUNK_SIDE)
-    reach = Reach(segment=30 * s, sector=57 * s, arc=57 * s, line=60 * s)
+    reach = Reach(segment=30 * s, sector=58.6 * s, arc=56.6 * s, line=61 * s)
     measure = Protractor(drawing, figure.hip, 0, 1, angle, reach, shown)
     measure.draw_range()
     figure.draw_trunk(drawing, measure.draw_lines)
@@ -75,7 +75,7 @@ def side_neck(title, angle, shown=None):
     drawing = Drawing(title.format(abs(angle)))
     s = NECK_SIDE.scale
     figure = SideFigure(Pose(neck=angle), NECK_SIDE)
-    reach = Reach(segment=20.4 * s, sector=24.2 * s, arc=24.2 * s, line=26.6 * s)
+    reach = Reach(segment=20.4 * s, sector=26 * s, arc=24.8 * s, line=28 * s)
     measure = Protractor(drawing, figure.neck, 0, 1, angle, reach, shown)
     measure.draw_range()
     figure.draw_neck(drawing, measure.draw_lines)

@@ -92,9 +92,10 @@ class Protractor:
         """Reference, limits and arc, which lie under the moving segment."""
         raw, reach = self.drawing.raw, self.reach
         reference_line(self.drawing, self.joint, self.at(reach.line, 0))
+        inner = 0.35 * reach.sector if reach.half else reach.segment
         for limit in () if self.range is None else (self.range.near, self.range.far):
             if limit:
-                edge = polyline([self.at(0.35 * reach.sector, limit),
+                edge = polyline([self.at(inner, limit),
                                  self.at(reach.sector, limit)])
                 raw(f'<path d="{edge}" fill="none" stroke="{GUIDE}" stroke-width="0.7"/>')
         if self.angle:
@@ -107,7 +108,7 @@ class Protractor:
         raw, reach = self.drawing.raw, self.reach
         if self.angle and not reach.half:
             beyond = polyline([self.at(reach.segment, self.angle),
-                               self.at(reach.arc + 1.6, self.angle)])
+                               self.at(reach.sector, self.angle)])
             raw(f'<path d="{beyond}" fill="none" stroke="{ACCENT}" stroke-width="0.9"/>')
         if self.angle and reach.half:
             gap = math.degrees(math.asin(min(1, reach.half / reach.arc)))
