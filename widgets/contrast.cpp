@@ -8,12 +8,7 @@ namespace {
 
 /// A part of a colour, 0 to 1, in proportion to its light.
 double Linear(double part) {
-  return part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
-}
-
-double Luminance(const QColor& color) {
-  return 0.2126 * Linear(color.redF()) + 0.7152 * Linear(color.greenF()) +
-         0.0722 * Linear(color.blueF());
+  return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
 }
 
 /// One of `steps` steps from a colour to black or white.
@@ -25,20 +20,26 @@ QColor Step(const QColor& from, const QColor& to, int step, int steps) {
 
 }  // namespace
 
+double RelativeLuminance(const QColor& color) {
+  return 0.2126 * Linear(color.redF()) + 0.7152 * Linear(color.greenF()) +
+         0.0722 * Linear(color.blueF());
+}
+
 double Contrast(const QColor& one, const QColor& other) {
-  const auto [dark, light] = std::minmax({Luminance(one), Luminance(other)});
+  const auto [dark, light] = std::minmax({RelativeLuminance(one), RelativeLuminance(other)});
   return (light + 0.05) / (dark + 0.05);
 }
 
-QColor FillUnder(const QColor& painted, QColor fill, double contrast) {
+QColor ApartFrom(const QColor& other, QColor color, double contrast) {
   constexpr int kSteps = 64;
   // Towards the side where there is more room.
-  const bool darker = Contrast(painted, Qt::black) >= Contrast(painted, Qt::white);
-  const QColor start = fill;
-  for (int step = 1; step <= kSteps && Contrast(painted, fill) < contrast; ++step) {
-    fill = Step(start, darker ? Qt::black : Qt::white, step, kSteps);
+  const QColor end =
+      Contrast(other, Qt::black) >= Contrast(other, Qt::white) ? Qt::black : Qt::white;
+  const QColor start = color;
+  for (int step = 1; step <= kSteps && Contrast(other, color) < contrast; ++step) {
+    color = Step(start, end, step, kSteps);
   }
-  return fill;
+  return color;
 }
 
 }  // namespace halvane

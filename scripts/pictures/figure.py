@@ -8,10 +8,8 @@ units: a hundred of them are about one body height. The origin is the hip.
 import math
 from dataclasses import dataclass, field, replace
 
+from pictures.inks import ACCENT, EDGE, FIGURE
 from pictures.svg import (
-    ACCENT,
-    EDGE,
-    FIGURE,
     Frame,
     capsule,
     disc,

@@ -3,11 +3,8 @@
 The right hand comes from below with the palm to the reader, so the thumb is on the right.
 """
 
+from pictures.inks import ACCENT, FIGURE, GUIDE, OBJECT
 from pictures.svg import (
-    ACCENT,
-    FIGURE,
-    GUIDE,
-    OBJECT,
     Drawing,
     capsule,
     curl,

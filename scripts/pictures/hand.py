@@ -5,10 +5,8 @@ from above, the thumb of the right hand is on the left.
 """
 
 from pictures.figure import measure
+from pictures.inks import ACCENT, EDGE, FIGURE
 from pictures.svg import (
-    ACCENT,
-    EDGE,
-    FIGURE,
     Drawing,
     Frame,
     capsule,

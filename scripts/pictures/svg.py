@@ -6,11 +6,8 @@ since the desktop program renders no more than that: no elliptical arcs in paths
 
 import math
 
-ACCENT = "#3a72ee"  # the moving segment: 3:1 and more on white and on dark grey
-FIGURE = "#8a8f98"  # everything that stands still
-GUIDE = "#747982"  # reference lines
-OBJECT = "#d3d7dd"  # what a hand holds
-EDGE = "#ffffff"  # thin border that parts limbs and carries the figure on a coloured button
+from pictures.inks import ACCENT, EDGE, GUIDE
+
 EDGE_WIDTH = 0.9
 DASH = 2.2
 

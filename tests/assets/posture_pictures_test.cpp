@@ -1,7 +1,6 @@
 // The pictures on ribbons: one family, each showing what its caption names.
 #include <gtest/gtest.h>
 
-#include <QColor>
 #include <QImage>
 #include <QMap>
 #include <QPainter>
@@ -9,31 +8,18 @@
 #include <QSet>
 #include <QSvgRenderer>
 #include <algorithm>
-#include <cmath>
 #include <span>
 #include <string_view>
 #include <utility>
 
 #include "tests/assets/picture_files.h"
 #include "tools/ctd/ctd_controls.h"
+#include "widgets/picture_inks.h"
 
 namespace halvane {
 namespace {
 
 constexpr int kSide = 56;  // logical pixels of a picture
-
-double Luminance(const QColor& colour) {
-  const auto part = [](double share) {
-    return share <= 0.04045 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
-  };
-  return 0.2126 * part(colour.redF()) + 0.7152 * part(colour.greenF()) +
-         0.0722 * part(colour.blueF());
-}
-
-double Contrast(const QColor& a, const QColor& b) {
-  const auto [low, high] = std::minmax({Luminance(a), Luminance(b)});
-  return (high + 0.05) / (low + 0.05);
-}
 
 /// The picture in the middle of a canvas three times its size, `scale` pixels a logical pixel.
 QImage OnCanvas(const QString& asset, int scale) {
@@ -94,27 +80,36 @@ TEST(PosturePictures, EveryOneStandsInARowOfButtons) {
   EXPECT_EQ(shown, QSet<QString>(drawn.begin(), drawn.end()));
 }
 
-TEST(PosturePictures, EveryColourStandsOutOnWhiteAndOnDarkGrey) {
-  // The border and what a hand holds are light on purpose; on white their outlines carry them.
-  const QSet<QString> light{"#ffffff", "#d3d7dd"};
+TEST(PosturePictures, AreDrawnInInksThatTheProgramKnows) {
   const QRegularExpression colour("#[0-9a-f]{6}");
   QSet<QString> seen;
   for (const QString& name : PosturePictures()) {
     auto hits = colour.globalMatch(ContentOf(SourceFile("assets/" + name + ".svg")));
     while (hits.hasNext()) seen << hits.next().captured();
   }
-  seen -= light;
-  ASSERT_EQ(seen.size(), 3) << "accent, figure, reference line";
-  for (const QString& name : seen) {
-    EXPECT_GE(Contrast(QColor(name), QColor("#ffffff")), 3.0) << name.toStdString();
-    EXPECT_GE(Contrast(QColor(name), QColor("#2d2d30")), 3.0) << name.toStdString();
+  QSet<QString> inks{"#ffffff"};
+  for (const PictureInk& ink : PictureInks()) inks << ink.onLight;
+  EXPECT_EQ(seen - inks, QSet<QString>{});
+  EXPECT_TRUE(seen.contains("#0b3296"));
+}
+
+TEST(PosturePictures, TheGeneratorKnowsTheSameInks) {
+  const QRegularExpression row("\"(\\w+)\": \\(\"(#[0-9a-f]{6})\", \"(#[0-9a-f]{6})\"\\)");
+  QStringList known;
+  auto rows = row.globalMatch(ContentOf(SourceFile("scripts/pictures/inks.py")));
+  while (rows.hasNext()) known << rows.next().capturedTexts().mid(1).join(' ');
+  QStringList wanted;
+  for (const PictureInk& ink : PictureInks()) {
+    wanted << QString("%1 %2 %3").arg(ink.name, ink.onLight, ink.onDark);
   }
+  wanted << "edge #ffffff #2d2d30";
+  EXPECT_EQ(known, wanted);
 }
 
 TEST(PosturePictures, HaveAMovingSegmentAndNoWords) {
   for (const QString& name : PosturePictures()) {
     const QByteArray text = ContentOf(SourceFile("assets/" + name + ".svg"));
-    EXPECT_TRUE(text.contains("<g fill=\"#3a72ee\">")) << name.toStdString();
+    EXPECT_TRUE(text.contains("<g fill=\"#0b3296\">")) << name.toStdString();
     EXPECT_FALSE(text.contains("<text")) << name.toStdString();
   }
 }

@@ -16,6 +16,8 @@
 #include <utility>
 
 #include "widgets/contrast.h"
+#include "widgets/picture_inks.h"
+#include "widgets/ribbon_button.h"
 
 namespace halvane {
 namespace {
@@ -24,9 +26,9 @@ namespace {
 constexpr int kOutside = 2;
 constexpr int kInside = 5;
 /// A part of a picture has at least so much of it; less is an edge between two parts.
-constexpr double kLeastPart = 0.005;
+constexpr double kLeastPart = 0.003;
 /// Pixels of a mixed colour between two parts.
-constexpr int kEdge = 3;
+constexpr int kEdge = 2;
 
 /// The place of a control's own box, in the control.
 QRect BoxOf(const QWidget& control) {
@@ -92,11 +94,20 @@ void CheckAll(QWidget& window, const QImage& image, Findings& findings) {
   }
 }
 
+/// Whether a pixel lies within a part and not on the edge of one, where colours mix.
+bool IsInside(const QImage& picture, int x, int y) {
+  const QRgb pixel = picture.pixel(x, y);
+  return pixel == picture.pixel(x - 1, y) && pixel == picture.pixel(x + 1, y) &&
+         pixel == picture.pixel(x, y - 1) && pixel == picture.pixel(x, y + 1);
+}
+
 /// The colours of a picture that cover a part of it worth its name.
 std::set<QRgb> PartsOf(const QImage& picture) {
   std::map<QRgb, int> counts;
-  for (int y = 0; y < picture.height(); ++y) {
-    for (int x = 0; x < picture.width(); ++x) ++counts[picture.pixel(x, y)];
+  for (int y = 1; y < picture.height() - 1; ++y) {
+    for (int x = 1; x < picture.width() - 1; ++x) {
+      if (IsInside(picture, x, y)) ++counts[picture.pixel(x, y)];
+    }
   }
   std::set<QRgb> parts;
   const double least = kLeastPart * picture.width() * picture.height();
@@ -128,14 +139,21 @@ std::map<std::pair<QRgb, QRgb>, int> BordersOf(const QImage& picture, const std:
   return borders;
 }
 
-/// A button's picture on what it stands on.
-QImage PictureOf(const QAbstractButton& button) {
-  constexpr int kSize = 224;
-  QImage picture(kSize, kSize, QImage::Format_RGB32);
-  picture.fill(button.palette().color(button.isChecked() ? QPalette::Base : QPalette::Button));
-  QPainter painter(&picture);
-  button.icon().paint(&painter, picture.rect());
-  return picture;
+/// A button as it looks, without its edge.
+QImage PictureOf(QAbstractButton& button) {
+  constexpr int kEdgeOfButton = 2;
+  const QImage image = button.grab().toImage().convertToFormat(QImage::Format_RGB32);
+  const int edge = static_cast<int>(kEdgeOfButton * image.devicePixelRatio());
+  return image.copy(image.rect().adjusted(edge, edge, -edge, -edge));
+}
+
+/// Tints that repeat what lines around or beside them show.
+bool IsTint(QRgb color) {
+  const auto inks = PictureInks();
+  return std::any_of(inks.begin(), inks.end(), [color](const PictureInk& ink) {
+    const bool isTint = QString(ink.name) == "range" || QString(ink.name) == "object";
+    return isTint && (color == QColor(ink.onLight).rgb() || color == QColor(ink.onDark).rgb());
+  });
 }
 
 }  // namespace
@@ -151,9 +169,9 @@ Findings CheckOutlines(QWidget& window) {
 }
 
 Findings CheckPictures(QWidget& window) {
-  constexpr int kLeastBorder = 24;
+  constexpr int kLeastBorder = 8;
   Findings findings;
-  for (const auto* button : window.findChildren<QAbstractButton*>()) {
+  for (auto* button : window.findChildren<RibbonButton*>()) {
     if (!button->isVisible() || !button->isEnabled() || button->icon().isNull()) continue;
     const QImage picture = PictureOf(*button);
     for (const auto& [colors, length] : BordersOf(picture, PartsOf(picture))) {
@@ -161,6 +179,7 @@ Findings CheckPictures(QWidget& window) {
       const QColor other = QColor::fromRgb(colors.second);
       const double contrast = Contrast(one, other);
       if (length < kLeastBorder || contrast >= kPartContrast) continue;
+      if (IsTint(colors.first) || IsTint(colors.second)) continue;
       findings.push_back({NameOfControl(*button),
                           QString("has parts of its picture of contrast %1: %2 beside %3")
                               .arg(QString::number(contrast, 'f', 2), one.name(), other.name())});

@@ -8,7 +8,7 @@ namespace halvane {
 /// contrast that WCAG asks for.
 Findings CheckOutlines(QWidget& window);
 
-/// Pictures of buttons with parts that are lost on what they stand on.
+/// Ribbons with parts of their pictures that are lost on what they touch.
 Findings CheckPictures(QWidget& window);
 
 }  // namespace halvane

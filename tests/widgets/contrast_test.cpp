@@ -29,18 +29,18 @@ TEST(Contrast, IsTheRatioOfLuminances) {
   }
 }
 
-TEST(Contrast, AFillGoesNoFurtherFromItsColorThanItHasTo) {
-  EXPECT_EQ(FillUnder(Qt::white, QColor(0, 80, 160)), QColor(0, 80, 160));
+TEST(Contrast, AColorGoesNoFurtherThanItHasTo) {
+  EXPECT_EQ(ApartFrom(Qt::white, QColor(0, 80, 160)), QColor(0, 80, 160));
   for (const QColor& painted : {QColor(Qt::white), QColor(Qt::black), QColor(26, 235, 255)}) {
     for (const QColor& fill : {QColor(48, 140, 198), QColor(42, 130, 218), QColor(150, 150, 150),
                                QColor(90, 0, 90), QColor(Qt::white), QColor(Qt::black)}) {
-      const double contrast = Contrast(painted, FillUnder(painted, fill));
+      const double contrast = Contrast(painted, ApartFrom(painted, fill));
       EXPECT_GE(contrast, kTextContrast) << fill.name().toStdString();
       if (Contrast(painted, fill) >= kTextContrast) continue;
       EXPECT_LT(contrast, kTextContrast + 0.5) << fill.name().toStdString();
     }
   }
-  EXPECT_GE(Contrast(Qt::white, FillUnder(Qt::white, QColor(200, 200, 200), kPartContrast)), 3);
+  EXPECT_GE(Contrast(Qt::white, ApartFrom(Qt::white, QColor(200, 200, 200), kPartContrast)), 3);
 }
 
 }  // namespace
