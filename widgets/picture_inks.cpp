@@ -5,7 +5,8 @@
 #include <QPixmapCache>
 #include <QSvgRenderer>
 #include <array>
-#include <cmath>
+
+#include "widgets/contrast.h"
 
 namespace halvane {
 namespace {
@@ -28,14 +29,6 @@ constexpr double kDarkGround = 0.179;
 }  // namespace
 
 std::span<const PictureInk> PictureInks() { return kInks; }
-
-double RelativeLuminance(const QColor& colour) {
-  const auto linear = [](double share) {
-    return share <= 0.04045 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
-  };
-  return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
-         0.0722 * linear(colour.blueF());
-}
 
 QByteArray InkedDrawing(QByteArray svg, const QColor& ground) {
   // First, since an ink of dark grounds is the colour of the edge.

@@ -18,9 +18,6 @@ struct PictureInk {
 /// The inks, but for the one that parts what touches: that is the ground's own colour.
 [[nodiscard]] std::span<const PictureInk> PictureInks();
 
-/// How light the eye finds a colour, from 0 (black) to 1 (white), as WCAG 2 measures it.
-[[nodiscard]] double RelativeLuminance(const QColor& colour);
-
 /// The drawing in the inks that stand out on `ground`.
 [[nodiscard]] QByteArray InkedDrawing(QByteArray svg, const QColor& ground);
 

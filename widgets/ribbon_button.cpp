@@ -130,6 +130,13 @@ QColor RibbonButton::TextColor() const {
   return palette().color(Group(), isChecked() ? QPalette::HighlightedText : QPalette::ButtonText);
 }
 
+QColor RibbonButton::Fill() const {
+  const bool near = underMouse() && isEnabled() && !isChecked();
+  const QColor fill =
+      palette().color(Group(), isChecked() ? QPalette::Highlight : QPalette::Button);
+  return near ? fill.lighter(108) : fill;
+}
+
 void RibbonButton::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
   PaintGround(painter);
@@ -147,15 +154,8 @@ void RibbonButton::paintEvent(QPaintEvent* /*event*/) {
   if (hasFocus()) PaintFocus(painter);
 }
 
-QColor RibbonButton::GroundColor() const {
-  const bool near = underMouse() && isEnabled() && !isChecked();
-  const QColor fill =
-      palette().color(Group(), isChecked() ? QPalette::Highlight : QPalette::Button);
-  return near ? fill.lighter(108) : fill;
-}
-
 void RibbonButton::PaintGround(QPainter& painter) const {
-  painter.fillRect(rect(), GroundColor());
+  painter.fillRect(rect(), Fill());
   // Lines of whole logical pixels, which end at the edge at every scale.
   const QColor line = palette().color(Group(), QPalette::Mid);
   painter.fillRect(0, 0, width(), 1, line);
@@ -166,16 +166,17 @@ void RibbonButton::PaintGround(QPainter& painter) const {
 
 void RibbonButton::PaintPicture(QPainter& painter, QPoint corner) const {
   // The inks of a picture would be lost on the highlight.
-  const QColor ground = isChecked() ? palette().color(Group(), QPalette::Base) : GroundColor();
+  const QColor ground = isChecked() ? palette().color(Group(), QPalette::Base) : Fill();
   if (isChecked()) {
     const QRect place = QRect(corner, iconSize()).adjusted(-kEdge, -kEdge, kEdge, kEdge);
     const QRect inside = rect().adjusted(kEdge, kEdge, -kEdge, -kEdge);
     painter.fillRect(place.intersected(inside), ground);
   }
-  const qreal ratio = painter.device()->devicePixelRatio();
-  QPixmap picture = InkedPicture(picture_, ground, qRound(iconSize().width() * ratio));
+  const double ratio = painter.device()->devicePixelRatio();
+  const QIcon inked(InkedPicture(picture_, ground, qRound(iconSize().width() * ratio)));
+  QPixmap picture =
+      inked.pixmap(iconSize() * ratio, 1.0, isEnabled() ? QIcon::Normal : QIcon::Disabled);
   picture.setDevicePixelRatio(ratio);
-  if (!isEnabled()) picture = QIcon(picture).pixmap(iconSize(), ratio, QIcon::Disabled);
   // Between two device pixels it would blur.
   const QTransform toDevice = painter.deviceTransform();
   const QPointF pixel = toDevice.map(QPointF(corner)).toPoint();

@@ -50,11 +50,12 @@ class RibbonButton : public QAbstractButton {
   [[nodiscard]] int CaptionRoom(int buttonWidth) const;
 
   void PaintGround(QPainter& painter) const;
+  /// Draws the picture in the inks that stand out on what it lies on.
   void PaintPicture(QPainter& painter, QPoint corner) const;
   void PaintFocus(QPainter& painter) const;
   [[nodiscard]] QPalette::ColorGroup Group() const;
-  [[nodiscard]] QColor GroundColor() const;
   [[nodiscard]] QColor TextColor() const;
+  [[nodiscard]] QColor Fill() const;
 
   QString picture_;  ///< asset name
   bool oneLine_ = false;

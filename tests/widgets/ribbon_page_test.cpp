@@ -165,10 +165,9 @@ TEST_F(Ribbons, PictureIsDrawnInTheSizeThatItHas) {
   const QPoint corner(8, (ribbons[0]->height() - 112 - 4 - 2 * page.fontMetrics().height()) / 2);
   const QImage drawn = ribbons[0]->grab().toImage();
   QImage expected(112, 112, QImage::Format_RGB32);
-  const QColor ground = drawn.pixelColor(3, 3);
-  expected.fill(ground);
+  expected.fill(drawn.pixelColor(3, 3));
   QPainter painter(&expected);
-  painter.drawPixmap(0, 0, InkedPicture("ctd/deviation_neutral", ground, 112));
+  painter.drawPixmap(0, 0, InkedPicture("ctd/deviation_neutral", drawn.pixelColor(3, 3), 112));
   // Pixel for pixel, so it is not a small picture that was stretched.
   EXPECT_EQ(drawn.copy(QRect(corner, QSize(112, 112))).convertToFormat(QImage::Format_RGB32),
             expected);
