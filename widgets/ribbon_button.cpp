@@ -5,6 +5,8 @@
 #include <QPalette>
 #include <algorithm>
 
+#include "widgets/picture_inks.h"
+
 namespace halvane {
 namespace {
 
@@ -28,6 +30,7 @@ RibbonButton::RibbonButton(const QString& name, const QString& caption, QWidget*
 }
 
 void RibbonButton::SetPicture(const QString& assetName, int size) {
+  picture_ = assetName;
   setIcon(QIcon(":/assets/" + assetName + ".svg"));
   setIconSize({size, size});
   setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
@@ -152,6 +155,13 @@ QColor RibbonButton::TextColor() const {
   return palette().color(Group(), isChecked() ? QPalette::HighlightedText : QPalette::ButtonText);
 }
 
+QColor RibbonButton::Fill() const {
+  const bool near = underMouse() && isEnabled() && !isChecked();
+  const QColor fill =
+      palette().color(Group(), isChecked() ? QPalette::Highlight : QPalette::Button);
+  return near ? fill.lighter(108) : fill;
+}
+
 void RibbonButton::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
   PaintGround(painter);
@@ -170,10 +180,7 @@ void RibbonButton::paintEvent(QPaintEvent* /*event*/) {
 }
 
 void RibbonButton::PaintGround(QPainter& painter) const {
-  const bool near = underMouse() && isEnabled() && !isChecked();
-  const QColor fill =
-      palette().color(Group(), isChecked() ? QPalette::Highlight : QPalette::Button);
-  painter.fillRect(rect(), near ? fill.lighter(108) : fill);
+  painter.fillRect(rect(), Fill());
   // Lines of whole logical pixels, which end at the edge at every scale.
   const QColor line = palette().color(Group(), QPalette::Mid);
   painter.fillRect(0, 0, width(), 1, line);
@@ -183,14 +190,18 @@ void RibbonButton::PaintGround(QPainter& painter) const {
 }
 
 void RibbonButton::PaintPicture(QPainter& painter, QPoint corner) const {
-  // The accent of a picture would be lost on the highlight.
+  // The inks of a picture would be lost on the highlight.
+  const QColor ground = isChecked() ? palette().color(Group(), QPalette::Base) : Fill();
   if (isChecked()) {
     const QRect place = QRect(corner, iconSize()).adjusted(-kEdge, -kEdge, kEdge, kEdge);
     const QRect inside = rect().adjusted(kEdge, kEdge, -kEdge, -kEdge);
-    painter.fillRect(place.intersected(inside), palette().color(Group(), QPalette::Base));
+    painter.fillRect(place.intersected(inside), ground);
   }
-  const QPixmap picture = icon().pixmap(iconSize(), painter.device()->devicePixelRatio(),
-                                        isEnabled() ? QIcon::Normal : QIcon::Disabled);
+  const double ratio = painter.device()->devicePixelRatio();
+  const QIcon inked(InkedPicture(picture_, ground, qRound(iconSize().width() * ratio)));
+  QPixmap picture =
+      inked.pixmap(iconSize() * ratio, 1.0, isEnabled() ? QIcon::Normal : QIcon::Disabled);
+  picture.setDevicePixelRatio(ratio);
   // Between two device pixels it would blur.
   const QTransform toDevice = painter.deviceTransform();
   const QPointF pixel = toDevice.map(QPointF(corner)).toPoint();

@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QPointer>
+#include <QString>
 #include <vector>
 
 namespace halvane {
@@ -62,11 +63,14 @@ class RibbonButton : public QAbstractButton {
   [[nodiscard]] int CaptionRoom() const;
 
   void PaintGround(QPainter& painter) const;
+  /// Draws the picture in the inks that stand out on what it lies on.
   void PaintPicture(QPainter& painter, QPoint corner) const;
   void PaintFocus(QPainter& painter) const;
   [[nodiscard]] QPalette::ColorGroup Group() const;
   [[nodiscard]] QColor TextColor() const;
+  [[nodiscard]] QColor Fill() const;
 
+  QString picture_;  ///< asset name
   bool oneLine_ = false;
   int largestHeight_ = 0;
   std::vector<QPointer<const RibbonButton>> neighbours_;

@@ -8,7 +8,8 @@ import subprocess
 import sys
 from html import escape
 
-from pictures import png
+from pictures import inks, png
+from pictures.svg import PIXELS
 
 # Sheet, and which pictures of the assets folder stand on it, in this order.
 SHEETS = {
@@ -20,7 +21,10 @@ SHEETS = {
     "charts": ["ocra/*", "strain_index/*", "ctd/report.svg", "hal/*"],
 }
 KINDS = {".svg": "image/svg+xml", ".png": "image/png", ".jpg": "image/jpeg"}
-GROUNDS = {"light": ("#ffffff", "#202124"), "dark": ("#2d2d30", "#e8eaed")}
+# Ground, ink of the words on it, whether it is a dark one.
+WHITE, BUTTON, DARK = (("#ffffff", "#202124", False), ("#efefef", "#202124", False),
+                       ("#2d2d30", "#e8eaed", True))
+ON_BUTTONS = ("ctd", "rula", "reba")  # sheets of what the program shows on buttons
 SCALES = (1, 2)
 MOST_BYTES = 500_000  # of a sheet
 
@@ -88,7 +92,7 @@ def checksum(assets, patterns):
     return total.hexdigest()
 
 
-def _pictures(assets, patterns, scale):
+def _pictures(assets, patterns, scale, ground, dark):
     for path in files_of(assets, patterns):
         # At each scale the picture that the window takes there.
         if path.parent.name == "main_window" and path.suffix == ".png":
@@ -98,6 +102,8 @@ def _pictures(assets, patterns, scale):
         width, height = _size_of(path, data)
         if path.name in ("hand.png", "hand@2x.png"):
             data = _masked(path)
+        if (width, height) == (PIXELS, PIXELS):
+            data = inks.on_ground(data.decode(), ground, dark).encode()
         if path.suffix == ".svg":
             # Taken as it is, a drawing would be enlarged from its pixels at 100 %.
             data, kind = _rendered(data, scale), KINDS[".png"]
@@ -177,8 +183,9 @@ def make_sheets(assets, folder):
         comment = "sha256 of the pictures: " + checksum(assets, patterns)
         for scale in SCALES:
             elements, top = [], 0
-            pictures = list(_pictures(assets, patterns, scale))
-            for ground, ink in GROUNDS.values():
+            grounds = (WHITE, BUTTON, DARK) if name in ON_BUTTONS else (WHITE, DARK)
+            for ground, ink, dark in grounds:
+                pictures = list(_pictures(assets, patterns, scale, ground, dark))
                 block, height = _block(pictures, top, ground, ink)
                 elements += block
                 top += height

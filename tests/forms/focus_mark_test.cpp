@@ -1,31 +1,15 @@
 // Whoever works without a mouse sees where they are.
 #include <QImage>
 #include <QTest>
-#include <algorithm>
-#include <cmath>
 
 #include "tests/forms/every_window.h"
+#include "widgets/contrast.h"
 
 namespace halvane {
 namespace {
 
 /// A mark may stand around a control.
 constexpr int kAround = 3;
-
-double Linear(int value) {
-  const double part = value / 255.0;
-  return part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
-}
-
-double Luminance(const QColor& color) {
-  return 0.2126 * Linear(color.red()) + 0.7152 * Linear(color.green()) +
-         0.0722 * Linear(color.blue());
-}
-
-double Contrast(const QColor& one, const QColor& other) {
-  const auto [dark, light] = std::minmax({Luminance(one), Luminance(other)});
-  return (light + 0.05) / (dark + 0.05);
-}
 
 /// How many pixels of a place differ so much that the eye sees it.
 int SeenChanges(const QImage& before, const QImage& after, const QRect& place) {

@@ -10,6 +10,7 @@
 #include <algorithm>
 
 #include "widgets/choice_group.h"
+#include "widgets/picture_inks.h"
 #include "widgets/ribbon_button.h"
 
 namespace halvane {
@@ -192,7 +193,7 @@ TEST_F(Ribbons, PictureIsDrawnInTheSizeThatItHas) {
   QImage expected(112, 112, QImage::Format_RGB32);
   expected.fill(drawn.pixelColor(3, 3));
   QPainter painter(&expected);
-  painter.drawPixmap(0, 0, QIcon(":/assets/ctd/deviation_neutral.svg").pixmap(112, 112));
+  painter.drawPixmap(0, 0, InkedPicture("ctd/deviation_neutral", drawn.pixelColor(3, 3), 112));
   // Pixel for pixel, so it is not a small picture that was stretched.
   EXPECT_EQ(drawn.copy(QRect(corner, QSize(112, 112))).convertToFormat(QImage::Format_RGB32),
             expected);
