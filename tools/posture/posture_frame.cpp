@@ -79,8 +79,6 @@ RibbonButton* PostureFrame::AddRibbon(const QString& name, const PictureRibbon& 
   button->SetPicture(ScreenText(ribbon.picture));
   button->SetOneLine();
   button->setToolTip(ScreenText(ribbon.toolTip));
-  // Captions repeat from region to region.
-  button->setAccessibleName(title() + " " + caption.trimmed());
   // Ribbons of all frames have one size, whatever room there is.
   button->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
   ribbonGroup_->Add(*button);
@@ -97,6 +95,8 @@ QCheckBox* PostureFrame::AddCheck(const QString& name, std::string_view caption)
   MakeFirstRow();
   QCheckBox* box = AddWrappedCheck(*checks_, name, ScreenText(caption));
   checkGroup_->Add(*box);
+  // Behind the ribbons for screen readers too.
+  checks_->parentWidget()->raise();
   if (ribbons_->count() > 0) KeepChecksLow();
   return box;
 }

@@ -89,7 +89,7 @@ QWidget* FrmSI::MakeRibbonFrame(SiRibbonArray array, QWidget* parent) {
       const QString caption = ScreenText(column.captions.at(static_cast<std::size_t>(row)));
       auto* ribbon =
           new RibbonButton(ElementName(ScreenText(frame.objectName), index), caption, box);
-      ribbon->setAccessibleName(ScreenText(column.heading) + " " + caption);
+      ribbon->setAccessibleName(ScreenText(column.heading) + ", " + caption);
       group->Add(*ribbon);
       grid->addWidget(ribbon, row + 1, gridColumn);
       grid->setRowStretch(row + 1, 1);
