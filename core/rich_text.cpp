@@ -81,10 +81,11 @@ void RichText::EndParagraph(std::string_view lineEnd) {
   paragraphs_.push_back({inForce_, {}, {}});
 }
 
-void RichText::AppendPicture(std::string_view assetName) {
+void RichText::AppendPicture(std::string_view assetName, std::string_view sense) {
   Paragraph& paragraph = paragraphs_.back();
   paragraph.format = inForce_;
-  paragraph.runs.push_back({std::string(kPictureCharacter), font_, std::string(assetName)});
+  paragraph.runs.push_back(
+      {std::string(kPictureCharacter), font_, std::string(assetName), std::string(sense)});
 }
 
 void RichText::FormatSelection(std::size_t start, std::size_t length, CharacterFormat format,

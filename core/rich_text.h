@@ -37,7 +37,8 @@ struct ParagraphFormat {
 struct Run {
   std::string text;  ///< UTF-8 without line ends; a picture's is U+FFFC
   CharacterFormat format;
-  std::string picture;  ///< asset name of a picture, "strain_index/risk_chart"; else empty
+  std::string picture;     ///< asset name of a picture, "strain_index/risk_chart"; else empty
+  std::string sense = {};  ///< what a picture shows, for who does not see it
 
   bool operator==(const Run&) const = default;
 };
@@ -83,8 +84,8 @@ class RichText {
     Append(first);
     (Append(std::string_view(more)), ...);
   }
-  /// Appends a picture as one character.
-  void AppendPicture(std::string_view assetName);
+  /// Appends a picture as one character; `sense` is what it shows in words.
+  void AppendPicture(std::string_view assetName, std::string_view sense = {});
 
   /// How many characters the text has: each of CR and LF is one, a picture is one.
   [[nodiscard]] std::size_t length() const;

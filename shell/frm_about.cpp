@@ -13,6 +13,7 @@
 #include "platform/registry.h"
 #include "widgets/layout.h"
 #include "widgets/product_icon.h"
+#include "widgets/spoken.h"
 
 namespace halvane {
 namespace {
@@ -52,6 +53,7 @@ QLabel* MakeIcon(const QString& name, int size) {
   label->setObjectName(name);
   label->setPixmap(ProductIcon().pixmap(QSize(size, size), label->devicePixelRatioF()));
   label->setFixedSize(size, size);
+  KeepUnspoken(*label);
   return label;
 }
 

@@ -11,6 +11,7 @@
 #include "platform/end_signals.h"
 #include "platform/platform.h"
 #include "shell/held_keys.h"
+#include "widgets/spoken.h"
 
 namespace halvane {
 namespace {
@@ -59,6 +60,7 @@ HalvaneApplication::HalvaneApplication(int& argc, char** argv)
   setApplicationVersion(HALVANE_VERSION);
   setDesktopFileName("halvane-tools");
   installEventFilter(new HeldKeys(this));
+  UseSpokenControls();
 }
 
 HalvaneApplication::~HalvaneApplication() = default;

@@ -18,6 +18,7 @@
 #include "widgets/raised_button.h"
 #include "widgets/ribbon_button.h"
 #include "widgets/splash_picture.h"
+#include "widgets/spoken.h"
 
 namespace halvane {
 namespace {
@@ -77,6 +78,7 @@ void HandMainLook::Arrange(FrmHandMain& form) {
   // Only X11 can cut a window to its outline; elsewhere nothing is seen of what is not painted.
   form.setAttribute(Qt::WA_TranslucentBackground, QApplication::platformName() != "xcb");
   form.SSSplash1_ = new SplashPicture("SSSplash1", "hand", "hand_mask", kSize, &form);
+  KeepUnspoken(*form.SSSplash1_);
   MakeTitleStrip(form);
   MakeOpeningPanel(form);
   // Else the link of the opening panel would have it.

@@ -31,8 +31,8 @@ IdentificationStrip::IdentificationStrip(const IdentificationNames& names, QWidg
 }
 
 TextBox* IdentificationStrip::AddBox(const QString& label, const IdentificationBox& names) {
-  auto* box = new TextBox(names.box, this);
   auto* caption = new QLabel(label, this);
+  auto* box = new TextBox(names.box, this);
   caption->setObjectName(names.label);
   caption->setBuddy(box);
   layout()->addWidget(caption);

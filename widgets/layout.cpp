@@ -7,6 +7,7 @@
 #include <QMouseEvent>
 #include <QSlider>
 
+#include "widgets/spoken.h"
 #include "widgets/text_box.h"
 
 namespace halvane {
@@ -18,6 +19,8 @@ class WrappedCaption : public QLabel {
   WrappedCaption(QCheckBox& box, const QString& caption, QWidget* parent)
       : QLabel(caption, parent), box_(box) {
     setWordWrap(true);
+    // The box has it as its name.
+    KeepUnspoken(*this);
   }
 
  protected:
@@ -65,10 +68,11 @@ TextBox* AddNumberRow(QGridLayout& grid, const QString& label, const QString& bo
 
 TextBox* AddNumberAt(QGridLayout& grid, int row, int column, const QString& label,
                      const QString& boxName) {
+  // A label comes first for who reads on from one control to the next.
+  auto* caption = new QLabel(label, grid.parentWidget());
   auto* box = new TextBox(boxName, grid.parentWidget());
   box->setMinimumWidth(box->fontMetrics().horizontalAdvance('0') * (kNumberDigits + 2));
   box->setMaximumWidth(box->minimumWidth() * 2);
-  auto* caption = new QLabel(label, grid.parentWidget());
   caption->setBuddy(box);
   grid.addWidget(caption, row, column);
   grid.addWidget(box, row, column + 1);
@@ -97,6 +101,7 @@ TextBox* AddNumberWithUnit(QGridLayout& grid, const QString& boxName, const QStr
   grid.addWidget(box, row, 0);
   auto* label = new QLabel(unit, grid.parentWidget());
   label->setObjectName(unitName);
+  box->setAccessibleDescription(unit);
   grid.addWidget(label, row, 1);
   grid.setColumnStretch(1, 1);
   return box;

@@ -1,13 +1,17 @@
 #include "widgets/rich_text_box.h"
 
 #include <QAbstractTextDocumentLayout>
+#include <QAccessible>
 #include <QMimeData>
 #include <QPalette>
+#include <QScrollBar>
 #include <QTextBlock>
 #include <QTextCursor>
+#include <QTextLayout>
 #include <algorithm>
 
 #include "widgets/focus_frame.h"
+#include "widgets/report_note.h"
 #include "widgets/report_pictures.h"
 
 namespace halvane {
@@ -15,6 +19,9 @@ namespace {
 
 constexpr double kTwipsPerInch = 1440;
 constexpr int kPaperMargin = 24;
+constexpr auto kNews = "Report computed anew";
+/// A report that is written with each key that is typed is told of behind the last one.
+constexpr int kNewsMilliseconds = 500;
 
 QTextCharFormat CharFormat(const CharacterFormat& format) {
   QTextCharFormat result;
@@ -62,6 +69,9 @@ RichTextBox::RichTextBox(QWidget* parent) : QTextEdit(parent) {
   setUndoRedoEnabled(false);
   document()->documentLayout()->registerHandler(ReportPictures::kObjectType,
                                                 new ReportPictures(document()));
+  newsDelay_.setSingleShot(true);
+  newsDelay_.setInterval(kNewsMilliseconds);
+  connect(&newsDelay_, &QTimer::timeout, this, &RichTextBox::TellNews);
 }
 
 void RichTextBox::OpenToTyping() {
@@ -72,6 +82,7 @@ void RichTextBox::OpenToTyping() {
 void RichTextBox::ShowReport(const RichText& report) {
   // A report is nothing that the user could undo.
   setUndoRedoEnabled(false);
+  ForgetNotes();
   document()->clear();
   QTextCursor cursor(document());
   // One layout of the whole instead of one for each piece.
@@ -89,7 +100,7 @@ void RichTextBox::ShowReport(const RichText& report) {
       if (run.picture.empty()) {
         cursor.insertText(QString::fromStdString(run.text), CharFormat(run.format));
       } else {
-        ReportPictures::Insert(cursor, QString::fromStdString(run.picture));
+        InsertPicture(cursor, run);
       }
     }
   }
@@ -97,6 +108,50 @@ void RichTextBox::ShowReport(const RichText& report) {
   setUndoRedoEnabled(!isReadOnly());
   Select(0, 0);
   ensureCursorVisible();
+  // A pane that is cleared is no news.
+  if (!document()->isEmpty()) newsDelay_.start();
+}
+
+void RichTextBox::InsertPicture(QTextCursor& cursor, const Run& run) {
+  QTextCursor place(cursor);
+  place.setKeepPositionOnInsert(true);
+  ReportPictures::Insert(cursor, QString::fromStdString(run.picture));
+  pictures_.push_back(new ReportNote(*this, QString::fromStdString(run.sense), place));
+}
+
+void RichTextBox::ForgetNotes() {
+  newsDelay_.stop();
+  for (const ReportNote* note : notes()) delete note;
+  pictures_.clear();
+  news_ = nullptr;
+}
+
+void RichTextBox::TellNews() {
+  if (!isVisible()) return;
+  news_ = new ReportNote(*this, tr(kNews));
+  // A screen reader speaks a notification when it shows, wherever the focus is; of changes of a
+  // text it speaks only what the user does where the focus is.
+  QAccessibleEvent shown(news_, QAccessible::ObjectShow);
+  QAccessible::updateAccessibility(&shown);
+}
+
+QList<ReportNote*> RichTextBox::notes() const {
+  QList<ReportNote*> notes(pictures_.begin(), pictures_.end());
+  if (news_ != nullptr) notes.append(news_);
+  return notes;
+}
+
+QRect RichTextBox::PlaceOf(int position) const {
+  const QTextBlock paragraph = document()->findBlock(position);
+  // Asked first, since that lays out the paragraph.
+  const QRectF place = document()->documentLayout()->blockBoundingRect(paragraph);
+  const int within = position - paragraph.position();
+  const QTextLine line = paragraph.layout()->lineForTextPosition(within);
+  if (!line.isValid()) return {};
+  const double left = line.cursorToX(within);
+  const QRectF character(left, line.y(), line.cursorToX(within + 1) - left, line.height());
+  const QPointF scrolled(horizontalScrollBar()->value(), verticalScrollBar()->value());
+  return character.translated(place.topLeft() - scrolled).toAlignedRect();
 }
 
 void RichTextBox::Select(int start, int length) {

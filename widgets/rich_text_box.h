@@ -1,14 +1,19 @@
 #pragma once
 
 #include <QTextEdit>
+#include <QTimer>
+#include <vector>
 
 #include "core/rich_text.h"
 
 namespace halvane {
 
+class ReportNote;
+
 /// The report pane on screen: shows a `RichText` as black on white paper, in light and dark
 /// palettes alike, since that is how it prints. Nobody types in it unless it is opened to typing.
-/// Its frame shows the focus.
+/// Its frame shows the focus. Screen readers find the sense of its pictures in it, and are told of
+/// a report that takes the place of another one.
 class RichTextBox : public QTextEdit {
   Q_OBJECT
  public:
@@ -27,9 +32,25 @@ class RichTextBox : public QTextEdit {
   /// The selected text, a line a paragraph, without the characters that stand for pictures.
   [[nodiscard]] QString SelectedText() const;
 
+  /// What the pictures show, in the order in which they stand.
+  [[nodiscard]] const std::vector<ReportNote*>& pictures() const { return pictures_; }
+  /// The same, and the news that the report is another one, where there is any.
+  [[nodiscard]] QList<ReportNote*> notes() const;
+  /// The place of a character in the viewport, a picture's as large as the picture.
+  [[nodiscard]] QRect PlaceOf(int position) const;
+
  protected:
   bool event(QEvent* event) override;
   [[nodiscard]] QMimeData* createMimeDataFromSelection() const override;
+
+ private:
+  void InsertPicture(QTextCursor& cursor, const Run& run);
+  void ForgetNotes();
+  void TellNews();
+
+  std::vector<ReportNote*> pictures_;
+  ReportNote* news_ = nullptr;
+  QTimer newsDelay_;
 };
 
 }  // namespace halvane

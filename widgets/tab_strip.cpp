@@ -5,6 +5,7 @@
 #include <QTabBar>
 #include <functional>
 
+#include "widgets/spoken.h"
 #include "widgets/text_box.h"
 
 namespace halvane {
@@ -47,6 +48,14 @@ TabStrip::TabStrip(const QString& name, QWidget* parent) : QTabWidget(parent) {
 void TabStrip::keyPressEvent(QKeyEvent* event) {
   // The toolkit's own Ctrl+Tab, which a key that is held down would still come to.
   event->ignore();
+}
+
+void TabStrip::tabInserted(int tab) {
+  QTabWidget::tabInserted(tab);
+  const QString name = SpokenCaption(tabText(tab));
+  tabBar()->setAccessibleTabName(tab, name);
+  QWidget* page = widget(tab);
+  if (page->accessibleName().isEmpty()) page->setAccessibleName(name);
 }
 
 void TabStrip::Go(int step) {

@@ -7,7 +7,7 @@ namespace halvane {
 /// The tabs of a form. Tells of every click on a tab, also on the one that is showing, so that a
 /// report can be written again where it stands. Ctrl+Tab and Ctrl+Shift+Tab go to the next and the
 /// previous tab that is enabled, round the ends, from wherever in its window the focus is. The
-/// mouse wheel does not change tabs.
+/// mouse wheel does not change tabs. A page is spoken by the name of its tab.
 class TabStrip : public QTabWidget {
   Q_OBJECT
  public:
@@ -19,6 +19,7 @@ class TabStrip : public QTabWidget {
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
+  void tabInserted(int tab) override;
 
  private:
   /// Shows the nearest enabled tab so many steps on.

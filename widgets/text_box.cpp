@@ -104,10 +104,19 @@ void TextBox::TellOfRelease() {
 }
 
 void TextBox::inputMethodEvent(QInputMethodEvent* event) {
-  const bool commits = !event->commitString().isEmpty();
+  const bool commits = !event->commitString().isEmpty() || event->replacementLength() > 0;
   QLineEdit::inputMethodEvent(event);
   // The keys went to the input method, so no release tells of this text.
   if (commits && !isReadOnly()) TellOfRelease();
+}
+
+QRect TextBox::PlaceOfCharacter(int position) const {
+  const auto wayTo = [this](int place) {
+    return fontMetrics().horizontalAdvance(text().left(place));
+  };
+  const QRect caret = cursorRect();
+  const int left = caret.center().x() + wayTo(position) - wayTo(cursorPosition());
+  return {left, caret.top(), wayTo(position + 1) - wayTo(position), caret.height()};
 }
 
 void TextBox::focusInEvent(QFocusEvent* event) {

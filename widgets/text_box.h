@@ -30,6 +30,9 @@ class TextBox : public QLineEdit {
   /// changes what the boxes show.
   static void CountKeysDown();
 
+  /// The place of a character in the box.
+  [[nodiscard]] QRect PlaceOfCharacter(int position) const;
+
  signals:
   void keyReleased();
 

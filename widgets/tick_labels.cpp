@@ -7,6 +7,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "widgets/spoken.h"
+
 namespace halvane {
 namespace {
 
@@ -20,6 +22,8 @@ TickLabels::TickLabels(const QSlider& slider, QStringList numbers, QStringList w
                        QWidget* parent)
     : QWidget(parent), slider_(slider), numbers_(std::move(numbers)), words_(std::move(words)) {
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+  // The slider tells where it stands.
+  KeepUnspoken(*this);
 }
 
 QSize TickLabels::sizeHint() const {

@@ -9,6 +9,8 @@
 #include <array>
 #include <cmath>
 #include <limits>
+#include <set>
+#include <string_view>
 #include <vector>
 
 #include "core/job_state.h"
@@ -19,6 +21,7 @@
 #include "tools/hal/hal_controls.h"
 #include "tools/ocra/ocra_report.h"
 #include "tools/ocra/ocra_score.h"
+#include "tools/report_charts.h"
 
 namespace halvane {
 namespace {
@@ -232,6 +235,53 @@ TEST(HalForceScalePicture, HasTheTicksAndWordsOfTheScaleAtTheirPlaces) {
     there.clear();
   }
   for (const QStringList& left : texts) EXPECT_EQ(left, QStringList());
+}
+
+QString Text(std::string_view text) {
+  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+std::set<QString> NumbersIn(const QString& text) {
+  static const QRegularExpression kNumber(R"(\d+([.,]\d+)*)");
+  std::set<QString> numbers;
+  for (auto found = kNumber.globalMatch(text); found.hasNext();) {
+    numbers.insert(found.next().captured());
+  }
+  return numbers;
+}
+
+/// What is spoken of a chart in place of it.
+TEST(ReportCharts, AreToldByTheirTitlesAndNumbers) {
+  for (const ReportChart& row : kReportCharts) {
+    const QString asset = Text(row.assetName);
+    const QString sense = Text(row.sense);
+    SCOPED_TRACE(asset.toStdString());
+    const Chart chart = ChartOf(asset);
+    EXPECT_TRUE(sense.startsWith(chart.words.first() + ": "));
+    std::set<QString> shown = NumbersIn(chart.words.join(' '));
+    // Where an axis begins.
+    if (asset == "ocra/zones") shown.erase("0.0");
+    if (asset == "strain_index/risk_chart") shown.erase("0");
+    EXPECT_GE(shown.size(), 3U);
+    EXPECT_EQ(NumbersIn(sense), shown);
+  }
+}
+
+/// The sense of the multipliers says them in the order of the bars.
+TEST(ReportCharts, TheMultipliersAreToldBarByBar) {
+  const QString sense = Text(kReportCharts[1].sense);
+  for (int halves = 1; halves <= 10; ++halves) {
+    const double rating = halves / 2.0;
+    const std::string said = PlainText(ForceMultiplierOf(rating)) +
+                             (halves == 1 ? " up to " : " at ") +
+                             Format(rating, Pattern::OneDecimal);
+    EXPECT_TRUE(sense.contains(QString::fromStdString(said))) << said;
+  }
+  for (int hours = 0; hours <= 8; ++hours) {
+    const std::string said =
+        PlainText(RecoveryMultiplierOf(hours)) + " at " + std::to_string(hours);
+    EXPECT_TRUE(sense.contains(QString::fromStdString(said))) << said;
+  }
 }
 
 }  // namespace

@@ -272,7 +272,7 @@ TEST_F(StrainIndexCaptions, RibbonsStandUnderTheirHeadingFromRating1To5) {
     for (int row = 0; row < 5; ++row, ++ribbons) {
       const auto& ribbon = Ribbon(*form, column.array, column.firstIndex + row);
       EXPECT_EQ(ribbon.text(), column.captions.at(row));
-      EXPECT_EQ(ribbon.accessibleName(), QString(column.heading) + " " + column.captions.at(row));
+      EXPECT_EQ(ribbon.accessibleName(), QString(column.heading) + ", " + column.captions.at(row));
       if (above != nullptr) {
         EXPECT_EQ(ribbon.x(), above->x());
         EXPECT_GE(ribbon.y(), above->geometry().bottom());

@@ -6,6 +6,7 @@
 #include "core/task_list.h"
 #include "tools/ctd/ctd_input.h"
 #include "tools/ctd/ctd_score.h"
+#include "tools/report_charts.h"
 #include "tools/report_parts.h"
 
 namespace halvane {
@@ -145,7 +146,7 @@ void CTDprint(RichText& RichTextBox1) {
   RichTextBox1.Append(kNewLine,
                       "(Note: Grand Score is predicted incidence rate per 200,000 worked hours)");
   RichTextBox1.Append(kNewLine, kNewLine);
-  RichTextBox1.AppendPicture("ctd/report");
+  AppendChart(RichTextBox1, "ctd/report");
   RichTextBox1.SetLocked(true);
 }
 

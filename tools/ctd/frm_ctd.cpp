@@ -239,6 +239,7 @@ QWidget* FrmCTD::MakePostureTab() {
 QWidget* FrmCTD::MakeBodyParts(QWidget* parent) {
   auto* parts = new QWidget(parent);
   parts->setObjectName("SSPanel2");
+  parts->setAccessibleName(tr("Body part"));
   auto* column = new QVBoxLayout(parts);
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(0);
@@ -317,6 +318,7 @@ void FrmCTD::loadFromJob() {
   Text2_.at(2)->clear();
   hand().ShowHand(controls_.hand());
   Label2_->setText(ScreenText(CtdSpanUnit()));
+  Text1_.at(6)->setAccessibleDescription(Label2_->text());
   {
     const QSignalBlocker blocker(SSTab1_);
     SSTab1_->setCurrentIndex(0);

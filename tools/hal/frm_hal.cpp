@@ -21,6 +21,7 @@
 #include "widgets/layout.h"
 #include "widgets/mouse_slider.h"
 #include "widgets/rich_text_box.h"
+#include "widgets/spoken.h"
 #include "widgets/text_box.h"
 
 namespace halvane {
@@ -69,6 +70,8 @@ FrmHAL::FrmHAL(QWidget* parent) : ToolForm(Tool::Hal, "frmHAL", kNames, parent) 
   row->addWidget(MakeScrolling(MakeInputs(), this), kInputsShare);
   row->addWidget(&RichTextBox1(), kReportShare);
   body().addLayout(row, 1);
+  // Made before the inputs, it is to be read behind them.
+  RichTextBox1().raise();
 }
 
 QWidget* FrmHAL::MakeInputs() {
@@ -131,11 +134,14 @@ QGroupBox* FrmHAL::MakeLevelFrame(QWidget* parent) {
   Slider1_->setAccessibleName(frame->title());
   Slider1_->setToolTip(ScreenText(kHalLevelTip));
   auto* scale = new LabelledScale(Slider1_, frame);
+  QStringList words(kHalHighestLevel + 1);
   for (int i = 0; const HalMark& mark : kHalLevelMarks) {
+    words[mark.position] = ScreenText(mark.words);
     scale->AddMark(ScreenText(mark.tick), ElementName("Label4", i), ScreenText(mark.words),
                    ElementName("Label5", i));
     ++i;
   }
+  SetSpokenScale(*Slider1_, 1, words);
   grid->addWidget(scale, 0, 0);
   connect(Slider1_, &QSlider::valueChanged, this, &FrmHAL::Slider1_Scroll);
   return frame;
@@ -168,6 +174,7 @@ void FrmHAL::AddLimit(QBoxLayout& row, int element, int captionIndex, int valueI
   QLabel* value = MakeReadout("10.00", SSPanel4_);
   value->setObjectName(ElementName("Label3", valueIndex));
   value->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+  text->setBuddy(value);
   row.addWidget(text);
   row.addWidget(value);
   limits_.at(at) = value;

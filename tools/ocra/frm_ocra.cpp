@@ -21,6 +21,7 @@
 #include "widgets/layout.h"
 #include "widgets/pair_panel.h"
 #include "widgets/rich_text_box.h"
+#include "widgets/spoken.h"
 #include "widgets/tab_strip.h"
 #include "widgets/text_box.h"
 #include "widgets/tick_labels.h"
@@ -150,6 +151,7 @@ QGroupBox* FrmOCRA::MakeForceFrame(QWidget* parent) {
     ticks.append(ScreenText(mark.tick));
     words.append(ScreenText(mark.word));
   }
+  SetSpokenScale(*Slider1_, OcraRatingAt(1) - OcraRatingAt(0), words);
   grid->addWidget(Slider1_, 0, 0);
   grid->addWidget(new TickLabels(*Slider1_, ticks, words, frame), 1, 0);
   rating_ = MakeReadout("0.0", frame);
@@ -203,11 +205,11 @@ QWidget* FrmOCRA::MakeList(int list, QWidget* parent) {
   auto* row = new QHBoxLayout(line);
   row->setContentsMargins(0, 0, 0, 0);
   row->setSpacing(kGap);
+  auto* caption = new QLabel(ScreenText(kOcraLists[at].caption), line);
   auto* combo = new QComboBox(line);
   combo->setObjectName(ElementName("Combo1", list));
   KeepWheelOff(*combo);
   for (const std::string_view answer : kOcraAnswers) combo->addItem(ScreenText(answer));
-  auto* caption = new QLabel(ScreenText(kOcraLists[at].caption), line);
   caption->setBuddy(combo);
   caption->setWordWrap(true);
   row->addWidget(caption, 1);

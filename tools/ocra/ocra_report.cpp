@@ -6,6 +6,7 @@
 #include "core/job_state.h"
 #include "core/task_list.h"
 #include "tools/ocra/ocra_score.h"
+#include "tools/report_charts.h"
 #include "tools/report_parts.h"
 
 namespace halvane {
@@ -135,8 +136,8 @@ void OcraReport(RichText& RichTextBox1) {
   RichTextBox1.Append(kNewLine);
 
   WriteZone(RichTextBox1);
-  RichTextBox1.AppendPicture("ocra/zones");
-  RichTextBox1.AppendPicture("ocra/multipliers");
+  AppendChart(RichTextBox1, "ocra/zones");
+  AppendChart(RichTextBox1, "ocra/multipliers");
   RichTextBox1.SetLocked(true);
 }
 

@@ -75,8 +75,6 @@ RibbonButton* PostureFrame::AddRibbon(const QString& name, const PictureRibbon& 
   button->SetPicture(ScreenText(ribbon.picture));
   button->SetOneLine();
   button->setToolTip(ScreenText(ribbon.toolTip));
-  // Captions repeat from region to region.
-  button->setAccessibleName(title() + " " + caption.trimmed());
   ribbonGroup_->Add(*button);
   ribbons_->addWidget(button);
   return button;
@@ -91,6 +89,8 @@ QCheckBox* PostureFrame::AddCheck(const QString& name, std::string_view caption)
   MakeFirstRow();
   QCheckBox* box = AddWrappedCheck(*checks_, name, ScreenText(caption));
   checkGroup_->Add(*box);
+  // Behind the ribbons for screen readers too.
+  checks_->parentWidget()->raise();
   if (ribbons_->count() > 0) KeepChecksLow();
   return box;
 }

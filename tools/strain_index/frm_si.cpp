@@ -95,7 +95,7 @@ QWidget* FrmSI::MakeRibbonFrame(SiRibbonArray array, QWidget* parent) {
       auto* ribbon =
           new RibbonButton(ElementName(ScreenText(frame.objectName), index), caption, box);
       ribbon->SetLargestHeight(kLargestRow);
-      ribbon->setAccessibleName(ScreenText(column.heading) + " " + caption);
+      ribbon->setAccessibleName(ScreenText(column.heading) + ", " + caption);
       group->Add(*ribbon);
       grid->addWidget(ribbon, row + 1, gridColumn);
       connect(ribbon, &RibbonButton::clicked, this,

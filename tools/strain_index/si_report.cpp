@@ -3,6 +3,7 @@
 #include <array>
 
 #include "core/job_state.h"
+#include "tools/report_charts.h"
 #include "tools/report_parts.h"
 #include "tools/strain_index/si_score.h"
 
@@ -84,7 +85,7 @@ void SI_Report(RichText& RichTextBox1) {
   RichTextBox1.Append(kNewLine, kNote);
   RichTextBox1.Append(kNewLine);
   RichTextBox1.Append(kNewLine);
-  RichTextBox1.AppendPicture("strain_index/risk_chart");
+  AppendChart(RichTextBox1, "strain_index/risk_chart");
   RichTextBox1.SetLocked(true);
 }
 

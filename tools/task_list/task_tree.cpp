@@ -76,12 +76,16 @@ TaskTree::TaskTree(QWidget* parent) : QTreeWidget(parent) {
     if (hasFocus() && isActiveWindow()) EditSelected();
   });
   connect(this, &QTreeWidget::currentItemChanged, &editDelay_, &QTimer::stop);
+  SpeakHint();
 }
+
+void TaskTree::SpeakHint() { setAccessibleDescription(isEmpty() ? tr(kHint) : QString()); }
 
 void TaskTree::Clear() {
   editDelay_.stop();
   const QSignalBlocker blocker(this);
   clear();
+  SpeakHint();
 }
 
 void TaskTree::AddNode(int task) {
@@ -91,6 +95,7 @@ void TaskTree::AddNode(int task) {
   node->setData(0, kKeyRole, QString::fromStdString(TaskKey(task)));
   node->setIcon(0, QIcon(":/assets/ctd/task.svg"));
   node->setFlags(node->flags() | Qt::ItemIsEditable);
+  SpeakHint();
 }
 
 void TaskTree::RemoveSelected() {
@@ -98,6 +103,7 @@ void TaskTree::RemoveSelected() {
   const int place = indexOfTopLevelItem(currentItem());
   delete takeTopLevelItem(place);
   SelectAt(std::min(place, topLevelItemCount() - 1));
+  SpeakHint();
   viewport()->update();
 }
 

@@ -55,6 +55,8 @@ class TaskTree : public QTreeWidget {
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  /// Tells screen readers what the empty list shows.
+  void SpeakHint();
   [[nodiscard]] static int TaskOf(const QTreeWidgetItem& node);
 
   // A click on the selected node starts to edit its name once it can be no double click any more,
