@@ -2,6 +2,7 @@
 
 #include <optional>
 
+#include "reporter/failure_cause.h"
 #include "reporter/opened_job.h"
 
 namespace halvane {
@@ -17,10 +18,16 @@ std::vector<std::string> AppendReports(std::string& out, ReportWriter& writer,
   ForEachTool(tools, [&](const ToolRow& tool, std::size_t /*place*/) {
     RichText report;
     bool hasReport = false;
-    const auto failure = Try([&]() -> std::optional<ReportFailure> {
+    auto failure = Try([&]() -> std::optional<ReportFailure> {
       hasReport = tool.WriteReport(report);
       return std::nullopt;
     });
+    if (failure) {
+      ExplainFailure(*failure, tool, OpenedState(), file, [&tool] {
+        RichText again;
+        tool.WriteReport(again);
+      });
+    }
     if (!failure && !hasReport) {
       writer.NoReport(out, file, tool, kNoReport);
     } else if (failure) {

@@ -1,6 +1,7 @@
 #include "reporter/job_summary.h"
 
 #include "core/job_state.h"
+#include "reporter/failure_cause.h"
 #include "reporter/opened_job.h"
 
 namespace halvane {
@@ -45,6 +46,8 @@ std::vector<std::string> Summarise(JobSummary& summary, const std::string& file,
     SummaryCell& cell = summary.cells[place];
     cell.reason = ReadHeadline(cell.headline, *tool.headline);
     if (cell.reason && cell.reason->kind != kNoReport.kind) {
+      ExplainFailure(*cell.reason, tool, OpenedState(), file,
+                     [&tool] { tool.headline->compute(); });
       complaints.push_back(Complaint(file, tool.key, *cell.reason));
     }
   });

@@ -141,6 +141,10 @@ TEST(ReportProgram, BadFileIsASectionOfThePage) {
   EXPECT_TRUE(run.output.ends_with("</body>\n</html>\n"));
 }
 
+const std::string kGapReason = "has no rating: one band ends at 29 and the next begins at 30";
+const std::string kGapMessage =
+    "Subscript out of range: line 49, field SiDutyCyclePercent: \"29.5\" " + kGapReason;
+
 TEST(ReportProgram, EachFileIsOpenedByAFreshProgram) {
   // 29.5 per cent rates nothing, so it needs a rating that an earlier computation left.
   const TemporaryFolder folder;
@@ -149,11 +153,15 @@ TEST(ReportProgram, EachFileIsOpenedByAFreshProgram) {
   const ProgramRun run =
       RunReport({"--tool", "si", "--format", "json", "packing-line.qjt", gap, "packing-line.qjt"});
   EXPECT_EQ(run.status, 1);
-  EXPECT_EQ(run.error, "halvane-report: " + gap + ": si: Subscript out of range\n");
+  EXPECT_EQ(run.error, "halvane-report: " + gap + ": si: " + kGapMessage + "\n");
   const std::vector<Json> lines = ParsedLines(run.output);
   ASSERT_EQ(lines.size(), 3U);
-  EXPECT_EQ(lines[1]["error"],
-            (Json{{"kind", "SubscriptOutOfRange"}, {"message", "Subscript out of range"}}));
+  EXPECT_EQ(lines[1]["error"], (Json{{"kind", "SubscriptOutOfRange"},
+                                     {"message", kGapMessage},
+                                     {"line", 49},
+                                     {"field", "SiDutyCyclePercent"},
+                                     {"value", "29.5"},
+                                     {"reason", kGapReason}}));
   EXPECT_TRUE(lines[1]["results"].is_null());
   EXPECT_EQ(lines[2], lines[0]);
 }

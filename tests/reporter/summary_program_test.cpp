@@ -106,10 +106,16 @@ TEST(SummaryProgram, JobThatAToolCannotComputeShowsWhyAndTheRestStands) {
   WriteBytes(gap, EmptyJobWith(49, "29.5,100,10,10,0,0,0"));
   const ProgramRun run = RunReport(SummaryOf({"--format", "csv", gap, "packing-line.qjt"}));
   EXPECT_EQ(run.status, 1);
-  EXPECT_EQ(run.error, "halvane-report: " + gap + ": si: Subscript out of range\n");
-  EXPECT_NE(run.output.find(gap + ",,,,0,Green,\"The job has no task, so the tool has no report on "
-                                  "it.\",Subscript out of range,,1,0,1,\n"),
-            std::string::npos)
+  EXPECT_EQ(run.error,
+            "halvane-report: " + gap +
+                ": si: Subscript out of range: line 49, field SiDutyCyclePercent: \"29.5\" has no "
+                "rating: one band ends at 29 and the next begins at 30\n");
+  EXPECT_NE(
+      run.output.find(gap + ",,,,0,Green,\"The job has no task, so the tool has no report on "
+                            "it.\",\"Subscript out of range: line 49, field "
+                            "SiDutyCyclePercent: \"\"29.5\"\" has no rating: one band ends at "
+                            "29 and the next begins at 30\",,1,0,1,\n"),
+      std::string::npos)
       << run.output;
   EXPECT_NE(run.output.find("packing-line.qjt,Line 4 review"), std::string::npos);
 }
@@ -213,21 +219,25 @@ TEST(CheckProgram, TellsOfBadFilesAndIsSilentOnGoodOnes) {
   EXPECT_EQ(good.output + good.error, "");
   const ProgramRun odd = check({"good.qjt", "odd.qjt"});
   EXPECT_EQ(odd.status, 0);
-  EXPECT_EQ(odd.output,
-            "odd.qjt:6: warning: RulaControlState(0): \"9\": is outside its range, 0 to 4\n");
+  EXPECT_EQ(
+      odd.output,
+      "odd.qjt:6: warning: RulaControlState(0): \"9\": is outside its range, 0 to 4; rula fails\n");
   EXPECT_EQ(odd.error, "");
   const ProgramRun all = check({"gone.qjt", "."});
   EXPECT_EQ(all.status, 1);
   EXPECT_EQ(all.output,
             "./bad.qjt:8: read in part: RulaControlState(2): \"x\": is no number\n"
-            "./odd.qjt:6: warning: RulaControlState(0): \"9\": is outside its range, 0 to 4\n");
+            "./odd.qjt:6: warning: RulaControlState(0): \"9\": is outside its range, 0 to 4; rula "
+            "fails\n");
   EXPECT_EQ(all.error, "halvane-report: File error: gone.qjt: No such file or directory\n");
   const ProgramRun json = check({"--format", "json", "gone.qjt", "good.qjt"});
   EXPECT_EQ(json.status, 1);
-  EXPECT_EQ(json.output,
-            "{\"file\":\"gone.qjt\",\"verdict\":\"refused\",\"problems\":[],\"error\":{\"kind\":"
-            "\"FileError\",\"message\":\"File error: gone.qjt: No such file or directory\"}}\n"
-            "{\"file\":\"good.qjt\",\"verdict\":\"good\",\"problems\":[],\"error\":null}\n");
+  EXPECT_EQ(
+      json.output,
+      "{\"file\":\"gone.qjt\",\"verdict\":\"refused\",\"problems\":[],\"error\":{\"kind\":"
+      "\"FileError\",\"message\":\"File error: gone.qjt: No such file or directory\",\"line\":null,"
+      "\"field\":null,\"value\":null,\"reason\":null}}\n"
+      "{\"file\":\"good.qjt\",\"verdict\":\"good\",\"problems\":[],\"error\":null}\n");
 }
 
 }  // namespace
