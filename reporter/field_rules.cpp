@@ -102,6 +102,8 @@ const std::vector<std::string_view>& BoxedNames() {
   return names;
 }
 
+bool IsBoxed(const FieldName& name) { return std::ranges::count(BoxedNames(), name.field) > 0; }
+
 /// "0 to 4", "0 to 5 in steps of 0.5", "0, 2, 3, 4".
 std::string RangeText(const std::vector<double>& choices) {
   const double step = choices.size() > 2 ? choices[1] - choices[0] : 1;
@@ -127,8 +129,8 @@ std::optional<double> NumberOf(const TaggedField& value) {
 }
 
 std::optional<WrongValue> WrongWithChoice(const FieldName& name, const TaggedField& value,
-                                          const std::optional<double>& number) {
-  const std::vector<double> choices = ChoicesOf(name);
+                                          const std::optional<double>& number,
+                                          const std::vector<double>& choices) {
   if (!number || std::ranges::count(choices, *number) == 0) {
     return WrongValue{"is outside its range, " + RangeText(choices), EffectOf(name, value)};
   }
@@ -148,7 +150,7 @@ std::optional<WrongValue> WrongWithNumber(const TaggedField& value,
 
 FieldRule RuleOf(const FieldName& name) {
   if (!ChoicesOf(name).empty()) return FieldRule::Choice;
-  return std::ranges::count(BoxedNames(), name.field) > 0 ? FieldRule::Number : FieldRule::None;
+  return IsBoxed(name) ? FieldRule::Number : FieldRule::None;
 }
 
 std::string_view WhyWithoutRule(std::string_view field) {
@@ -157,12 +159,13 @@ std::string_view WhyWithoutRule(std::string_view field) {
 }
 
 std::optional<WrongValue> WrongWith(const FieldName& name, const TaggedField& value) {
-  const FieldRule rule = RuleOf(name);
-  if (rule == FieldRule::None) return std::nullopt;
+  // Asked for once: this is most of the work on a good file.
+  const std::vector<double> choices = ChoicesOf(name);
+  if (choices.empty() && !IsBoxed(name)) return std::nullopt;
   try {
     const std::optional<double> number = NumberOf(value);
-    return rule == FieldRule::Choice ? WrongWithChoice(name, value, number)
-                                     : WrongWithNumber(value, number);
+    return choices.empty() ? WrongWithNumber(value, number)
+                           : WrongWithChoice(name, value, number, choices);
   } catch (const RuntimeFailure&) {
     return WrongValue{"is beyond any number that the program can hold",
                       "each tool that reads it fails"};

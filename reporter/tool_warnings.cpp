@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <set>
+#include <utility>
 
 #include "core/units.h"
 #include "reporter/failure_cause.h"
@@ -75,17 +76,18 @@ class ToolWarnings {
 }  // namespace
 
 void WarnOfFailures(std::vector<JobProblem>& warnings, const FieldNotes& notes) {
-  std::vector<const ToolRow*> tools;
-  for (const ToolRow& tool : Tools()) tools.push_back(&tool);
+  std::vector<const ToolRow*> all;
+  for (const ToolRow& tool : Tools()) all.push_back(&tool);
+  std::vector<const ToolRow*> spans{&RowOf(Tool::Ctd)};
   ToolWarnings told(warnings, notes);
   JobState job = Module1;
-  // Files do not say what their hand spans are taken in.
-  for (const LengthUnit units : {LengthUnit::Metric, LengthUnit::English}) {
+  // Files do not say what their hand spans are taken in, and only one tool asks.
+  for (const auto& [units, tools] :
+       {std::pair{LengthUnit::Metric, &all}, std::pair{LengthUnit::English, &spans}}) {
     Module1 = job;
     Module1.Units = static_cast<Integer>(units);
-    ForEachTool(tools, [&told](const ToolRow& tool, std::size_t /*place*/) {
-      const JobState opened = OpenedState();
-      told.Try(tool, opened);
+    ForEachTool(*tools, [&told](const ToolRow& tool, std::size_t /*place*/) {
+      told.Try(tool, OpenedState());
     });
   }
   Module1 = std::move(job);
