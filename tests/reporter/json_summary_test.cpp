@@ -59,7 +59,7 @@ TEST(SummaryJson, TextsReadBackWhateverTheyHold) {
   const std::string line = LineOf(summary);
   EXPECT_EQ(line.find('\n'), line.size() - 1);
   const Json parsed = Json::parse(line);
-  EXPECT_EQ(parsed["file"], "caf\uFFFD.qjt");
+  EXPECT_EQ(parsed["file"], "caf\\xE9.qjt");
   EXPECT_EQ(parsed["analyst"], summary.analyst);
   EXPECT_EQ(parsed["job"], summary.job);
   EXPECT_EQ(parsed["workstation"], summary.workstation);

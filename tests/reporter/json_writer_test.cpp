@@ -107,9 +107,9 @@ TEST(ReportJson, LineIsOneLineWhateverIsInTheJob) {
   EXPECT_EQ(line.find('\r'), std::string::npos);
 }
 
-TEST(ReportJson, BytesOfAFileNameThatAreNoUtf8AreReplaced) {
+TEST(ReportJson, BytesOfAFileNameThatAreNoUtf8AreEscaped) {
   const Json line = Json::parse(LineOf(OneLine(""), {}, "caf\xE9 \xFF.qjt"));
-  EXPECT_EQ(line["file"], "caf\uFFFD \uFFFD.qjt");
+  EXPECT_EQ(line["file"], "caf\\xE9 \\xFF.qjt");
 }
 
 TEST(ReportJson, FailureOfAToolHasNeitherResultsNorReport) {
