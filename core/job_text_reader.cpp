@@ -169,14 +169,16 @@ std::string JobTextReader::TakeLastText() {
   return file_ == nullptr ? std::string(lastText_) : std::move(textOfFile_);
 }
 
-int JobTextReader::LineAt(std::size_t position) const {
-  if (file_ != nullptr) return file_->LineAt(position);
-  int line = 1;
-  for (std::size_t i = 0; i < position; ++i) {
+int JobTextReader::LineAt(std::size_t position) const { return 1 + LinesBetween(0, position); }
+
+int JobTextReader::LinesBetween(std::size_t from, std::size_t to) const {
+  if (file_ != nullptr) return file_->LinesBetween(from, to);
+  int lines = 0;
+  for (std::size_t i = from; i < to; ++i) {
     const bool returnAlone = text_[i] == '\r' && (i + 1 == text_.size() || text_[i + 1] != '\n');
-    if (text_[i] == '\n' || returnAlone) ++line;
+    if (text_[i] == '\n' || returnAlone) ++lines;
   }
-  return line;
+  return lines;
 }
 
 void JobTextReader::Read(FieldText field, std::string& target) { StoreText(field.text, target); }

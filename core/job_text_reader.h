@@ -66,6 +66,9 @@ class JobTextReader {
   /// The text stands until another field is read, or until the field's place in the job changes.
   [[nodiscard]] std::string_view lastText() const { return lastText_; }
   [[nodiscard]] int LineAt(std::size_t position) const;
+  /// The lines from one field's begin to another's, for who asks for many of them: each byte is
+  /// looked at once then.
+  [[nodiscard]] int LinesBetween(std::size_t from, std::size_t to) const;
   /// Where the next field begins.
   [[nodiscard]] std::size_t position() const { return position_; }
 

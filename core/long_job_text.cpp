@@ -74,24 +74,26 @@ std::string LongJobText::TextOf(const FieldPlace& field) const {
   return text;
 }
 
-int LongJobText::LineAt(std::uint64_t position) const {
+int LongJobText::LinesBetween(std::uint64_t from, std::uint64_t to) const {
   std::uint64_t lineEnds = 0;
   char before = '\0';
-  ForEachBlock(0, position, [&](std::string_view block) {
+  ForEachBlock(from, to, [&](std::string_view block) {
     for (const char c : block) {
       if (c == '\r' || (c == '\n' && before != '\r')) ++lineEnds;
       before = c;
     }
     return true;
   });
-  constexpr std::uint64_t kMostLines = std::numeric_limits<int>::max();
-  return static_cast<int>(std::min(lineEnds + 1, kMostLines));
+  // One more is the number of a line.
+  constexpr std::uint64_t kMostLines = std::numeric_limits<int>::max() - 1;
+  return static_cast<int>(std::min(lineEnds, kMostLines));
 }
 
 /// Runs `action` over what stands between two positions, for as long as it gives true.
 template <typename Action>
 void LongJobText::ForEachBlock(std::uint64_t from, std::uint64_t to, const Action& action) const {
-  std::string block(block_, '\0');
+  if (from >= to) return;
+  std::string block(static_cast<std::size_t>(std::min<std::uint64_t>(to - from, block_)), '\0');
   while (from < to) {
     const auto size = static_cast<std::size_t>(std::min<std::uint64_t>(to - from, block.size()));
     if (file_.ReadAt(from, block.data(), size) < size) file_.FailAsChanged();

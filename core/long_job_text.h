@@ -36,8 +36,8 @@ class LongJobText {
 
   /// The text of a field as UTF-8, in a string of just that size. Throws as the constructor does.
   [[nodiscard]] std::string TextOf(const FieldPlace& field) const;
-  /// The line of a position, counted from 1.
-  [[nodiscard]] int LineAt(std::uint64_t position) const;
+  /// How many lines there are from one field's begin to another's.
+  [[nodiscard]] int LinesBetween(std::uint64_t from, std::uint64_t to) const;
 
  private:
   void FindFields();

@@ -2,6 +2,7 @@
 
 #include "core/job_text_reader.h"
 #include "core/number_text.h"
+#include "reporter/file_text.h"
 #include "reporter/json_text.h"
 #include "reporter/output.h"
 #include "reporter/printable_text.h"
@@ -32,9 +33,14 @@ void AppendProblem(std::string& out, const JobProblem& problem) {
 
 }  // namespace
 
-void AppendCheckText(std::string& out, std::string_view file, const JobCheck& check) {
+void AppendCheckText(std::string& out, std::string_view file, const JobCheck& check,
+                     NameEnd nameEnd) {
   for (const JobProblem& problem : check.problems) {
-    out += PrintableText(file) + ":";
+    if (nameEnd == NameEnd::Zero) {
+      out.append(file) += '\0';
+    } else {
+      out += PrintableText(file) + ":";
+    }
     if (problem.line > 0) out += PlainText(problem.line) + ":";
     out += ' ';
     out += problem.isWarning ? "warning" : NameOf(check.verdict);
@@ -51,7 +57,7 @@ void AppendCheckText(std::string& out, std::string_view file, const JobCheck& ch
 
 void AppendCheckJson(std::string& out, std::string_view file, const JobCheck& check) {
   out += "{\"file\":";
-  AppendJsonString(out, file);
+  AppendJsonString(out, EscapedFileName(file));
   out += ",\"verdict\":";
   AppendJsonString(out, NameOf(check.verdict));
   out += ",\"problems\":";
@@ -66,16 +72,16 @@ void AppendCheckJson(std::string& out, std::string_view file, const JobCheck& ch
   out += "}\n";
 }
 
-JobOutcome CheckCommand::Do(std::string& out, const std::string& file) {
-  JobCheck check = CheckJobFile(file);
-  besideJob_.AppendTo(check.problems, file);
+JobOutcome CheckCommand::Do(std::string& out, const JobSource& job) {
+  JobCheck check = CheckJobFile(job.path);
+  if (!job.isPiped()) besideJob_.AppendTo(check.problems, job.name);
   if (format_ == ReportFormat::Json) {
-    AppendCheckJson(out, file, check);
+    AppendCheckJson(out, job.name, check);
   } else {
-    AppendCheckText(out, file, check);
+    AppendCheckText(out, job.name, check, nameEnd_);
   }
   JobOutcome outcome{check.verdict != JobVerdict::Good, {}};
-  if (check.failure) outcome.complaints.push_back(Complaint(file, *check.failure));
+  if (check.failure) outcome.complaints.push_back(Complaint(job.name, *check.failure));
   return outcome;
 }
 

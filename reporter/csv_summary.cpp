@@ -1,6 +1,7 @@
 #include "reporter/csv_summary.h"
 
 #include "core/number_text.h"
+#include "reporter/file_text.h"
 #include "reporter/printable_text.h"
 
 namespace halvane {
@@ -8,6 +9,9 @@ namespace {
 
 /// What the text of a formula begins with in the usual spreadsheets.
 constexpr std::string_view kFormulaStarts = "=+-@";
+
+/// As RFC 4180 has it, whatever the system.
+constexpr std::string_view kCsvLineEnd = "\r\n";
 
 bool NeedsQuotes(std::string_view text) {
   if (text.empty()) return false;
@@ -24,6 +28,14 @@ void AppendQuoted(std::string& out, std::string_view text) {
   out += '"';
 }
 
+void AppendCell(std::string& out, std::string_view text) {
+  if (NeedsQuotes(text)) {
+    AppendQuoted(out, text);
+  } else {
+    out += text;
+  }
+}
+
 void AppendValue(std::string& out, const Headline::Value& value) {
   if (const auto* whole = std::get_if<int>(&value)) {
     out += PlainText(*whole);
@@ -34,16 +46,24 @@ void AppendValue(std::string& out, const Headline::Value& value) {
   }
 }
 
-/// Appends the cells of a tool, each behind a comma.
+/// Appends the cells of a tool, each behind a comma; empty where it has no headline.
 void AppendCells(std::string& out, const SummaryCell& cell, std::size_t count) {
   for (std::size_t i = 0; i < count; ++i) {
     out += ',';
-    if (!cell.reason) {
-      AppendValue(out, cell.headline.values[i]);
-    } else if (i == 0) {
-      AppendCsvText(out, cell.reason->message);
-    }
+    if (!cell.reason) AppendValue(out, cell.headline.values[i]);
   }
+}
+
+/// "ctd: The job has no task, so the tool has no report on it.; si: Overflow".
+std::string ReasonsOf(const JobSummary& summary, const SummaryTools& tools) {
+  if (summary.failure) return summary.failure->message;
+  std::string reasons;
+  for (std::size_t i = 0; i < tools.size(); ++i) {
+    if (!summary.cells[i].reason) continue;
+    if (!reasons.empty()) reasons += "; ";
+    reasons.append(tools[i]->key).append(": ").append(summary.cells[i].reason->message);
+  }
+  return reasons;
 }
 
 }  // namespace
@@ -55,11 +75,7 @@ void AppendCsvText(std::string& out, std::string_view text) {
   const bool likeFormula =
       start != std::string::npos && kFormulaStarts.find(printable[start]) != std::string::npos;
   if (likeFormula) printable.insert(0, 1, '\'');
-  if (NeedsQuotes(printable)) {
-    AppendQuoted(out, printable);
-  } else {
-    out += printable;
-  }
+  AppendCell(out, printable);
 }
 
 void CsvSummary::Begin(std::string& out) {
@@ -72,11 +88,12 @@ void CsvSummary::Begin(std::string& out) {
       out += column.key;
     }
   }
-  out += ",error\n";
+  out += ",reasons,file_shown";
+  out += kCsvLineEnd;
 }
 
 void CsvSummary::Row(std::string& out, const JobSummary& summary) {
-  AppendCsvText(out, summary.file);
+  AppendCell(out, EscapedFileNameOnOneLine(summary.file));
   for (const std::string* text : {&summary.analyst, &summary.job, &summary.workstation}) {
     out += ',';
     AppendCsvText(out, *text);
@@ -90,8 +107,10 @@ void CsvSummary::Row(std::string& out, const JobSummary& summary) {
     }
   }
   out += ',';
-  if (summary.failure) AppendCsvText(out, summary.failure->message);
-  out += '\n';
+  AppendCsvText(out, ReasonsOf(summary, tools_));
+  out += ',';
+  AppendCsvText(out, summary.file);
+  out += kCsvLineEnd;
 }
 
 }  // namespace halvane

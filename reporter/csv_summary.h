@@ -4,9 +4,10 @@
 
 namespace halvane {
 
-/// Summaries for spreadsheets and scripts: a line of headings, then one line a job, whatever its
-/// texts hold. Numbers have all their digits. The reason why a tool has no headline stands in its
-/// first cell, the one why a file could not be read in the last cell of the line.
+/// Summaries for spreadsheets and scripts, as RFC 4180 has them: a line of headings, then one line
+/// a job, whatever its texts hold. Numbers have all their digits. A column has one kind: the cells
+/// of a tool without a headline are empty, and why stands in a column of reasons. The file's name
+/// stands twice, first for programs, as it is, last for people, as all other texts.
 class CsvSummary : public SummaryWriter {
  public:
   explicit CsvSummary(SummaryTools tools) : tools_(std::move(tools)) {}

@@ -13,9 +13,23 @@ namespace halvane {
 struct ReportFailure {
   std::string kind;
   std::string message;
+  /// Where it comes from, as far as it is known.
+  struct Place {
+    int line = 0;        ///< of the job file, counted from 1; 0: not known
+    std::string field;   ///< "Hand", "CtdLoadHeld(2, 7)", or a working value of the tool
+    std::string value;   ///< as it stands in the file
+    std::string reason;  ///< why it is the place
+  };
+  std::optional<Place> place = std::nullopt;
 };
 
 ReportFailure FailureFrom(const RuntimeFailure& failure);
+
+/// Gives a failure its place, which its message tells from there on.
+void SetPlace(ReportFailure& failure, ReportFailure::Place place);
+
+/// What a table has room for of a failure: its place and its kind.
+std::string ShortMessage(const ReportFailure& failure);
 
 /// Runs `action`, which gives what stopped it, if anything; a failure that it throws counts as
 /// such.

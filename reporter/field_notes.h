@@ -1,5 +1,8 @@
 #pragma once
 
+#include <algorithm>
+#include <cstdint>
+#include <limits>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -13,7 +16,7 @@ namespace halvane {
 /// One field of a job file as it stands there.
 struct FieldNote {
   FieldName name;
-  std::size_t start;   ///< where it begins in the text
+  int line;            ///< where it begins, counted from 1
   TaggedField value;   ///< what was read, as a number where its place holds one
   std::string number;  ///< the text of a field that was read as a number, as it stands
 
@@ -41,7 +44,10 @@ class FieldNotes {
 
   /// In the order of the file.
   [[nodiscard]] const std::vector<FieldNote>& notes() const { return notes_; }
-  [[nodiscard]] int LineOf(const FieldNote& note) const { return reader_.LineAt(note.start); }
+  /// The line of a position behind the last field that was read.
+  [[nodiscard]] int LineBehind(std::size_t position) const {
+    return Line(lines_ + reader_.LinesBetween(counted_, position));
+  }
   /// Behind the last field that was read.
   [[nodiscard]] const JobTextReader& reader() const { return reader_; }
 
@@ -49,6 +55,10 @@ class FieldNotes {
   template <typename T>
   void Note(const JobField<T>& field) {
     reader_.Line(field);
+    // From the field before on: the whole way from the file's begin takes as long as the file for
+    // each of its fields.
+    lines_ += reader_.LinesBetween(counted_, reader_.lastStart());
+    counted_ = reader_.lastStart();
     const std::string* text = TextIn(field.value);
     std::string number;
     if (text == nullptr) number = reader_.lastText();
@@ -56,7 +66,12 @@ class FieldNotes {
     const bool isMoved =
         text != nullptr && text->size() > kLongestName && field.name.field != "TaskCount";
     TaggedField value = isMoved ? TaggedField(std::move(field.value)) : TaggedField(field.value);
-    notes_.push_back({field.name, reader_.lastStart(), std::move(value), std::move(number)});
+    notes_.push_back({field.name, Line(lines_), std::move(value), std::move(number)});
+  }
+
+  static int Line(std::int64_t linesBefore) {
+    constexpr std::int64_t kMost = std::numeric_limits<int>::max();
+    return static_cast<int>(std::min(linesBefore + 1, kMost));
   }
 
   static const std::string* TextIn(const std::string& text) { return &text; }
@@ -69,6 +84,8 @@ class FieldNotes {
 
   JobTextReader reader_;
   std::vector<FieldNote> notes_;
+  std::int64_t lines_ = 0;   ///< in front of `counted_`
+  std::size_t counted_ = 0;  ///< where the field begins that was noted last
 };
 
 }  // namespace halvane

@@ -1,4 +1,5 @@
-#include <sys/select.h>
+#include <fcntl.h>
+#include <poll.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -10,13 +11,14 @@
 namespace halvane {
 namespace {
 
-/// While it lives, Ctrl-C has to wait.
+/// While it lives, Ctrl-C and whatever else asks for the end have to wait.
 class InterruptionsHeld {
  public:
   InterruptionsHeld() {
     sigset_t held;
     sigemptyset(&held);
     sigaddset(&held, SIGINT);
+    sigaddset(&held, SIGTERM);
     sigprocmask(SIG_BLOCK, &held, &before_);
   }
   ~InterruptionsHeld() { sigprocmask(SIG_SETMASK, &before_, nullptr); }
@@ -31,17 +33,28 @@ class InterruptionsHeld {
 
 }  // namespace
 
-std::size_t ReadInput(std::span<char> room, std::error_code& error) {
+InputBytes::~InputBytes() {
+  if (isOpened_) close(static_cast<int>(handle_));
+}
+
+std::error_code InputBytes::Open(const std::string& path) {
+  const int opened = open(path.c_str(), O_RDONLY | O_CLOEXEC);
+  if (opened < 0) return {errno, std::generic_category()};
+  handle_ = opened;
+  isOpened_ = true;
+  return {};
+}
+
+std::size_t InputBytes::Read(std::span<char> room, std::error_code& error) {
+  const int descriptor = static_cast<int>(handle_);
   // Ctrl-C comes through while the program waits and at no other moment. One that came just before
   // the waiting would else be noted when it is over.
   const InterruptionsHeld held;
   while (!IsInterrupted()) {
-    fd_set input;
-    FD_ZERO(&input);
-    FD_SET(STDIN_FILENO, &input);
-    const int ready = pselect(STDIN_FILENO + 1, &input, nullptr, nullptr, nullptr, &held.before());
+    pollfd input{descriptor, POLLIN, 0};
+    const int ready = ppoll(&input, 1, nullptr, &held.before());
     if (ready < 0 && errno == EINTR) continue;
-    const ssize_t count = read(STDIN_FILENO, room.data(), room.size());
+    const ssize_t count = read(descriptor, room.data(), room.size());
     if (count >= 0) return static_cast<std::size_t>(count);
     error = {errno, std::generic_category()};
     return 0;

@@ -6,6 +6,7 @@
 #include <thread>
 
 #include "core/file_calls_windows.h"
+#include "core/wide_text_windows.h"
 #include "reporter/input.h"
 #include "reporter/interruption_windows.h"
 
@@ -14,12 +15,13 @@ namespace {
 
 /// One call that waits for input. It may outlive who asked for it.
 struct Reading {
+  HANDLE input;
   std::vector<char> bytes;
   DWORD count = 0;
   DWORD error = ERROR_SUCCESS;
   HANDLE done = CreateEventW(nullptr, TRUE, FALSE, nullptr);
 
-  explicit Reading(std::size_t size) : bytes(size) {}
+  Reading(HANDLE from, std::size_t size) : input(from), bytes(size) {}
   ~Reading() { CloseHandle(done); }
   Reading(const Reading&) = delete;
   Reading& operator=(const Reading&) = delete;
@@ -27,8 +29,7 @@ struct Reading {
 
 void Read(Reading& reading) {
   const auto size = static_cast<DWORD>(reading.bytes.size());
-  if (ReadFile(GetStdHandle(STD_INPUT_HANDLE), reading.bytes.data(), size, &reading.count,
-               nullptr) == 0) {
+  if (ReadFile(reading.input, reading.bytes.data(), size, &reading.count, nullptr) == 0) {
     reading.error = GetLastError();
   }
   SetEvent(reading.done);
@@ -36,10 +37,25 @@ void Read(Reading& reading) {
 
 }  // namespace
 
-std::size_t ReadInput(std::span<char> room, std::error_code& error) {
+InputBytes::~InputBytes() {
+  if (isOpened_) CloseHandle(reinterpret_cast<HANDLE>(handle_));
+}
+
+std::error_code InputBytes::Open(const std::string& path) {
+  auto* const opened = CreateFileW(WideText(path).c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr,
+                                   OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+  if (opened == INVALID_HANDLE_VALUE) return files::LastError();
+  handle_ = reinterpret_cast<std::intptr_t>(opened);
+  isOpened_ = true;
+  return {};
+}
+
+std::size_t InputBytes::Read(std::span<char> room, std::error_code& error) {
+  auto* const input =
+      isOpened_ ? reinterpret_cast<HANDLE>(handle_) : GetStdHandle(STD_INPUT_HANDLE);
   // No wait for input ends when the user presses Ctrl-C, so another thread waits for it. One that
   // waits for ever ends with the program.
-  const auto reading = std::make_shared<Reading>(room.size());
+  const auto reading = std::make_shared<Reading>(input, room.size());
   std::thread([reading] { Read(*reading); }).detach();
   const std::array<HANDLE, 2> events{InterruptionEvent(), reading->done};
   const auto count = static_cast<DWORD>(events.size());

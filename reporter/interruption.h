@@ -1,16 +1,22 @@
 #pragma once
 
+#include <string_view>
+
 namespace halvane {
 
-/// From here on the first Ctrl-C is only noted, so that what is done can be written; a second one
-/// ends the program at once. A program that was started to ignore Ctrl-C goes on ignoring it.
+/// From here on the first Ctrl-C, and the first `SIGTERM` where the system has it, is only noted,
+/// so that what is done can be written; a second one ends the program at once. A program that was
+/// started to ignore one goes on ignoring it.
 void WatchForInterruption();
 
-/// Whether the user has pressed Ctrl-C.
+/// Whether the program is asked to end.
 bool IsInterrupted();
 
-/// Ends the program as Ctrl-C does, so that who started it sees why. Comes back where that is
-/// prevented.
-void EndByInterruption();
+/// What has come: "interrupted" or "terminated".
+std::string_view InterruptionWord();
+
+/// Ends the program as what has come does, so that who started it sees why. Comes back where that
+/// is prevented, with the exit status that tells it.
+int EndByInterruption();
 
 }  // namespace halvane

@@ -5,27 +5,38 @@
 namespace halvane {
 namespace {
 
-volatile std::sig_atomic_t interrupted = 0;
+constexpr int kSignalBase = 128;
 
-extern "C" void NoteInterruption(int /*signal*/) { interrupted = 1; }
+volatile std::sig_atomic_t interruption = 0;
 
-}  // namespace
+extern "C" void NoteInterruption(int signal) { interruption = signal; }
 
-void WatchForInterruption() {
+void Watch(int signal) {
   struct sigaction present {};
-  if (sigaction(SIGINT, nullptr, &present) == 0 && present.sa_handler == SIG_IGN) return;
+  if (sigaction(signal, nullptr, &present) == 0 && present.sa_handler == SIG_IGN) return;
   struct sigaction wanted {};
   wanted.sa_handler = NoteInterruption;
   wanted.sa_flags = static_cast<int>(SA_RESETHAND);
   sigemptyset(&wanted.sa_mask);
-  sigaction(SIGINT, &wanted, nullptr);
+  sigaction(signal, &wanted, nullptr);
 }
 
-bool IsInterrupted() { return interrupted != 0; }
+}  // namespace
 
-void EndByInterruption() {
-  std::signal(SIGINT, SIG_DFL);
-  std::raise(SIGINT);
+void WatchForInterruption() {
+  for (const int signal : {SIGINT, SIGTERM}) Watch(signal);
+}
+
+bool IsInterrupted() { return interruption != 0; }
+
+std::string_view InterruptionWord() {
+  return interruption == SIGTERM ? "terminated" : "interrupted";
+}
+
+int EndByInterruption() {
+  std::signal(interruption, SIG_DFL);
+  std::raise(interruption);
+  return kSignalBase + interruption;
 }
 
 }  // namespace halvane

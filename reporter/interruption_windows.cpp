@@ -28,8 +28,12 @@ void WatchForInterruption() {
 
 bool IsInterrupted() { return WaitForSingleObject(InterruptionEvent(), 0) == WAIT_OBJECT_0; }
 
-void EndByInterruption() {
+std::string_view InterruptionWord() { return "interrupted"; }
+
+int EndByInterruption() {
   // There is no end here by which a caller could tell it from a crash. The exit status tells it.
+  constexpr int kInterrupted = 130;
+  return kInterrupted;
 }
 
 }  // namespace halvane

@@ -3,6 +3,8 @@
 #include <string>
 #include <vector>
 
+#include "reporter/job_source.h"
+
 namespace halvane {
 
 /// What doing one job came to.
@@ -21,7 +23,7 @@ class JobCommand {
 
   /// Before the first job.
   virtual void Begin(std::string& /*out*/) {}
-  virtual JobOutcome Do(std::string& out, const std::string& file) = 0;
+  virtual JobOutcome Do(std::string& out, const JobSource& job) = 0;
   /// Behind the last job, also when the user ends the program before it.
   virtual void End(std::string& /*out*/) {}
 

@@ -1,17 +1,18 @@
 #include "reporter/job_list.h"
 
 #include "core/file_calls.h"
+#include "reporter/piped_job.h"
 
 namespace halvane {
 
-JobList::JobList(std::vector<std::string> names, bool fromInput)
-    : names_(std::move(names)), fromInput_(fromInput) {}
+JobList::JobList(std::vector<std::string> names, std::optional<InputLines> list)
+    : names_(std::move(names)), list_(std::move(list)) {}
 
 std::optional<std::string> JobList::Next(std::vector<std::string>& complaints) {
   while (true) {
     if (auto path = NextInFolder(complaints)) return path;
     auto name = NextName(complaints);
-    if (!name || !files::IsFolder(*name)) return name;
+    if (!name || isStandardInput_ || !files::IsFolder(*name)) return name;
     folder_.emplace(*name);
     folderName_ = *std::move(name);
     folderHasFiles_ = false;
@@ -35,12 +36,13 @@ std::optional<std::string> JobList::NextInFolder(std::vector<std::string>& compl
 }
 
 std::optional<std::string> JobList::NextName(std::vector<std::string>& complaints) {
+  isStandardInput_ = nextName_ < names_.size() && names_[nextName_] == kStandardInput;
   if (nextName_ < names_.size()) return names_[nextName_++];
-  return fromInput_ ? input_.Next(complaints) : std::nullopt;
+  return list_ ? list_->Next(complaints) : std::nullopt;
 }
 
 std::optional<std::size_t> JobList::CountLeft() const {
-  if (fromInput_) return std::nullopt;
+  if (list_) return std::nullopt;
   std::vector<std::string> ignored;
   JobList rest(*this);
   std::size_t count = 0;

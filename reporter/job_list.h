@@ -11,17 +11,21 @@
 namespace halvane {
 
 /// The job files that the user means, one after the other: those named, those in the folders named,
-/// and those that standard input names.
+/// and those that a list names.
 class JobList {
  public:
-  /// `names`: files and folders. `fromInput`: standard input has more of them, one a line.
-  JobList(std::vector<std::string> names, bool fromInput);
+  /// `names`: files and folders, and "-" for a job on standard input. `list` has more files and
+  /// folders.
+  explicit JobList(std::vector<std::string> names, std::optional<InputLines> list = std::nullopt);
 
   /// The path of the next one; nothing behind the last one. What is wrong with a name on the way
   /// comes as a sentence in `complaints`.
   std::optional<std::string> Next(std::vector<std::string>& complaints);
 
-  /// How many there are from here on; nothing while only standard input knows. Walks through the
+  /// Whether the job that came last is standard input.
+  [[nodiscard]] bool isStandardInput() const { return isStandardInput_; }
+
+  /// How many there are from here on; nothing while only the list knows. Walks through the
   /// folders.
   [[nodiscard]] std::optional<std::size_t> CountLeft() const;
 
@@ -31,8 +35,8 @@ class JobList {
 
   std::vector<std::string> names_;
   std::size_t nextName_ = 0;
-  bool fromInput_;
-  InputLines input_;
+  std::optional<InputLines> list_;
+  bool isStandardInput_ = false;
   std::optional<FolderWalk> folder_;  ///< under way
   std::string folderName_;
   bool folderHasFiles_ = false;

@@ -11,16 +11,15 @@
 
 namespace halvane {
 
-/// Opens the job file `file` and appends the report of each tool on it to `out`. Every report is
+/// Opens a job file and appends the report of each tool on it to `out`. Every report is
 /// that of a freshly started program in which `units` are chosen, that opens the file and then the
 /// tool: nothing of another file or tool comes through.
 ///
 /// Gives a sentence for each failure, with the file's name in it: none when all went well, one when
 /// the file could not be read, one for each tool whose computation failed. A tool that has no
 /// report on a job is no failure.
-std::vector<std::string> AppendReports(std::string& out, ReportWriter& writer,
-                                       const std::string& file, LengthUnit units,
-                                       std::span<const ToolRow* const> tools);
+std::vector<std::string> AppendReports(std::string& out, ReportWriter& writer, const JobSource& job,
+                                       LengthUnit units, std::span<const ToolRow* const> tools);
 
 /// Writes the reports of some tools on each job.
 class ReportCommand : public JobCommand {
@@ -30,7 +29,7 @@ class ReportCommand : public JobCommand {
                 bool several);
 
   void Begin(std::string& out) override { writer_->Begin(out); }
-  JobOutcome Do(std::string& out, const std::string& file) override;
+  JobOutcome Do(std::string& out, const JobSource& job) override;
   void End(std::string& out) override { writer_->End(out); }
 
  private:

@@ -1,6 +1,7 @@
 #include "reporter/job_summary.h"
 
 #include "core/job_state.h"
+#include "reporter/failure_cause.h"
 #include "reporter/opened_job.h"
 
 namespace halvane {
@@ -24,16 +25,16 @@ std::optional<double> RankOf(const JobSummary& summary, std::size_t column) {
 
 }  // namespace
 
-std::vector<std::string> Summarise(JobSummary& summary, const std::string& file, LengthUnit units,
+std::vector<std::string> Summarise(JobSummary& summary, const JobSource& job, LengthUnit units,
                                    std::span<const ToolRow* const> tools) {
-  summary.file = file;
-  summary.failure = OpenAfresh(file, units);
+  summary.file = job.name;
+  summary.failure = OpenAfresh(job.path, units);
   if (summary.failure) {
     summary.analyst.clear();
     summary.job.clear();
     summary.workstation.clear();
     summary.cells.clear();
-    return {Complaint(file, *summary.failure)};
+    return {Complaint(job.name, *summary.failure)};
   }
   summary.analyst = NameFrom(Module1.JobAnalyst);
   summary.job = NameFrom(Module1.JobName);
@@ -45,7 +46,9 @@ std::vector<std::string> Summarise(JobSummary& summary, const std::string& file,
     SummaryCell& cell = summary.cells[place];
     cell.reason = ReadHeadline(cell.headline, *tool.headline);
     if (cell.reason && cell.reason->kind != kNoReport.kind) {
-      complaints.push_back(Complaint(file, tool.key, *cell.reason));
+      ExplainFailure(*cell.reason, tool, OpenedState(), job.path,
+                     [&tool] { tool.headline->compute(); });
+      complaints.push_back(Complaint(job.name, tool.key, *cell.reason));
     }
   });
   return complaints;

@@ -7,6 +7,7 @@
 
 #include "core/units.h"
 #include "reporter/failure.h"
+#include "reporter/job_source.h"
 #include "tools/tool_table.h"
 
 namespace halvane {
@@ -27,11 +28,11 @@ struct JobSummary {
   std::optional<ReportFailure> failure;  ///< why the file could not be read; all else is empty then
 };
 
-/// Makes `summary` that of the job file `file`. Every cell is that of a freshly started program in
+/// Makes `summary` that of a job file. Every cell is that of a freshly started program in
 /// which `units` are chosen, that opens the file and then the tool.
 ///
 /// Gives a sentence for each failure, as `AppendReports` does.
-std::vector<std::string> Summarise(JobSummary& summary, const std::string& file, LengthUnit units,
+std::vector<std::string> Summarise(JobSummary& summary, const JobSource& job, LengthUnit units,
                                    std::span<const ToolRow* const> tools);
 
 /// Whether `a` is worse than `b` by the cell `column`. Jobs without a headline come last.

@@ -4,16 +4,17 @@
 #include <map>
 #include <tuple>
 
-#include "reporter/choices.h"
 #include "reporter/field_notes.h"
+#include "reporter/field_rules.h"
+#include "reporter/hidden_characters.h"
+#include "reporter/tool_warnings.h"
 #include "tools/ocra/ocra_controls.h"
 
 namespace halvane {
 namespace {
 
-JobProblem Warning(const FieldNotes& notes, const FieldNote& note, std::string message) {
-  return {true, notes.LineOf(note), note.name.text(), std::string(note.found()),
-          std::move(message)};
+JobProblem Warning(const FieldNote& note, std::string message) {
+  return {true, note.line, note.name.text(), std::string(note.found()), std::move(message)};
 }
 
 bool IsText(const TaggedField& field) { return std::holds_alternative<std::string>(field.value()); }
@@ -31,40 +32,18 @@ void WarnOfCopies(std::vector<JobProblem>& warnings, const FieldNotes& notes) {
   for (const FieldNote& note : notes.notes()) {
     const FieldNote*& before = seen[{note.name.field, note.name.first, note.name.second}];
     if (before != nullptr && !IsSame(before->value, note.value)) {
-      warnings.push_back(Warning(notes, note,
-                                 "differs from the copy on line " +
-                                     PlainText(notes.LineOf(*before)) + ", \"" +
-                                     ShownField(before->found()) + "\"; the later copy counts"));
+      warnings.push_back(Warning(note, "differs from the copy on line " + PlainText(before->line) +
+                                           ", \"" + ShownField(before->found()) +
+                                           "\"; the later copy counts"));
     }
     before = &note;
   }
 }
 
-/// "0 to 4", "0, 2, 3, 4".
-std::string RangeText(const std::vector<int>& choices) {
-  const bool hasGaps = choices.back() - choices.front() + 1 != static_cast<int>(choices.size());
-  if (choices.size() > 1 && !hasGaps) {
-    return PlainText(choices.front()) + " to " + PlainText(choices.back());
-  }
-  std::string text;
-  for (const int choice : choices) text += (text.empty() ? "" : ", ") + PlainText(choice);
-  return text;
-}
-
-bool IsOneOf(const TaggedField& value, const std::vector<int>& choices) {
-  try {
-    return std::ranges::count(choices, value.AsDouble()) > 0;
-  } catch (const RuntimeFailure&) {
-    // A text that reads as a number beyond a double.
-    return false;
-  }
-}
-
-void WarnOfChoices(std::vector<JobProblem>& warnings, const FieldNotes& notes) {
+void WarnOfValues(std::vector<JobProblem>& warnings, const FieldNotes& notes) {
   for (const FieldNote& note : notes.notes()) {
-    const std::vector<int> choices = ChoicesOf(note.name);
-    if (choices.empty() || IsOneOf(note.value, choices)) continue;
-    warnings.push_back(Warning(notes, note, "is outside its range, " + RangeText(choices)));
+    const auto wrong = WrongWith(note.name, note.value);
+    if (wrong) warnings.push_back(Warning(note, wrong->expected + "; " + wrong->effect));
   }
 }
 
@@ -85,10 +64,16 @@ void WarnOfPairs(std::vector<JobProblem>& warnings, const FieldNotes& notes) {
     if (pair == kOcraNoPair || static_cast<std::size_t>(pair) > i) continue;
     const FieldNote& other = *lists[static_cast<std::size_t>(pair)];
     if (!IsAnswered(*lists[i]) || !IsAnswered(other)) continue;
-    warnings.push_back(Warning(notes, *lists[i],
-                               "is answered, and so is " + other.name.text() + " on line " +
-                                   PlainText(notes.LineOf(other)) +
-                                   ", the other list of the pair; both scores count"));
+    warnings.push_back(Warning(*lists[i], "is answered, and so is " + other.name.text() +
+                                              " on line " + PlainText(other.line) +
+                                              ", the other list of the pair; both scores count"));
+  }
+}
+
+void WarnOfHiddenCharacters(std::vector<JobProblem>& warnings, const FieldNotes& notes) {
+  for (const FieldNote& note : notes.notes()) {
+    const std::string hidden = HiddenCharactersIn(note.found());
+    if (!hidden.empty()) warnings.push_back(Warning(note, "holds hidden characters, " + hidden));
   }
 }
 
@@ -102,7 +87,7 @@ void WarnOfTextBehindTheEnd(std::vector<JobProblem>& warnings, const FieldNotes&
   if (found == rest.end()) return;
   const auto start = static_cast<std::size_t>(found - rest.begin());
   warnings.push_back({true,
-                      notes.reader().LineAt(end + start),
+                      notes.LineBehind(end + start),
                       {},
                       rest.substr(start, rest.find_first_of("\r\n", start) - start),
                       "stands behind the last task and is not read"});
@@ -115,8 +100,10 @@ std::vector<JobProblem> WarningsOn(const JobText& text) {
   VisitJobFields(Module1, notes);
   std::vector<JobProblem> warnings;
   WarnOfCopies(warnings, notes);
-  WarnOfChoices(warnings, notes);
+  WarnOfValues(warnings, notes);
+  WarnOfFailures(warnings, notes);
   WarnOfPairs(warnings, notes);
+  WarnOfHiddenCharacters(warnings, notes);
   WarnOfTextBehindTheEnd(warnings, notes, text);
   std::ranges::stable_sort(warnings, {}, &JobProblem::line);
   return warnings;

@@ -1,6 +1,7 @@
 #include "reporter/json_summary.h"
 
 #include "core/number_text.h"
+#include "reporter/file_text.h"
 #include "reporter/json_text.h"
 
 namespace halvane {
@@ -54,7 +55,7 @@ void AppendTexts(std::string& out, const JobSummary& summary) {
 
 void JsonSummary::Row(std::string& out, const JobSummary& summary) {
   out += "{\"file\":";
-  AppendJsonString(out, summary.file);
+  AppendJsonString(out, EscapedFileName(summary.file));
   if (summary.failure) {
     out += R"(,"analyst":null,"job":null,"workstation":null,"tools":null,"error":)";
     AppendJsonFailure(out, *summary.failure);

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <nlohmann/json.hpp>
 
+#include "core/number_text.h"
+
 namespace halvane {
 namespace {
 
@@ -28,6 +30,14 @@ std::string_view EscapeOf(char c) {
     case '"': return "\\\"";
     case '\\': return "\\\\";
     default: return {};
+  }
+}
+
+void AppendKnown(std::string& out, std::string_view text, bool isKnown) {
+  if (isKnown) {
+    AppendJsonString(out, text);
+  } else {
+    out += "null";
   }
 }
 
@@ -67,6 +77,13 @@ void AppendJsonFailure(std::string& out, const ReportFailure& failure) {
   AppendJsonString(out, failure.kind);
   out += ",\"message\":";
   AppendJsonString(out, failure.message);
+  const ReportFailure::Place place = failure.place.value_or(ReportFailure::Place{});
+  out += ",\"line\":" + (place.line > 0 ? PlainText(place.line) : "null") + ",\"field\":";
+  AppendKnown(out, place.field, failure.place.has_value());
+  out += ",\"value\":";
+  AppendKnown(out, place.value, failure.place.has_value());
+  out += ",\"reason\":";
+  AppendKnown(out, place.reason, !place.reason.empty());
   out += '}';
 }
 

@@ -19,7 +19,8 @@ void AppendJsonBoolean(std::string& out, bool value);
 /// Appends a number that reads back as the same double.
 void AppendJsonNumber(std::string& out, double value);
 
-/// Appends an object with `kind` and `message`.
+/// Appends an object with `kind` and `message`, and with `line`, `field`, `value` and `reason`,
+/// each null where it is not known.
 void AppendJsonFailure(std::string& out, const ReportFailure& failure);
 
 /// Appends `[...]` or `{...}` with a comma between what `append` makes of each element.

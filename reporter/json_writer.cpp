@@ -1,6 +1,7 @@
 #include "reporter/json_writer.h"
 
 #include "core/number_text.h"
+#include "reporter/file_text.h"
 #include "reporter/json_text.h"
 
 namespace halvane {
@@ -81,7 +82,7 @@ void AppendReport(std::string& out, const RichText& report) {
 
 void BeginLine(std::string& out, std::string_view file, const ToolRow& tool) {
   out += "{\"file\":";
-  AppendJsonString(out, file);
+  AppendJsonString(out, EscapedFileName(file));
   out += ",\"tool\":";
   AppendJsonString(out, tool.key);
 }

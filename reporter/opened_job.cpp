@@ -56,6 +56,12 @@ void LongNames::PutBack() {
   names_.clear();
 }
 
+JobState& OpenedState() {
+  // Lives on, so that the arrays keep their memory from job to job.
+  static JobState opened;
+  return opened;
+}
+
 std::optional<ReportFailure> OpenAfresh(const std::string& file, LengthUnit units) {
   return Try([&file, units]() -> std::optional<ReportFailure> {
     // Assigned from one that lives on, so that the arrays keep their memory from job to job.

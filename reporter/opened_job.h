@@ -35,23 +35,22 @@ class LongNames {
   std::vector<std::pair<int, TaggedField>> names_;  ///< by the number of the name in the job
 };
 
+/// The job as it was when `ForEachTool` was called last, without its long names.
+JobState& OpenedState();
+
 /// Runs `action` with each tool and its place in `tools`, `Module1` being the job each time as it
 /// stands when this is called: nothing that one tool stores comes through to the next.
 template <typename Action>
 void ForEachTool(std::span<const ToolRow* const> tools, const Action& action) {
-  // Lives on, so that the arrays keep their memory from job to job.
-  static JobState opened;
   LongNames longNames;
   for (std::size_t i = 0; i < tools.size(); ++i) {
-    if (tools.size() > 1) {
-      longNames.PutAside();
-      if (i == 0) {
-        opened = Module1;
-      } else {
-        Module1 = opened;
-      }
-      longNames.PutBack();
+    longNames.PutAside();
+    if (i == 0) {
+      OpenedState() = Module1;
+    } else {
+      Module1 = OpenedState();
     }
+    longNames.PutBack();
     action(*tools[i], i);
   }
 }

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "reporter/output.h"
+#include "reporter/piped_job.h"
 #include "reporter/printable_text.h"
 
 namespace halvane {
@@ -95,8 +96,14 @@ struct Given {
   std::string format;
   std::string units;
   std::string filesFrom;
+  bool null = false;
   std::vector<std::string> files;
 };
+
+ReportFormat FormatOf(const Given& given) {
+  if (!given.format.empty()) return WordNamed(kFormats, given.format)->value;
+  return given.filesFrom.empty() ? ReportFormat::Text : ReportFormat::Json;
+}
 
 /// Why the options do not go together; empty when they do.
 std::string ComplaintOf(const Given& given) {
@@ -116,6 +123,11 @@ std::string ComplaintOf(const Given& given) {
       std::ranges::count(given.tools, given.sort) == 0) {
     return "--sort: the tool \"" + given.sort + "\" is not among those of --tool";
   }
+  const bool isCheckAsText = given.check && FormatOf(given) == ReportFormat::Text;
+  if (given.null && given.filesFrom.empty() && !isCheckAsText) {
+    return "--null: is for --files-from and for --check as text";
+  }
+  if (std::ranges::count(given.files, kStandardInput) > 1) return "-: may be given once";
   return {};
 }
 
@@ -132,11 +144,6 @@ std::vector<const ToolRow*> ToolsOf(std::span<const ToolRow> tools,
   return rows;
 }
 
-ReportFormat FormatOf(const Given& given) {
-  if (!given.format.empty()) return WordNamed(kFormats, given.format)->value;
-  return given.filesFrom.empty() ? ReportFormat::Text : ReportFormat::Json;
-}
-
 Options Collect(std::span<const ToolRow> tools, Given given) {
   Options options;
   if (given.summary) options.wish = Wish::Summary;
@@ -145,7 +152,8 @@ Options Collect(std::span<const ToolRow> tools, Given given) {
   if (!given.sort.empty()) options.sortBy = ToolNamed(tools, given.sort);
   options.format = FormatOf(given);
   if (!given.units.empty()) options.units = WordNamed(kUnits, given.units)->value;
-  options.filesFromInput = !given.filesFrom.empty();
+  if (!given.filesFrom.empty()) options.list = WithoutGuard(given.filesFrom);
+  options.namesEndInZero = given.null;
   options.files = std::move(given.files);
   for (std::string& file : options.files) file = WithoutGuard(std::move(file));
   return options;
@@ -193,17 +201,18 @@ std::variant<Options, Notice> ParseOptions(std::vector<std::string> arguments,
       ->type_name("NAME")
       ->check(UnitsComplaint);
   app.add_option("--files-from", given.filesFrom,
-                 "-: standard input names the files, one a line; the format is then json by "
-                 "default, and each job is written as it is done")
-      ->type_name("-")
-      ->check([](const std::string& from) {
-        return from == "-" ? std::string() : "only - is there, which is standard input";
-      });
-  app.add_option("FILE", given.files, "Job file (.qjt), or a folder for all those in and below it")
+                 "A file that names the files, one a line; - is standard input, and each job is "
+                 "then written as it is done; the format is json by default")
+      ->type_name("LIST");
+  app.add_flag("-0,--null", given.null,
+               "A zero byte ends each name: in LIST, and in the lines of a check as text");
+  app.add_option("FILE", given.files,
+                 "Job file (.qjt), or a folder for all those in and below it; - is standard input")
       ->type_name("");
   app.footer(
       "Exit status: 0 all is done, 1 a file could not be read or not whole, a computation failed "
-      "or the output could not be written, 2 wrong use, 130 ended by Ctrl-C.");
+      "or the output could not be written, 2 wrong use, 130 ended by Ctrl-C, 143 by SIGTERM, 141 "
+      "by the end of who reads the output.");
 
   GuardBrackets(arguments);
   std::reverse(arguments.begin(), arguments.end());  // the order that the parser takes them in

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -26,7 +27,9 @@ struct Options {
   const ToolRow* sortBy = nullptr;        ///< of a summary: by this one of `tools`, worst first
   LengthUnit units = LengthUnit::Metric;  ///< what the hand spans of the jobs are taken in
   std::vector<std::string> files;         ///< and folders
-  bool filesFromInput = false;            ///< standard input names the files, `files` is empty
+  /// Of the file that names the files, "-" for standard input; `files` is empty then.
+  std::optional<std::string> list;
+  bool namesEndInZero = false;  ///< names in the list, and in lines of a check
 };
 
 /// The command line asks for no report: help, the version, or wrong use.

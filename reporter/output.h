@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -16,10 +17,11 @@ class OutputFailure : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
-/// Standard output, written in large pieces.
+/// Standard output, written in large pieces. A pipe, which other programs may write into too, gets
+/// whole lines in pieces that the system keeps in one; a longer line is a piece of its own, which
+/// another program's may come into the middle of.
 class StandardOutput {
  public:
-  /// A closed pipe becomes an `OutputFailure` instead of the end of the program.
   StandardOutput();
 
   /// What is to be written; append to it.
@@ -34,6 +36,10 @@ class StandardOutput {
  private:
   static constexpr std::size_t kPieceSize = 256 * 1024;
 
+  /// How much of what is pending goes out in one call.
+  [[nodiscard]] std::string_view NextPiece(std::string_view rest) const;
+
+  std::size_t mostAtOnce_ = SIZE_MAX;  ///< bytes that are kept in one
   std::string pending_;
 };
 

@@ -51,8 +51,12 @@ std::error_code Write(HANDLE output, std::string_view text) {
 
 StandardOutput::StandardOutput() = default;
 
+std::string_view StandardOutput::NextPiece(std::string_view rest) const {
+  return rest.substr(0, mostAtOnce_);
+}
+
 void StandardOutput::Flush() {
-  const std::error_code error = Write(GetStdHandle(STD_OUTPUT_HANDLE), pending_);
+  const std::error_code error = Write(GetStdHandle(STD_OUTPUT_HANDLE), NextPiece(pending_));
   pending_.clear();
   if (error) throw OutputFailure(files::ReasonOf(error));
 }

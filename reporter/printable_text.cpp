@@ -4,6 +4,7 @@
 #include <cstddef>
 
 #include "core/job_text_encoding.h"
+#include "reporter/hidden_characters.h"
 
 namespace halvane {
 namespace {
@@ -11,12 +12,6 @@ namespace {
 constexpr std::string_view kReplacement = "\xEF\xBF\xBD";  // U+FFFD
 
 bool IsPlain(char c) { return c >= ' ' && c <= '~'; }
-
-std::size_t LengthByLead(unsigned char lead) {
-  if (lead >= 0xF0) return 4;
-  if (lead >= 0xE0) return 3;
-  return lead >= 0xC2 ? 2 : 1;
-}
 
 /// U+0000 to U+001F and U+007F to U+009F.
 bool IsControl(std::string_view character) {
@@ -34,7 +29,13 @@ std::string PrintableText(std::string_view text) {
     const std::string_view character =
         text.substr(0, LengthByLead(static_cast<unsigned char>(text[0])));
     const bool wellFormed = IsUtf8(character);
-    printable += wellFormed && !IsControl(character) ? character : kReplacement;
+    if (!wellFormed || IsControl(character)) {
+      printable += kReplacement;
+    } else if (IsHiddenCharacter(character)) {
+      printable += EscapeOfCharacter(character);
+    } else {
+      printable += character;
+    }
     text.remove_prefix(wellFormed ? character.size() : 1);
   }
   return printable;

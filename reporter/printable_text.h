@@ -7,7 +7,7 @@ namespace halvane {
 
 /// `text` for a terminal or a page: what is no well-formed UTF-8 and every control character, tabs
 /// and line ends included, comes out as U+FFFD, so that nothing in a job file or its name can steer
-/// a terminal.
+/// a terminal. A hidden character comes out as its number, "<U+202E>".
 std::string PrintableText(std::string_view text);
 
 }  // namespace halvane

@@ -4,6 +4,7 @@
 #include <memory>
 #include <optional>
 
+#include "core/file_calls.h"
 #include "core/number_text.h"
 #include "core/user_folders.h"
 #include "reporter/check_command.h"
@@ -12,6 +13,7 @@
 #include "reporter/job_reports.h"
 #include "reporter/options.h"
 #include "reporter/output.h"
+#include "reporter/piped_job.h"
 #include "reporter/printable_text.h"
 #include "reporter/progress.h"
 #include "reporter/summary_command.h"
@@ -22,7 +24,6 @@ namespace {
 constexpr int kAllDone = 0;
 constexpr int kSomeFailed = 1;
 constexpr int kWrongUse = 2;
-constexpr int kInterrupted = 130;
 
 void Complain(const std::string& complaint) {
   WriteErrorText(std::string(kProgramName) + ": " + PrintableText(complaint) +
@@ -44,10 +45,14 @@ std::unique_ptr<JobCommand> CommandFor(const Options& options) {
     case Wish::Summary:
       return std::make_unique<SummaryCommand>(options.tools, options.units, options.format,
                                               options.sortBy);
-    case Wish::Check: return std::make_unique<CheckCommand>(options.format, StateFolder());
+    case Wish::Check:
+      return std::make_unique<CheckCommand>(
+          options.format, StateFolder(), options.namesEndInZero ? NameEnd::Zero : NameEnd::Colon);
     case Wish::Reports: break;
   }
-  const bool one = options.files.size() * options.tools.size() == 1;
+  // Who names a folder means all that is in it.
+  const bool one = !options.list && options.files.size() * options.tools.size() == 1 &&
+                   !files::IsFolder(options.files.front());
   return std::make_unique<ReportCommand>(options.tools, options.units, options.format, !one);
 }
 
@@ -59,11 +64,11 @@ double Seconds() {
 /// The way of the program through the jobs.
 class JobRun {
  public:
-  JobRun(StandardOutput& output, const Options& options)
+  JobRun(StandardOutput& output, const Options& options, std::optional<InputLines> list)
       : output_(output),
-        list_(options.files, options.filesFromInput),
+        list_(options.files, std::move(list)),
         command_(CommandFor(options)),
-        flushesEachJob_(options.filesFromInput && command_->writesAsItGoes()) {
+        flushesEachJob_(options.list == kStandardInput && command_->writesAsItGoes()) {
     // Output that comes on the same terminal tells itself how far the work is.
     const bool outputShows = command_->writesAsItGoes() && OutputIsTerminal();
     if (ErrorIsTerminal() && !outputShows) {
@@ -91,7 +96,14 @@ class JobRun {
 
  private:
   void DoJob(const std::string& file) {
-    JobOutcome outcome = command_->Do(output_.pending(), file);
+    std::optional<JobSource> job;
+    const auto unread = Try([&]() -> std::optional<ReportFailure> {
+      job = piped_.SourceOf(file, list_.isStandardInput());
+      return std::nullopt;
+    });
+    // What cannot be taken from its pipe fails as a file of this name does.
+    JobOutcome outcome = command_->Do(output_.pending(), job.value_or(JobSource(file)));
+    if (unread) outcome.complaints = {Complaint(file, *unread)};
     ++jobs_;
     if (outcome.failed) status_ = kSomeFailed;
     if (flushesEachJob_) {
@@ -115,19 +127,30 @@ class JobRun {
 
   [[nodiscard]] int EndInterrupted() const {
     const std::string count = PlainText(static_cast<double>(jobs_));
-    Complain("interrupted; done so far: " + count + (jobs_ == 1 ? " job" : " jobs"));
-    EndByInterruption();
-    return kInterrupted;
+    Complain(std::string(InterruptionWord()) + "; done so far: " + count +
+             (jobs_ == 1 ? " job" : " jobs"));
+    return EndByInterruption();
   }
 
   StandardOutput& output_;
   JobList list_;
+  PipedJob piped_;
   std::unique_ptr<JobCommand> command_;
   bool flushesEachJob_;
   std::optional<Progress> progress_;
   std::size_t jobs_ = 0;
   int status_ = kAllDone;
 };
+
+/// Opens the list of names that the user gave, if any; false where it cannot be read.
+bool OpenList(const Options& options, std::optional<InputLines>& list) {
+  if (!options.list) return true;
+  list.emplace(options.namesEndInZero ? InputLines::End::Zero : InputLines::End::Line);
+  if (*options.list == kStandardInput) return true;
+  const auto error = list->Open(*options.list);
+  if (error) Complain("--files-from: " + *options.list + ": " + files::ReasonOf(error));
+  return !error;
+}
 
 }  // namespace
 
@@ -137,7 +160,10 @@ int RunReporter(std::vector<std::string> arguments) {
   try {
     if (const auto* notice = std::get_if<Notice>(&asked)) return WriteNotice(output, *notice);
     WatchForInterruption();
-    return JobRun(output, std::get<Options>(asked)).Do();
+    const auto& options = std::get<Options>(asked);
+    std::optional<InputLines> list;
+    if (!OpenList(options, list)) return kWrongUse;
+    return JobRun(output, options, std::move(list)).Do();
   } catch (const OutputFailure& failure) {
     Complain(std::string("standard output: ") + failure.what());
     return kSomeFailed;

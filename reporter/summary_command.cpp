@@ -11,8 +11,8 @@ SummaryCommand::SummaryCommand(SummaryTools tools, LengthUnit units, ReportForma
   if (place != tools_.end()) sortColumn_ = static_cast<std::size_t>(place - tools_.begin());
 }
 
-JobOutcome SummaryCommand::Do(std::string& out, const std::string& file) {
-  auto complaints = Summarise(summary_, file, units_, tools_);
+JobOutcome SummaryCommand::Do(std::string& out, const JobSource& job) {
+  auto complaints = Summarise(summary_, job, units_, tools_);
   if (sortColumn_) {
     kept_.push_back(summary_);
   } else {

@@ -15,7 +15,7 @@ class SummaryCommand : public JobCommand {
   SummaryCommand(SummaryTools tools, LengthUnit units, ReportFormat format, const ToolRow* sortBy);
 
   void Begin(std::string& out) override { writer_->Begin(out); }
-  JobOutcome Do(std::string& out, const std::string& file) override;
+  JobOutcome Do(std::string& out, const JobSource& job) override;
   void End(std::string& out) override;
   [[nodiscard]] bool writesAsItGoes() const override {
     return !sortColumn_ && writer_->writesAsItGoes();

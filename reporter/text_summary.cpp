@@ -37,7 +37,7 @@ void TextSummary::Row(std::string& /*out*/, const JobSummary& summary) {
     const SummaryCell& cell = summary.cells[i];
     for (std::size_t j = 0; j < columns.size(); ++j) {
       if (cell.reason) {
-        cells.push_back({j == 0 ? Shortened(cell.reason->message) : ""});
+        cells.push_back({j == 0 ? Shortened(ShortMessage(*cell.reason)) : ""});
       } else {
         const Headline::Value& value = cell.headline.values[j];
         cells.push_back(

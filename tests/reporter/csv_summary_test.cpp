@@ -13,7 +13,8 @@ std::string LinesOf(const std::vector<JobSummary>& summaries) {
 }
 
 constexpr std::string_view kHeadings =
-    "file,analyst,job,workstation,index_index,index_zone,grade_score,grade_level,error\n";
+    "file,analyst,job,workstation,index_index,index_zone,grade_score,grade_level,reasons,file_shown"
+    "\r\n";
 
 TEST(SummaryCsv, HasHeadingsAndOneLineAJob) {
   JobSummary other = SampleSummary();
@@ -21,28 +22,34 @@ TEST(SummaryCsv, HasHeadingsAndOneLineAJob) {
   other.cells[0].headline.values[0] = 1.0 / 3;
   EXPECT_EQ(LinesOf({SampleSummary(), other}),
             std::string(kHeadings) +
-                "a.qjt,Ann,Press line,W-17,1.5,Yellow,9,3,\n"
-                "b.qjt,Ann,Press line,W-17,0.333333333333333,Yellow,9,3,\n");
+                "a.qjt,Ann,Press line,W-17,1.5,Yellow,9,3,,a.qjt\r\n"
+                "b.qjt,Ann,Press line,W-17,0.333333333333333,Yellow,9,3,,b.qjt\r\n");
   EXPECT_EQ(LinesOf({}), kHeadings);
 }
 
-TEST(SummaryCsv, ReasonStandsInTheFirstCellOfItsTool) {
+TEST(SummaryCsv, ReasonsStandInAColumnOfTheirOwn) {
   JobSummary summary = SampleSummary();
   summary.cells[0].reason = ReportFailure{"Overflow", "Overflow, \"9\""};
   EXPECT_EQ(LinesOf({summary}),
-            std::string(kHeadings) + "a.qjt,Ann,Press line,W-17,\"Overflow, \"\"9\"\"\",,9,3,\n");
+            std::string(kHeadings) +
+                "a.qjt,Ann,Press line,W-17,,,9,3,\"index: Overflow, \"\"9\"\"\",a.qjt\r\n");
+  summary.cells[1].reason = ReportFailure{"Overflow", "Overflow"};
+  EXPECT_EQ(LinesOf({summary}), std::string(kHeadings) +
+                                    "a.qjt,Ann,Press line,W-17,,,,,\"index: Overflow, \"\"9\"\"; "
+                                    "grade: Overflow\",a.qjt\r\n");
 }
 
-TEST(SummaryCsv, FileThatCouldNotBeReadHasItsReasonInTheLastCell) {
-  EXPECT_EQ(LinesOf({UnreadableSummary()}),
-            std::string(kHeadings) + "gone.qjt,,,,,,,,File error: gone.qjt: No such file\n");
+TEST(SummaryCsv, FileThatCouldNotBeReadHasItsReason) {
+  EXPECT_EQ(
+      LinesOf({UnreadableSummary()}),
+      std::string(kHeadings) + "gone.qjt,,,,,,,,File error: gone.qjt: No such file,gone.qjt\r\n");
 }
 
 TEST(SummaryCsv, NegativeNumberStaysANumber) {
   JobSummary summary = SampleSummary();
   summary.cells[0].headline.values[0] = -0.8;
   EXPECT_EQ(LinesOf({summary}),
-            std::string(kHeadings) + "a.qjt,Ann,Press line,W-17,-0.8,Yellow,9,3,\n");
+            std::string(kHeadings) + "a.qjt,Ann,Press line,W-17,-0.8,Yellow,9,3,,a.qjt\r\n");
 }
 
 struct TextRow {
@@ -87,7 +94,26 @@ TEST(SummaryCsv, EveryTextOfTheJobIsEscaped) {
   summary.analyst = "=a";
   summary.job = "=j";
   summary.workstation = "=w";
-  EXPECT_EQ(LinesOf({summary}), std::string(kHeadings) + "'=f,'=a,'=j,'=w,1.5,Yellow,9,3,\n");
+  EXPECT_EQ(LinesOf({summary}), std::string(kHeadings) + "=f,'=a,'=j,'=w,1.5,Yellow,9,3,,'=f\r\n");
+}
+
+TEST(SummaryCsv, FileIsFoundAgainByItsName) {
+  const std::vector<TextRow> rows = {
+      {"=f.qjt", "=f.qjt"},
+      {"a,b.qjt", "\"a,b.qjt\""},
+      {"caf\xE9.qjt", "caf\\xE9.qjt"},
+      {"caf\u00E9\xFF\u65E5", "caf\u00E9\\xFF\u65E5"},
+      {"a\nb\x7F", "a\\x0Ab\\x7F"},
+      {"a\\xE9", "a\\x5CxE9"},
+      {"a\\b", "a\\b"},
+      {" -x", "\" -x\""},
+  };
+  for (const TextRow& row : rows) {
+    JobSummary summary = SampleSummary();
+    summary.file = row.text;
+    const std::string lines = LinesOf({summary});
+    EXPECT_EQ(lines.substr(kHeadings.size()).find(std::string(row.cell) + ",Ann,"), 0U) << lines;
+  }
 }
 
 }  // namespace

@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <nlohmann/json.hpp>
 
@@ -52,9 +53,11 @@ TEST(FilesFrom, CheckIsOneObjectALine) {
 TEST(FilesFrom, OtherFormatsAreThereForTheAsking) {
   RunningProgram program({"--files-from", "-", "--summary", "--tool", "rula", "--format", "csv"});
   program.Write("packing-line.qjt\n");
-  EXPECT_EQ(program.ReadLine(), "file,analyst,job,workstation,rula_grand_score,error\n");
   EXPECT_EQ(program.ReadLine(),
-            "packing-line.qjt,Line 4 review,\"Carton packing, end of line\",L4-P2,7,\n");
+            "file,analyst,job,workstation,rula_grand_score,reasons,file_shown\r\n");
+  EXPECT_EQ(program.ReadLine(),
+            "packing-line.qjt,Line 4 review,\"Carton packing, end of "
+            "line\",L4-P2,7,,packing-line.qjt\r\n");
   EXPECT_EQ(program.Finish().output, "");
 }
 
@@ -68,8 +71,8 @@ ProgramRun RunWith(const Arguments& arguments, std::string_view input) {
 TEST(FilesFrom, LinesAreTakenAsTheyStand) {
   const TemporaryFolder folder;
   const std::string bytes = BytesOf(SourcePath("docs/samples/packing-line.qjt"));
-  const std::vector<std::string> names{"a b.qjt", "-x.qjt", "caf\xE9.qjt", "tail .qjt",
-                                       "[a,b]",   "re\r",   "--summary"};
+  const std::vector<std::string> names{"a b.qjt",   "-x.qjt", "caf\xE9.qjt",
+                                       "tail .qjt", "[a,b]",  "--summary"};
   std::string input;
   for (const std::string& name : names) {
     WriteBytes(folder.File(name), bytes);
@@ -81,6 +84,84 @@ TEST(FilesFrom, LinesAreTakenAsTheyStand) {
   EXPECT_EQ(run.status, 0) << run.error;
   EXPECT_EQ(std::count(run.output.begin(), run.output.end(), '\n'),
             static_cast<std::ptrdiff_t>(names.size() + 1));
+}
+
+TEST(FilesFrom, ListsOfOtherSystemsAreTaken) {
+  const ProgramRun run = RunWith({"--files-from", "-", "--tool", "si"},
+                                 "\xEF\xBB\xBFpacking-line.qjt\r\n\r\nboard-assembly.qjt\r\n");
+  EXPECT_EQ(run.status, 0) << run.error;
+  EXPECT_EQ(std::count(run.output.begin(), run.output.end(), '\n'), 2);
+}
+
+TEST(FilesFrom, NamesThatAZeroByteEndsAreTakenAsTheyStand) {
+  const TemporaryFolder folder;
+  const std::string bytes = BytesOf(SourcePath("docs/samples/packing-line.qjt"));
+  std::string input;
+  for (const std::string name : {"line\nfeed.qjt", "re\r", "\xEF\xBB\xBF.qjt", "caf\xE9.qjt"}) {
+    WriteBytes(folder.File(name), bytes);
+    input += folder.File(name) + '\0';
+  }
+  const ProgramRun run = RunWith({"--files-from", "-", "-0", "--tool", "si"}, input);
+  EXPECT_EQ(run.status, 0) << run.error;
+  EXPECT_EQ(std::count(run.output.begin(), run.output.end(), '\n'), 4);
+  EXPECT_NE(run.output.find("caf\\\\xE9.qjt"), std::string::npos) << run.output;
+}
+
+TEST(FilesFrom, CheckWritesNamesThatAZeroByteEnds) {
+  const TemporaryFolder folder;
+  const std::string path = folder.File("a\nb.qjt");
+  WriteBytes(path, EmptyJobWith(6, "9"));
+  const ProgramRun run = RunReport({"--check", "--null", path});
+  EXPECT_EQ(run.output, path + std::string(1, '\0') +
+                            "6: warning: RulaControlState(0): \"9\": is outside its range, 0 to 4; "
+                            "rula fails\n");
+}
+
+TEST(FilesFrom, ListIsAFileOrAPipe) {
+  const TemporaryFolder folder;
+  WriteBytes(folder.File("list"), "packing-line.qjt\nboard-assembly.qjt\n");
+  const ProgramRun file = RunReport({"--files-from", folder.File("list"), "--tool", "si"});
+  EXPECT_EQ(file.status, 0) << file.error;
+  EXPECT_EQ(std::count(file.output.begin(), file.output.end(), '\n'), 2);
+  const ProgramRun pipe = RunProgram("bash",
+                                     {"-c", "exec \"$1\" --files-from <(cat \"$2\") --tool si",
+                                      "bash", HALVANE_REPORT, folder.File("list")},
+                                     SourcePath("docs/samples"));
+  EXPECT_EQ(pipe.output, file.output) << pipe.error;
+  const ProgramRun gone = RunReport({"--files-from", folder.File("gone"), "--tool", "si"});
+  EXPECT_EQ(gone.status, 2);
+  EXPECT_EQ(gone.output, "");
+  EXPECT_EQ(gone.error, "halvane-report: --files-from: " + folder.File("gone") +
+                            ": No such file or directory\n");
+}
+
+TEST(PipedJobs, AreReadAsFilesAre) {
+  const std::string file = RunReport({"--tool", "si", "packing-line.qjt"}).output;
+  const auto run = [](const std::string& command) {
+    return RunProgram("bash", {"-c", command, "bash", HALVANE_REPORT}, SourcePath("docs/samples"));
+  };
+  for (const std::string command :
+       {"cat packing-line.qjt | \"$1\" --tool si -", "\"$1\" --tool si - < packing-line.qjt",
+        "\"$1\" --tool si <(cat packing-line.qjt)",
+        "cat packing-line.qjt | \"$1\" --tool si /dev/stdin"}) {
+    const ProgramRun piped = run(command);
+    EXPECT_EQ(piped.status, 0) << piped.error;
+    EXPECT_EQ(piped.output, file) << command;
+  }
+  const ProgramRun check = run("printf x | \"$1\" --check -");
+  EXPECT_EQ(check.status, 1);
+  EXPECT_EQ(check.output,
+            "-:1: refused: constant 1: the file ends where this field should stand\n");
+}
+
+TEST(PipedJobs, PipeInAFolderIsNotWaitedFor) {
+  const TemporaryFolder folder;
+  ASSERT_EQ(mkfifo(folder.File("a.qjt").c_str(), 0600), 0);
+  const ProgramRun run = RunReport({"--check", folder.path(), folder.File("a.qjt")});
+  EXPECT_EQ(run.status, 1);
+  const std::string complaint =
+      "halvane-report: File error: " + folder.File("a.qjt") + ": not a regular file\n";
+  EXPECT_EQ(run.error, complaint + complaint);
 }
 
 TEST(FilesFrom, FoldersAreWalked) {
@@ -102,7 +183,7 @@ TEST(FilesFrom, WhatIsNoNameIsToldAndTheRestDone) {
        "halvane-report: File error: gone.qjt: No such file or directory\n"},
       {"zero bytes", std::string("packing-line.qjt\0x\0\npacking-line.qjt\n", 37),
        "halvane-report: standard input: a line holds a zero byte; file names are expected one a "
-       "line\n"},
+       "line, or with --null\n"},
       {"endless line", std::string(70000, 'x') + "\npacking-line.qjt\n",
        "halvane-report: standard input: a line is longer than any file name\n"},
       {"too long for the system", std::string(5000, 'x') + "\npacking-line.qjt\n",
@@ -154,7 +235,7 @@ TEST(FilesFrom, OutputThatIsClosedEndsTheWork) {
        "sh", HALVANE_REPORT},
       SourcePath("docs/samples"));
   EXPECT_EQ(std::count(run.output.begin(), run.output.end(), '\n'), 2);
-  EXPECT_EQ(run.error, "halvane-report: standard output: Broken pipe\n1\n");
+  EXPECT_EQ(run.error, "141\n");
 }
 
 }  // namespace

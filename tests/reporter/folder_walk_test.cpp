@@ -34,7 +34,7 @@ class FolderWalkTest : public testing::Test {
     return names;
   }
   Names Walked(const std::string& name = "") {
-    JobList list({name.empty() ? folder_.path() : folder_.File(name)}, false);
+    JobList list({name.empty() ? folder_.path() : folder_.File(name)});
     return NamesOf(list);
   }
 
@@ -150,14 +150,14 @@ TEST_F(FolderWalkTest, NamesComeAsTheUserGaveThem) {
   Make("b/1.qjt");
   Make("a.qjt");
   const std::string slash = folder_.File("b/");
-  JobList list({slash, folder_.File("a.qjt"), folder_.File("gone.qjt"), folder_.File("b")}, false);
+  JobList list({slash, folder_.File("a.qjt"), folder_.File("gone.qjt"), folder_.File("b")});
   EXPECT_EQ(NamesOf(list), (Names{"b/1.qjt", "a.qjt", "gone.qjt", "b/1.qjt"}));
   EXPECT_EQ(complaints_, Names{});
 }
 
 TEST_F(FolderWalkTest, CountIsThatOfTheJobsToCome) {
   for (const std::string name : {"b/1.qjt", "b/2.qjt", "b/c/3.qjt", "a.qjt"}) Make(name);
-  JobList list({folder_.File("a.qjt"), folder_.File("b"), folder_.File("gone")}, false);
+  JobList list({folder_.File("a.qjt"), folder_.File("b"), folder_.File("gone")});
   EXPECT_EQ(list.CountLeft(), 5U);
   list.Next(complaints_);
   list.Next(complaints_);
@@ -165,7 +165,7 @@ TEST_F(FolderWalkTest, CountIsThatOfTheJobsToCome) {
   // Counting takes nothing away.
   EXPECT_EQ(NamesOf(list), (Names{"b/2.qjt", "b/c/3.qjt", "gone"}));
   EXPECT_EQ(list.CountLeft(), 0U);
-  EXPECT_EQ(JobList({}, true).CountLeft(), std::nullopt);
+  EXPECT_EQ(JobList({}, InputLines()).CountLeft(), std::nullopt);
 }
 
 }  // namespace

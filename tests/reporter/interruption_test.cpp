@@ -26,6 +26,19 @@ TEST(Interruption, WhatIsDoneIsWrittenAndCounted) {
   EXPECT_EQ(run.error, "halvane-report: interrupted; done so far: 2 jobs\n");
 }
 
+TEST(Interruption, EndThatASystemAsksForCompletesThePageToo) {
+  RunningProgram program({"--files-from", "-", "--summary", "--tool", "rula", "--format", "html"});
+  program.Write("packing-line.qjt\n");
+  while (program.ReadLine().find("packing-line.qjt") == std::string::npos) {
+    if (testing::Test::HasFailure()) return;
+  }
+  program.Interrupt(SIGTERM);
+  const ProgramRun run = program.End();
+  EXPECT_EQ(run.status, 128 + SIGTERM);
+  EXPECT_EQ(run.output, "</tbody>\n</table>\n</body>\n</html>\n");
+  EXPECT_EQ(run.error, "halvane-report: terminated; done so far: 1 job\n");
+}
+
 TEST(Interruption, RowsThatWaitForTheEndAreWritten) {
   for (const std::vector<std::string>& order :
        {std::vector<std::string>{}, std::vector<std::string>{"--sort", "rula"}}) {

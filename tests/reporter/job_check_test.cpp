@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
+#include <ctime>
+
 #include "reporter/check_command.h"
 #include "tests/reporter/run_program.h"
 #include "tests/support/test_support.h"
@@ -121,7 +123,9 @@ TEST_F(JobCheckTest, LongFilesHaveTheSameProblems) {
       {"long name", EmptyJobWith(4, "\"" + name + "\",\"\",\"\",0,8"), JobVerdict::Good, ""},
       {"copies", EmptyJobWith(4, "\"\",\"\",\"\",0,\"" + name + "\""), JobVerdict::Good,
        "a.qjt:4: warning: JobDurationPerDay: \"" + std::string(40, 'x') +
-           "...\": differs from the copy on line 3, \"8\"; the later copy counts\n"},
+           "...\": differs from the copy on line 3, \"8\"; the later copy counts\n"
+           "a.qjt:4: warning: JobDurationPerDay: \"" +
+           std::string(40, 'x') + "...\": is no number; it counts as 0\n"},
       {"behind the end", EmptyJobText() + "\r\nmore\r\n" + name, JobVerdict::Good,
        "a.qjt:66: warning: \"more\": stands behind the last task and is not read\n"},
   };
@@ -179,7 +183,10 @@ TEST_F(JobCheckTest, CopiesThatDifferAreToldWithTheLineOfTheOther) {
        "67: warning: OcraActionFrequency(1): \"0\": differs from the copy on line 66, \"12\"; the "
        "later copy counts"},
       {"long text", JobWithTask({{2, "\"" + std::string(41, 'x') + "\",0"}}),
-       "67: warning: OcraActionFrequency(1): \"0\": differs from the copy on line 66, \"" +
+       "66: warning: OcraActionFrequency(1): \"" + std::string(40, 'x') +
+           "...\": is no number; it counts as 0\n"
+           "a.qjt:67: warning: OcraActionFrequency(1): \"0\": differs from the copy on line 66, "
+           "\"" +
            std::string(40, 'x') + "...\"; the later copy counts"},
       {"work time", JobWithTask({{3, "0,0.1,0,0,0,0,0"}}),
        "69: warning: CtdWorkTime(1): \"0\": differs from the copy on line 67, \"0.1\"; the later "
@@ -206,55 +213,73 @@ TEST_F(JobCheckTest, CopiesThatDifferAreToldWithTheLineOfTheOther) {
 TEST_F(JobCheckTest, ValuesThatNoControlStoresAreToldWithTheirRange) {
   const std::vector<WarningRow> rows = {
       {"upper arm", EmptyJobWith(6, "5"),
-       "6: warning: RulaControlState(0): \"5\": is outside its range, 0 to 4"},
+       "6: warning: RulaControlState(0): \"5\": is outside its range, 0 to 4; rula fails"},
       {"last upper arm", EmptyJobWith(6, "4"), ""},
       {"below", EmptyJobWith(7, "-1"),
-       "7: warning: RulaControlState(1): \"-1\": is outside its range, 0 to 1"},
+       "7: warning: RulaControlState(1): \"-1\": is outside its range, 0 to 1; nothing is set"},
       {"force", EmptyJobWith(23, "4"),
-       "23: warning: RulaControlState(17): \"4\": is outside its range, 0 to 3"},
+       "23: warning: RulaControlState(17): \"4\": is outside its range, 0 to 3; nothing is set"},
       {"trunk", EmptyJobWith(38, "6"),
-       "38: warning: RebaControlState(12): \"6\": is outside its range, 0 to 5"},
+       "38: warning: RebaControlState(12): \"6\": is outside its range, 0 to 5; reba fails"},
       {"entry without a control", EmptyJobWith(31, "1"),
-       "31: warning: RebaControlState(5): \"1\": is outside its range, 0"},
+       "31: warning: RebaControlState(5): \"1\": is outside its range, 0; nothing reads it"},
       {"last activity", EmptyJobWith(48, "2"),
-       "48: warning: RebaControlState(22): \"2\": is outside its range, 0 to 1"},
+       "48: warning: RebaControlState(22): \"2\": is outside its range, 0 to 1; its box stays "
+       "empty; it counts as it stands where a box beside it is set"},
       {"answer", EmptyJobWith(50, "4"),
-       "50: warning: OcraComboChoice(0): \"4\": is outside its range, 0 to 3"},
+       "50: warning: OcraComboChoice(0): \"4\": is outside its range, 0 to 3; ocra fails"},
       {"hand", EmptyJobWith(4, "\"\",\"\",\"\",2,8"),
-       "4: warning: Hand: \"2\": is outside its range, 0 to 1"},
+       "4: warning: Hand: \"2\": is outside its range, 0 to 1; every tool fails"},
       {"intensity", EmptyJobWith(49, "0,0,0,0,15,0,0"),
-       "49: warning: SiIntensityPick: \"15\": is outside its range, 0 to 14"},
+       "49: warning: SiIntensityPick: \"15\": is outside its range, 0 to 14; si fails"},
       {"posture", EmptyJobWith(49, "0,0,0,0,0,\"20\",0"),
-       "49: warning: SiPosturePick: \"20\": is outside its range, 0 to 19"},
+       "49: warning: SiPosturePick: \"20\": is outside its range, 0 to 19; si fails"},
       {"between two postures", EmptyJobWith(49, "0,0,0,0,0,1.5,0"),
-       "49: warning: SiPosturePick: \"1.5\": is outside its range, 0 to 19"},
+       "49: warning: SiPosturePick: \"1.5\": is outside its range, 0 to 19; it counts as 2"},
       {"beyond a double", EmptyJobWith(49, "0,0,0,0,0,\"1E999\",0"),
-       "49: warning: SiPosturePick: \"1E999\": is outside its range, 0 to 19"},
+       "49: warning: SiPosturePick: \"1E999\": is beyond any number that the program can hold; "
+       "each "
+       "tool that reads it fails"},
       {"speed", EmptyJobWith(49, "0,0,0,0,0,0,10"),
-       "49: warning: SiSpeedPick: \"10\": is outside its range, 0 to 9"},
+       "49: warning: SiSpeedPick: \"10\": is outside its range, 0 to 9; si fails"},
       {"last picks", EmptyJobWith(49, "0,0,0,0,14,19,9"), ""},
       {"grip", JobWithTask({{4, "1,0,0,0"}, {6, "0,0,0,0"}}),
-       "68: warning: CtdGripType(1): \"1\": is outside its range, 0, 2, 3, 4\n"
+       "68: warning: CtdGripType(1): \"1\": is outside its range, 0, 2, 3, 4; ctd fails on a task "
+       "that exists\n"
        "a.qjt:70: warning: CtdGripType(1): \"0\": differs from the copy on line 68, \"1\"; the "
        "later copy counts"},
       {"wrist", JobWithTask({{4, "0,2,0,0"}, {6, "0,2,0,0"}}),
-       "68: warning: CtdWristPosition(1): \"2\": is outside its range, 0, 1, 3\n"
-       "a.qjt:70: warning: CtdWristPosition(1): \"2\": is outside its range, 0, 1, 3"},
+       "68: warning: CtdWristPosition(1): \"2\": is outside its range, 0, 1, 3; ctd fails on a "
+       "task that exists\n"
+       "a.qjt:70: warning: CtdWristPosition(1): \"2\": is outside its range, 0, 1, 3; ctd fails on "
+       "a task that exists"},
       {"flexion and deviation", JobWithTask({{4, "0,0,1,5"}, {6, "0,0,1,5"}}),
-       "68: warning: CtdFlexExtDeviation(1): \"1\": is outside its range, 0, 5, 6, 7, 8\n"
-       "a.qjt:68: warning: CtdRadUlnDeviation(1): \"5\": is outside its range, 0 to 4\n"
-       "a.qjt:70: warning: CtdFlexExtDeviation(1): \"1\": is outside its range, 0, 5, 6, 7, 8\n"
-       "a.qjt:70: warning: CtdRadUlnDeviation(1): \"5\": is outside its range, 0 to 4"},
+       "68: warning: CtdFlexExtDeviation(1): \"1\": is outside its range, 0, 5, 6, 7, 8; ctd fails "
+       "on a task that exists\n"
+       "a.qjt:68: warning: CtdRadUlnDeviation(1): \"5\": is outside its range, 0 to 4; ctd fails "
+       "on a task that exists\n"
+       "a.qjt:70: warning: CtdFlexExtDeviation(1): \"1\": is outside its range, 0, 5, 6, 7, 8; ctd "
+       "fails on a task that exists\n"
+       "a.qjt:70: warning: CtdRadUlnDeviation(1): \"5\": is outside its range, 0 to 4; ctd fails "
+       "on a task that exists"},
       {"good codes", JobWithTask({{4, "4,3,8,4"}, {6, "4,3,8,4"}, {7, "3,3,3,3,2,2,3,3"}}), ""},
       {"postures", JobWithTask({{7, "4,4,4,4,3,3,4,4"}}),
-       "71: warning: CtdLtShoulderFlexion(1): \"4\": is outside its range, 0 to 3\n"
-       "a.qjt:71: warning: CtdRtShoulderFlexion(1): \"4\": is outside its range, 0 to 3\n"
-       "a.qjt:71: warning: CtdLtShoulderAbduction(1): \"4\": is outside its range, 0 to 3\n"
-       "a.qjt:71: warning: CtdRtShoulderAbduction(1): \"4\": is outside its range, 0 to 3\n"
-       "a.qjt:71: warning: CtdLtElbowFlexion(1): \"3\": is outside its range, 0 to 2\n"
-       "a.qjt:71: warning: CtdRtElbowFlexion(1): \"3\": is outside its range, 0 to 2\n"
-       "a.qjt:71: warning: CtdBackFlexion(1): \"4\": is outside its range, 0 to 3\n"
-       "a.qjt:71: warning: CtdNeckFlexion(1): \"4\": is outside its range, 0 to 3"},
+       "71: warning: CtdLtShoulderFlexion(1): \"4\": is outside its range, 0 to 3; ctd fails on a "
+       "task that exists\n"
+       "a.qjt:71: warning: CtdRtShoulderFlexion(1): \"4\": is outside its range, 0 to 3; ctd fails "
+       "on a task that exists\n"
+       "a.qjt:71: warning: CtdLtShoulderAbduction(1): \"4\": is outside its range, 0 to 3; ctd "
+       "fails on a task that exists\n"
+       "a.qjt:71: warning: CtdRtShoulderAbduction(1): \"4\": is outside its range, 0 to 3; ctd "
+       "fails on a task that exists\n"
+       "a.qjt:71: warning: CtdLtElbowFlexion(1): \"3\": is outside its range, 0 to 2; ctd fails on "
+       "a task that exists\n"
+       "a.qjt:71: warning: CtdRtElbowFlexion(1): \"3\": is outside its range, 0 to 2; ctd fails on "
+       "a task that exists\n"
+       "a.qjt:71: warning: CtdBackFlexion(1): \"4\": is outside its range, 0 to 3; ctd fails on a "
+       "task that exists\n"
+       "a.qjt:71: warning: CtdNeckFlexion(1): \"4\": is outside its range, 0 to 3; ctd fails on a "
+       "task that exists"},
   };
   ExpectWarnings(rows, [this](std::string_view bytes) { return Said(bytes); });
 }
@@ -307,6 +332,36 @@ TEST_F(JobCheckTest, TextBehindTheEndIsTold) {
   ExpectWarnings(rows, [this](std::string_view bytes) { return Said(bytes); });
 }
 
+/// Processor time of a check, in seconds.
+double SecondsToCheck(const std::string& path) {
+  const std::clock_t start = std::clock();
+  (void)CheckJobFile(path);
+  return static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
+}
+
+TEST_F(JobCheckTest, WarningsOnALongFileTakeNoTimeForEach) {
+  // Ten megabytes in front of all fields but the marker, then hundreds of warnings.
+  const std::string blanks(10'000'000, ' ');
+  const auto withBlanks = [&blanks](std::string job) {
+    return job.insert(job.find(',') + 1, blanks);
+  };
+  const std::string code = "9,9,9,9";
+  std::string warned = EmptyJobText("40");
+  std::string good = warned;
+  const std::string task = JobWithTask({{4, code}, {6, code}}).substr(EmptyJobText("1").size());
+  for (int number = 1; number <= 40; ++number) {
+    warned += task;
+    good += UntouchedTaskText(number);
+  }
+  const std::string goodPath = folder_.File("good.qjt");
+  WriteBytes(goodPath, withBlanks(good));
+  const std::string path = Write(withBlanks(warned));
+  EXPECT_GE(CheckJobFile(path).problems.size(), 300U);
+  EXPECT_EQ(CheckJobFile(goodPath).problems.size(), 0U);
+  // Counted from the begin for each, the lines take a hundred times as long as all the rest.
+  EXPECT_LT(SecondsToCheck(path), 5 * SecondsToCheck(goodPath) + 0.2);
+}
+
 TEST_F(JobCheckTest, JsonHasEveryFileAndAllOfAProblem) {
   const auto json = [this](std::string_view bytes) {
     std::string text;
@@ -318,7 +373,7 @@ TEST_F(JobCheckTest, JsonHasEveryFileAndAllOfAProblem) {
   EXPECT_EQ(json(EmptyJobWith(6, "9")),
             R"json({"file":"a.qjt","verdict":"good","problems":[{"warning":true,"line":6,)json"
             R"json("field":"RulaControlState(0)","found":"9",)json"
-            R"json("message":"is outside its range, 0 to 4"}],"error":null})json"
+            R"json("message":"is outside its range, 0 to 4; rula fails"}],"error":null})json"
             "\n");
   EXPECT_EQ(json(EmptyJobWith(8, "\"x\"\t")),
             R"json({"file":"a.qjt","verdict":"read in part","problems":[{"warning":false,)json"
@@ -331,7 +386,8 @@ TEST_F(JobCheckTest, JsonHasEveryFileAndAllOfAProblem) {
   unreadable.failure = ReportFailure{"FileError", "File error: a.qjt: gone"};
   AppendCheckJson(gone, "a.qjt", unreadable);
   EXPECT_EQ(gone, R"json({"file":"a.qjt","verdict":"refused","problems":[],)json"
-                  R"json("error":{"kind":"FileError","message":"File error: a.qjt: gone"}})json"
+                  R"json("error":{"kind":"FileError","message":"File error: a.qjt: gone",)json"
+                  R"json("line":null,"field":null,"value":null,"reason":null}})json"
                   "\n");
 }
 

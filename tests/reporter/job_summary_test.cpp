@@ -69,7 +69,10 @@ TEST_F(JobSummaryTest, NothingOfAnotherFileOrToolComesThrough) {
 
 TEST_F(JobSummaryTest, FailedToolLeavesTheOthersStanding) {
   const std::string path = Write("a.qjt", "13");
-  EXPECT_EQ(SummariseFile(path), Complaints{path + ": grade: Division by zero"});
+  EXPECT_EQ(
+      SummariseFile(path),
+      Complaints{path + ": grade: Division by zero: line 3, field JobCycleTime: \"13\" leads to a "
+                        "division by 0"});
   EXPECT_EQ(IndexOf(summary_.cells.at(0)), 13);
   EXPECT_FALSE(summary_.cells.at(0).reason);
   ASSERT_TRUE(summary_.cells.at(1).reason);

@@ -28,8 +28,10 @@ TEST(SummaryJson, ToolWithoutAHeadlineHasItsReason) {
   JobSummary summary = SampleSummary();
   summary.cells[1].reason = ReportFailure{"Overflow", "Overflow: \"9\""};
   const Json line = Json::parse(LineOf(summary));
-  EXPECT_EQ(line["tools"]["grade"], Json::parse(R"({"score":null,"level":null,
-                            "error":{"kind":"Overflow","message":"Overflow: \"9\""}})"));
+  EXPECT_EQ(line["tools"]["grade"],
+            Json::parse(R"({"score":null,"level":null,
+                            "error":{"kind":"Overflow","message":"Overflow: \"9\"",)"
+                        R"("line":null,"field":null,"value":null,"reason":null}})"));
   EXPECT_EQ(line["tools"]["index"]["index"], 1.5);
   EXPECT_TRUE(line["error"].is_null());
 }
@@ -43,7 +45,8 @@ TEST(SummaryJson, ZoneWithoutANameIsNull) {
 TEST(SummaryJson, FileThatCouldNotBeReadHasItsReason) {
   EXPECT_EQ(LineOf(UnreadableSummary()),
             R"({"file":"gone.qjt","analyst":null,"job":null,"workstation":null,"tools":null,)"
-            R"("error":{"kind":"FileError","message":"File error: gone.qjt: No such file"}})"
+            R"("error":{"kind":"FileError","message":"File error: gone.qjt: No such file",)"
+            R"("line":null,"field":null,"value":null,"reason":null}})"
             "\n");
 }
 
@@ -56,7 +59,7 @@ TEST(SummaryJson, TextsReadBackWhateverTheyHold) {
   const std::string line = LineOf(summary);
   EXPECT_EQ(line.find('\n'), line.size() - 1);
   const Json parsed = Json::parse(line);
-  EXPECT_EQ(parsed["file"], "caf\uFFFD.qjt");
+  EXPECT_EQ(parsed["file"], "caf\\xE9.qjt");
   EXPECT_EQ(parsed["analyst"], summary.analyst);
   EXPECT_EQ(parsed["job"], summary.job);
   EXPECT_EQ(parsed["workstation"], summary.workstation);

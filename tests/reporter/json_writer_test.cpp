@@ -107,16 +107,17 @@ TEST(ReportJson, LineIsOneLineWhateverIsInTheJob) {
   EXPECT_EQ(line.find('\r'), std::string::npos);
 }
 
-TEST(ReportJson, BytesOfAFileNameThatAreNoUtf8AreReplaced) {
+TEST(ReportJson, BytesOfAFileNameThatAreNoUtf8AreEscaped) {
   const Json line = Json::parse(LineOf(OneLine(""), {}, "caf\xE9 \xFF.qjt"));
-  EXPECT_EQ(line["file"], "caf\uFFFD \uFFFD.qjt");
+  EXPECT_EQ(line["file"], "caf\\xE9 \\xFF.qjt");
 }
 
 TEST(ReportJson, FailureOfAToolHasNeitherResultsNorReport) {
   std::string line;
   JsonWriter().ToolFailed(line, "a.qjt", kFailingTool, {"Overflow", "Overflow: \"9\""});
   EXPECT_EQ(line, R"({"file":"a.qjt","tool":"failing","results":null,"report":null,)"
-                  R"("error":{"kind":"Overflow","message":"Overflow: \"9\""}})"
+                  R"("error":{"kind":"Overflow","message":"Overflow: \"9\"",)"
+                  R"("line":null,"field":null,"value":null,"reason":null}})"
                   "\n");
 }
 
@@ -124,7 +125,8 @@ TEST(ReportJson, JobWithoutAReportSaysSoInItsError) {
   std::string line;
   JsonWriter().NoReport(line, "a.qjt", kGoodTool, {"NoReport", "no task"});
   EXPECT_EQ(line, R"({"file":"a.qjt","tool":"good","results":null,"report":null,)"
-                  R"("error":{"kind":"NoReport","message":"no task"}})"
+                  R"("error":{"kind":"NoReport","message":"no task",)"
+                  R"("line":null,"field":null,"value":null,"reason":null}})"
                   "\n");
 }
 
@@ -133,10 +135,12 @@ TEST(ReportJson, FileThatCannotBeReadHasALineForEachTool) {
   std::string lines;
   JsonWriter().FileFailed(lines, "a.qjt", tools, {"FileError", "gone"});
   EXPECT_EQ(lines, R"({"file":"a.qjt","tool":"failing","results":null,"report":null,)"
-                   R"("error":{"kind":"FileError","message":"gone"}})"
+                   R"("error":{"kind":"FileError","message":"gone",)"
+                   R"("line":null,"field":null,"value":null,"reason":null}})"
                    "\n"
                    R"({"file":"a.qjt","tool":"good","results":null,"report":null,)"
-                   R"("error":{"kind":"FileError","message":"gone"}})"
+                   R"("error":{"kind":"FileError","message":"gone",)"
+                   R"("line":null,"field":null,"value":null,"reason":null}})"
                    "\n");
 }
 

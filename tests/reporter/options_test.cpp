@@ -82,9 +82,9 @@ TEST(ReportOptions, SummaryIsOfAllToolsOrOfThoseNamed) {
 }
 
 TEST(ReportOptions, InputNamesTheFilesInJsonUnlessAskedOtherwise) {
-  EXPECT_FALSE(Parsed({"a"}).filesFromInput);
+  EXPECT_FALSE(Parsed({"a"}).list);
   const Options options = Parsed({"--files-from", "-"});
-  EXPECT_TRUE(options.filesFromInput);
+  EXPECT_EQ(options.list, "-");
   EXPECT_TRUE(options.files.empty());
   EXPECT_EQ(options.format, ReportFormat::Json);
   EXPECT_EQ(Parsed({"--files-from=-", "--format", "text"}).format, ReportFormat::Text);
@@ -117,9 +117,13 @@ TEST(ReportOptions, WrongUseIsToldInOneLineAndAHint) {
        "--format: there is no format \"[json]\""},
       {"unknown option", {"--colour", "a"}, "The following argument was not expected: --colour"},
       {"option without value", {"a", "--format"}, "--format: 1 required NAME missing"},
-      {"files from a file",
-       {"--files-from", "list.txt"},
-       "--files-from: only - is there, which is standard input"},
+      {"zero bytes of nothing",
+       {"--null", "a"},
+       "--null: is for --files-from and for --check as text"},
+      {"zero bytes in objects",
+       {"-0", "--check", "--format", "json", "a"},
+       "--null: is for --files-from and for --check as text"},
+      {"standard input twice", {"-", "a", "-"}, "-: may be given once"},
       {"files from input and a file",
        {"--files-from", "-", "a"},
        "--files-from: no FILE may stand beside it"},

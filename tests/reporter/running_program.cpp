@@ -163,7 +163,7 @@ const std::string& RunningProgram::error() {
   return error_;
 }
 
-void RunningProgram::Interrupt() const { kill(child_, SIGINT); }
+void RunningProgram::Interrupt(int signal) const { kill(child_, signal); }
 
 ProgramRun RunningProgram::Finish() {
   CloseInput();

@@ -2,6 +2,7 @@
 
 #include <sys/types.h>
 
+#include <csignal>
 #include <string>
 #include <vector>
 
@@ -37,8 +38,8 @@ class RunningProgram {
   const std::string& error();
   /// How much memory it has in use, in bytes.
   [[nodiscard]] std::size_t memory() const;
-  /// Ctrl-C.
-  void Interrupt() const;
+  /// Ctrl-C, or another signal.
+  void Interrupt(int signal = SIGINT) const;
   /// Waits for its end; one that does not come in time is forced. The output is what no `ReadLine`
   /// has taken.
   ProgramRun End();

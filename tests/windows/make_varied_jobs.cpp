@@ -41,9 +41,10 @@ class Filler {
   /// A number that the field may have.
   double NumberFor(const FieldName& name) {
     if (Below(100) == 0) return Number();
+    if (name.field == "TaskActive") return 1;
     const auto choices = ChoicesOf(name);
     if (!choices.empty()) return choices.at(Below(static_cast<std::uint32_t>(choices.size())));
-    return name.field == "TaskActive" ? 1 : Number();
+    return Number();
   }
 
   void Fill(const FieldName& /*name*/, std::string& value) { value = Name(); }

@@ -56,11 +56,8 @@ std::optional<double> StepAt(const std::array<StepRow, N>& steps, double value) 
 double Sum(double a, double b) { return Finite(a + b); }
 
 void RateForce(int task) {
-  const double rating = Module1.OcraForceRating.at(task);
-  TaggedField& multiplier = Module1.OcraForceMultiplier.at(task);
-  if (rating <= kFreeForce) multiplier = 1.0;
-  for (const ForceRow& row : kForceRows) {
-    if (rating == row.rating) multiplier = row.multiplier;
+  if (const auto multiplier = OcraForceMultiplierOf(Module1.OcraForceRating.at(task))) {
+    Module1.OcraForceMultiplier.at(task) = *multiplier;
   }
 }
 
@@ -107,12 +104,8 @@ void RateGripExtra() {
 }
 
 void RateRecovery() {
-  // Compared as text: a typed " 3" or "3.0" matches no row.
-  const std::string hours = Module1.OcraRecoveryHours.AsText();
-  for (std::size_t row = 0; row < kRecoveryMultipliers.size(); ++row) {
-    if (hours == PlainText(static_cast<int>(row))) {
-      Module1.OcraRecoveryMultiplier = kRecoveryMultipliers[row];
-    }
+  if (const auto multiplier = OcraRecoveryMultiplierOf(Module1.OcraRecoveryHours.AsText())) {
+    Module1.OcraRecoveryMultiplier = *multiplier;
   }
 }
 
@@ -132,6 +125,21 @@ void SumRecommendedActions() {
 }
 
 }  // namespace
+
+std::optional<double> OcraForceMultiplierOf(double rating) {
+  if (rating <= kFreeForce) return 1.0;
+  for (const ForceRow& row : kForceRows) {
+    if (rating == row.rating) return row.multiplier;
+  }
+  return std::nullopt;
+}
+
+std::optional<double> OcraRecoveryMultiplierOf(std::string_view hours) {
+  for (std::size_t row = 0; row < kRecoveryMultipliers.size(); ++row) {
+    if (hours == PlainText(static_cast<int>(row))) return kRecoveryMultipliers[row];
+  }
+  return std::nullopt;
+}
 
 void OcraScoreLists() {
   Module1.OcraElbowRotation = Integer{0};

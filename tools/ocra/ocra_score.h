@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+#include <string_view>
 #include <vector>
 
 #include "tools/working_value.h"
@@ -8,6 +10,12 @@ namespace halvane {
 
 /// Actions a minute that are recommended for a task with nothing against it.
 inline constexpr double kOcraReferenceActions = 30;
+
+/// The multiplier of a force rating; nothing for one that matches no row.
+std::optional<double> OcraForceMultiplierOf(double rating);
+/// The multiplier of hours without recovery by their text: " 3" and "3.0" match no row, nor do the
+/// 9 and 10 of the slider.
+std::optional<double> OcraRecoveryMultiplierOf(std::string_view hours);
 
 /// Rebuilds the scores of the 14 exposure lists from `OcraComboChoice`. Throws
 /// `SubscriptOutOfRange` for an answer that is none.

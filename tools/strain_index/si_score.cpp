@@ -50,6 +50,17 @@ void Rate(double value, const RatingScale& scale, Integer& rating) {
   if (value >= scale.highest) rating = kSiRatings;
 }
 
+/// The gap that a value lies in, if any.
+std::optional<SiGap> GapAt(std::string_view name, double value, const RatingScale& scale) {
+  for (std::size_t i = 0; i < scale.bands.size(); ++i) {
+    const bool isLast = i + 1 == scale.bands.size();
+    const double begin = isLast ? scale.highest : scale.bands[i + 1].least;
+    const double end = scale.bands[i].most;
+    if (value > end && value < begin) return SiGap{name, value, end, begin};
+  }
+  return std::nullopt;
+}
+
 /// Hours worked per day; bounds differ in which side they belong to.
 Integer DurationRating(double hours) {
   if (hours <= 1) return 1;
@@ -121,6 +132,14 @@ void SiComputeScore() {
 
   Module1.SiDurationRating = DurationRating(Module1.JobDurationPerDay.AsDouble());
   Module1.SiStrainIndexScore = StrainIndexScore();
+}
+
+std::optional<SiGap> SiGapMet() {
+  if (Module1.SiDutyRating == 0) {
+    return GapAt("SiDutyCyclePercent", Module1.SiDutyCyclePercent, kDutyScale);
+  }
+  if (Module1.SiEffortsRating != 0) return std::nullopt;
+  return GapAt("SiEffortsPerMinute", Module1.SiEffortsPerMinute, kEffortsScale);
 }
 
 void SI_Calculate(RichText& RichTextBox1) {

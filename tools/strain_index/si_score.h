@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -44,6 +45,16 @@ const SiLabelRow& SiLabelsAt(int rating);
 /// Throws `SubscriptOutOfRange` while a rating has never been set: a first value in a gap between
 /// two bands, or ribbons that no load has pressed. Throws `Overflow` for a ratio beyond a double.
 void SiComputeScore();
+
+/// A ratio that lies in the gap between two bands, so that a rating which was never set stays so.
+struct SiGap {
+  std::string_view name;  ///< of the working value
+  double value;
+  double end;    ///< of the band below
+  double begin;  ///< of the band above
+};
+/// What stopped the last computation, where it was such a ratio.
+std::optional<SiGap> SiGapMet();
 
 /// Computes the score as above and writes the report into `RichTextBox1`.
 void SI_Calculate(RichText& RichTextBox1);
