@@ -3,12 +3,12 @@
 #include <QBoxLayout>
 #include <QCheckBox>
 #include <QGridLayout>
-#include <QLabel>
 #include <QRadioButton>
 
 #include "widgets/choice_group.h"
 #include "widgets/layout.h"
 #include "widgets/ribbon_button.h"
+#include "widgets/wrapped_caption.h"
 
 namespace halvane {
 namespace {
@@ -21,17 +21,6 @@ constexpr int kOptionGap = 3;
 /// What captions beside ribbons may take: of a box that stands alone, and of each of several.
 constexpr int kLinesOfOneCheck = 3;
 constexpr int kLinesOfACheck = 2;
-
-/// The least width in which the text of a label wraps to `lines` lines.
-int WidthForLines(const QLabel& label, int lines) {
-  const QFontMetrics font = label.fontMetrics();
-  const auto boxAt = [&](int width) {
-    return font.boundingRect(0, 0, width, QWIDGETSIZE_MAX, Qt::TextWordWrap, label.text());
-  };
-  int width = boxAt(0).width();  // of the widest word
-  while (boxAt(width).height() > lines * font.lineSpacing()) ++width;
-  return width;
-}
 
 }  // namespace
 
@@ -101,9 +90,9 @@ QCheckBox* PostureFrame::AddCheck(const QString& name, std::string_view caption)
 
 void PostureFrame::KeepChecksLow() {
   // In a small window ribbons get narrower before the boxes beside them get higher than they.
-  const auto captions = checks_->parentWidget()->findChildren<QLabel*>();
+  const auto captions = checks_->parentWidget()->findChildren<WrappedCaption*>();
   const int lines = captions.size() == 1 ? kLinesOfOneCheck : kLinesOfACheck;
-  for (QLabel* caption : captions) caption->setMinimumWidth(WidthForLines(*caption, lines));
+  for (WrappedCaption* caption : captions) caption->SetMostLines(lines);
 }
 
 QRadioButton* PostureFrame::AddOption(const QString& name, std::string_view caption) {
