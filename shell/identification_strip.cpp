@@ -1,19 +1,23 @@
 #include "shell/identification_strip.h"
 
-#include <QHBoxLayout>
 #include <QLabel>
 
 #include "core/job_state.h"
 #include "widgets/layout.h"
-#include "widgets/text_box.h"
+#include "widgets/number_box.h"
+#include "widgets/wrap_row.h"
 
 namespace halvane {
+namespace {
+
+/// So much of a text is seen at least.
+constexpr int kLeastDigits = 10;
+
+}  // namespace
 
 IdentificationStrip::IdentificationStrip(const IdentificationNames& names, QWidget* parent)
     : QWidget(parent) {
-  auto* row = new QHBoxLayout(this);
-  row->setContentsMargins(0, 0, 0, 0);
-  row->setSpacing(kGap);
+  row_ = new WrapRow(2, this);
   analyst_ = AddBox("Analyst", names.analyst);
   jobName_ = AddBox("Job Name", names.jobName);
   workstation_ = AddBox("Workstation ID", names.workstation);
@@ -32,11 +36,12 @@ IdentificationStrip::IdentificationStrip(const IdentificationNames& names, QWidg
 
 TextBox* IdentificationStrip::AddBox(const QString& label, const IdentificationBox& names) {
   auto* caption = new QLabel(label, this);
-  auto* box = new TextBox(names.box, this);
+  auto* box = new NumberBox(names.box, kLeastDigits, this);
+  box->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
   caption->setObjectName(names.label);
   caption->setBuddy(box);
-  layout()->addWidget(caption);
-  layout()->addWidget(box);
+  row_->Add(caption, 0);
+  row_->Add(box, 1);
   return box;
 }
 

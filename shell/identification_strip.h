@@ -5,6 +5,7 @@
 namespace halvane {
 
 class TextBox;
+class WrapRow;
 
 /// A box of the strip: its name and that of its label.
 struct IdentificationBox {
@@ -41,6 +42,7 @@ class IdentificationStrip : public QWidget {
  private:
   TextBox* AddBox(const QString& label, const IdentificationBox& names);
 
+  WrapRow* row_;
   TextBox* analyst_;
   TextBox* jobName_;
   TextBox* workstation_;

@@ -5,6 +5,7 @@
 #include <QMenuBar>
 #include <QShortcut>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "core/silently.h"
 #include "help/help_commands.h"
@@ -17,6 +18,7 @@
 #include "widgets/rich_text_box.h"
 #include "widgets/scroll_page.h"
 #include "widgets/window_place.h"
+#include "widgets/wrap_row.h"
 
 namespace halvane {
 namespace {
@@ -36,9 +38,7 @@ ToolForm::ToolForm(Tool tool, const char* objectName, const IdentificationNames&
   // Holds up the main window alone; the help beside it stays usable.
   setWindowModality(Qt::WindowModal);
   new WindowPlace(
-      *this, kDefaultSize,
-      // With large fonts the controls may need more than the least size.
-      [this] { return kLeastSize.expandedTo(layout()->totalMinimumSize()); }, lastPlace_);
+      *this, kDefaultSize, [this] { return LeastSize(); }, lastPlace_);
   body_ = new QVBoxLayout(this);
   body_->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
   body_->setSpacing(kGap);
@@ -50,6 +50,12 @@ ToolForm::~ToolForm() {
   // A name that is being edited ends with the focus, which goes after the tool's own part of the
   // form is gone.
   for (const QObject* child : findChildren<QObject*>()) child->disconnect(this);
+}
+
+QSize ToolForm::LeastSize() const {
+  // With large fonts the controls may need more, captions that wrap included.
+  const int width = std::max(kLeastSize.width(), layout()->totalMinimumSize().width());
+  return {width, std::max(kLeastSize.height(), layout()->totalMinimumHeightForWidth(width))};
 }
 
 IdentificationStrip* ToolForm::MakeIdentification(QWidget* stripParent) {
@@ -66,16 +72,14 @@ HandFrame* ToolForm::MakeHand(QWidget* frameParent) {
 
 QWidget* ToolForm::MakeIdentificationWithHand(QWidget* rowParent) {
   auto* widget = new QWidget(rowParent);
-  auto* row = new QHBoxLayout(widget);
-  row->setContentsMargins(0, 0, 0, 0);
-  row->setSpacing(kGap);
-  row->addWidget(MakeIdentification(widget), 1);
-  row->addWidget(MakeHand(widget));
+  auto* row = new WrapRow(1, widget);
+  row->Add(MakeIdentification(widget), 1);
+  row->Add(MakeHand(widget), 0);
   return widget;
 }
 
 QWidget* ToolForm::MakeScrolling(QWidget* page, QWidget* pageParent) {
-  return new ScrollPage(page, kLeastSize, pageParent);
+  return new ScrollPage(page, pageParent);
 }
 
 void ToolForm::MakeMenus() {

@@ -63,9 +63,8 @@ class ToolForm : public QDialog {
   HandFrame* MakeHand(QWidget* frameParent);
   /// Both in one row, as most tools have them.
   QWidget* MakeIdentificationWithHand(QWidget* rowParent);
-  /// Puts a page of controls on what scrolls it in a window that is smaller than the page is made
-  /// for.
-  QWidget* MakeScrolling(QWidget* page, QWidget* pageParent);
+  /// Puts a page of controls on what scrolls it in a window that is too small for the page.
+  static QWidget* MakeScrolling(QWidget* page, QWidget* pageParent);
   IdentificationStrip& identification() { return *identification_; }
   HandFrame& hand() { return *hand_; }
   RichTextBox& RichTextBox1() { return *pane_; }
@@ -87,6 +86,8 @@ class ToolForm : public QDialog {
   virtual void identificationTyped() {}
 
  private:
+  /// The size at which nothing on the form has to scroll.
+  [[nodiscard]] QSize LeastSize() const;
   void MakeMenus();
   /// Runs what writes the report, and shows what it has written however that ends.
   template <typename Write>

@@ -20,7 +20,4 @@ class HeadingLabel : public QLabel {
   int lines_;
 };
 
-/// The least width in which a text wraps to so many lines.
-int WidthForLines(const QString& text, int lines, const QFontMetrics& font);
-
 }  // namespace halvane

@@ -1,37 +1,27 @@
 #include "widgets/layout.h"
 
 #include <QCheckBox>
+#include <QEvent>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
-#include <QMouseEvent>
 #include <QSlider>
 
-#include "widgets/spoken.h"
-#include "widgets/text_box.h"
+#include "widgets/number_box.h"
+#include "widgets/wrapped_caption.h"
 
 namespace halvane {
 namespace {
 
-/// A caption beside its tick box; a click on it is a click on the box.
-class WrappedCaption : public QLabel {
+/// A tick box without a caption of its own, as high as a line of the caption beside it, so that its
+/// mark stands at the middle of that line.
+class LineHighBox : public QCheckBox {
  public:
-  WrappedCaption(QCheckBox& box, const QString& caption, QWidget* parent)
-      : QLabel(caption, parent), box_(box) {
-    setWordWrap(true);
-    // The box has it as its name.
-    KeepUnspoken(*this);
-  }
+  using QCheckBox::QCheckBox;
 
- protected:
-  void mouseReleaseEvent(QMouseEvent* event) override {
-    QLabel::mouseReleaseEvent(event);
-    const bool inside = rect().contains(event->position().toPoint());
-    if (event->button() == Qt::LeftButton && inside) box_.click();
+  [[nodiscard]] QSize sizeHint() const override {
+    return QCheckBox::sizeHint().expandedTo({0, fontMetrics().lineSpacing()});
   }
-
- private:
-  QCheckBox& box_;
 };
 
 class WheelGuard : public QObject {
@@ -70,9 +60,7 @@ TextBox* AddNumberAt(QGridLayout& grid, int row, int column, const QString& labe
                      const QString& boxName) {
   // A label comes first for who reads on from one control to the next.
   auto* caption = new QLabel(label, grid.parentWidget());
-  auto* box = new TextBox(boxName, grid.parentWidget());
-  box->setMinimumWidth(box->fontMetrics().horizontalAdvance('0') * (kNumberDigits + 2));
-  box->setMaximumWidth(box->minimumWidth() * 2);
+  auto* box = new NumberBox(boxName, kNumberDigits, grid.parentWidget());
   caption->setBuddy(box);
   grid.addWidget(caption, row, column);
   grid.addWidget(box, row, column + 1);
@@ -88,9 +76,8 @@ void KeepLeft(QGridLayout& grid) {
 }
 
 TextBox* MakeNumberBox(const QString& boxName, const QString& name, QWidget* parent) {
-  auto* box = new TextBox(boxName, parent);
+  auto* box = new NumberBox(boxName, kNumberDigits, parent);
   box->setAccessibleName(name);
-  box->setFixedWidth(box->fontMetrics().horizontalAdvance('0') * (kNumberDigits + 2));
   return box;
 }
 
@@ -108,13 +95,13 @@ TextBox* AddNumberWithUnit(QGridLayout& grid, const QString& boxName, const QStr
 }
 
 QCheckBox* AddWrappedCheck(QGridLayout& grid, const QString& boxName, const QString& caption) {
-  auto* box = new QCheckBox(grid.parentWidget());
+  auto* box = new LineHighBox(grid.parentWidget());
   box->setObjectName(boxName);
   box->setAccessibleName(caption);
   auto* text = new WrappedCaption(*box, caption, grid.parentWidget());
   const int row = grid.rowCount();
   grid.addWidget(box, row, 0, Qt::AlignTop);
-  grid.addWidget(text, row, 1);
+  grid.addWidget(text, row, 1, Qt::AlignTop);
   grid.setColumnStretch(1, 1);
   return box;
 }
@@ -133,17 +120,6 @@ void SetUpSlider(QSlider& slider, const QString& name, int highest, int pageStep
 void KeepWheelOff(QWidget& input) {
   input.setFocusPolicy(Qt::StrongFocus);
   input.installEventFilter(new WheelGuard(input));
-}
-
-QLabel* MakeReadout(const QString& widest, QWidget* parent) {
-  auto* readout = new QLabel(parent);
-  QFont large = readout->font();
-  large.setPointSizeF(large.pointSizeF() * 1.8);
-  large.setBold(true);
-  readout->setFont(large);
-  readout->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-  readout->setMinimumWidth(readout->fontMetrics().horizontalAdvance(widest) + kGap);
-  return readout;
 }
 
 QString ScreenText(std::string_view text) {

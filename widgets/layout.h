@@ -6,7 +6,6 @@
 class QGroupBox;
 class QCheckBox;
 class QGridLayout;
-class QLabel;
 class QSlider;
 class QWidget;
 
@@ -53,9 +52,6 @@ void SetUpSlider(QSlider& slider, const QString& name, int highest, int pageStep
 /// Keeps the mouse wheel from changing an input that does not have the focus, and from giving it
 /// the focus: the wheel then scrolls what is behind it. For lists and sliders.
 void KeepWheelOff(QWidget& input);
-
-/// A number that is read and not typed, large; with room for `widest`.
-QLabel* MakeReadout(const QString& widest, QWidget* parent);
 
 /// The program's own texts for the screen.
 QString ScreenText(std::string_view text);

@@ -3,33 +3,50 @@
 #include <QApplication>
 #include <QEvent>
 #include <QFrame>
+#include <QLayout>
+#include <algorithm>
 
 #include "widgets/layout.h"
+#include "widgets/ribbon_page.h"
 
 namespace halvane {
 namespace {
 
 QSize LeastOf(const QWidget& page) { return page.minimumSizeHint().expandedTo(page.minimumSize()); }
 
-/// Between the scrolling area and the page, and tells the area how much room the page needs: its
-/// least size would leave too little height for captions that wrap in a width that it is not made
-/// for.
+int LeastHeightOf(const QWidget& page, int width) {
+  // A page that has its pictures grow needs what it needs with the smallest.
+  if (dynamic_cast<const RibbonPage*>(&page) != nullptr && page.hasHeightForWidth()) {
+    return std::max(page.minimumHeight(), page.heightForWidth(width));
+  }
+  const QLayout* layout = page.layout();
+  if (layout == nullptr || !layout->hasHeightForWidth()) {
+    return LeastOf(page).height();
+  }
+  return std::max(page.minimumHeight(), layout->totalMinimumHeightForWidth(width));
+}
+
+QSizePolicy HighByWidth() {
+  QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+  policy.setHeightForWidth(true);
+  return policy;
+}
+
+/// Between the scrolling area and the page, and tells the area how much room the page needs. The
+/// area asks no page with a layout how high its captions wrap without asking for the height that it
+/// would like, which is more than it needs.
 class Sheet : public QWidget {
  public:
-  Sheet(QWidget* page, QSize leastWindow, QScrollArea* area)
-      : QWidget(area), page_(page), leastWindow_(leastWindow), area_(area) {
+  Sheet(QWidget* page, QScrollArea* area) : QWidget(area), page_(page) {
     page_->setParent(this);
+    setSizePolicy(HighByWidth());
   }
 
-  [[nodiscard]] QSize minimumSizeHint() const override {
-    const QSize missing = leastWindow_ - area_->window()->size();
-    const QSize room = area_->maximumViewportSize();
-    QSize least = LeastOf(*page_);
-    // The page has all of what a window gains.
-    if (missing.width() > 0) least = least.expandedTo({room.width() + missing.width(), 0});
-    if (missing.height() > 0) least = least.expandedTo({0, room.height() + missing.height()});
-    return least;
+  [[nodiscard]] bool hasHeightForWidth() const override { return true; }
+  [[nodiscard]] int heightForWidth(int width) const override {
+    return LeastHeightOf(*page_, width);
   }
+  [[nodiscard]] QSize minimumSizeHint() const override { return {LeastOf(*page_).width(), 0}; }
   [[nodiscard]] QSize sizeHint() const override { return page_->sizeHint(); }
 
  protected:
@@ -40,19 +57,17 @@ class Sheet : public QWidget {
 
  private:
   QWidget* page_;
-  QSize leastWindow_;
-  QScrollArea* area_;
 };
 
 }  // namespace
 
-ScrollPage::ScrollPage(QWidget* page, QSize leastWindow, QWidget* parent)
-    : QScrollArea(parent), page_(page) {
+ScrollPage::ScrollPage(QWidget* page, QWidget* parent) : QScrollArea(parent), page_(page) {
   setFrameShape(QFrame::NoFrame);
   // Its controls have the focus, not the page.
   setFocusPolicy(Qt::NoFocus);
+  setSizePolicy(HighByWidth());
   setWidgetResizable(true);
-  setWidget(new Sheet(page, leastWindow, this));
+  setWidget(new Sheet(page, this));
   // What is behind shows through, a tab's own ground.
   widget()->setAutoFillBackground(false);
   viewport()->setAutoFillBackground(false);
@@ -64,6 +79,8 @@ ScrollPage::~ScrollPage() {
   // A control that goes with the page gives the focus up, when this part of it is gone already.
   disconnect(qApp, nullptr, this, nullptr);
 }
+
+int ScrollPage::heightForWidth(int width) const { return LeastHeightOf(*page_, width); }
 
 QSize ScrollPage::minimumSizeHint() const { return LeastOf(*page_); }
 

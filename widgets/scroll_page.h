@@ -5,15 +5,17 @@
 namespace halvane {
 
 /// Shows a page of controls, and scrolls it where it needs more room than there is. Looks and asks
-/// for room like the page itself, so that a layout around it treats both alike. What gets the focus
-/// is brought into view.
+/// for room like the page itself, captions that wrap included, so that a layout around it treats
+/// both alike. What gets the focus is brought into view.
 class ScrollPage : public QScrollArea {
  public:
-  /// Takes `page` over, which is made for windows from `leastWindow` on: in a smaller one it keeps
-  /// the size that it has there, and scrolls.
-  ScrollPage(QWidget* page, QSize leastWindow, QWidget* parent);
+  /// Takes `page` over.
+  ScrollPage(QWidget* page, QWidget* parent);
   ~ScrollPage() override;
 
+  [[nodiscard]] bool hasHeightForWidth() const override { return true; }
+  /// The least height that leaves everything on the page whole.
+  [[nodiscard]] int heightForWidth(int width) const override;
   [[nodiscard]] QSize minimumSizeHint() const override;
   [[nodiscard]] QSize sizeHint() const override;
   bool eventFilter(QObject* watched, QEvent* event) override;

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QEvent>
+#include <QLayout>
 #include <QWidget>
 #include <QWindow>
 #include <algorithm>
@@ -27,6 +28,16 @@ QPoint NearOwner(const QWidget& window) {
   const QWidget* owner =
       window.parentWidget() != nullptr ? window.parentWidget() : QApplication::activeWindow();
   return owner != nullptr ? owner->window()->geometry().center() : QPoint();
+}
+
+/// Has every layout in a window ask its controls anew, the innermost first: a page that is not on
+/// view would do it when it is.
+void LayOutAnew(const QWidget& window) {
+  const QList<QWidget*> controls = window.findChildren<QWidget*>();
+  for (auto control = controls.rbegin(); control != controls.rend(); ++control) {
+    if ((*control)->layout() != nullptr) (*control)->layout()->invalidate();
+    (*control)->updateGeometry();
+  }
 }
 
 }  // namespace
@@ -72,6 +83,11 @@ bool WindowPlace::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::Show && !event->spontaneous()) Show();
   if (event->type() == QEvent::Hide && !event->spontaneous()) Keep();
   if (event->type() == QEvent::WindowActivate) Settle();
+  if (event->type() == QEvent::FontChange && watched == &window_) {
+    // The window hears of it before its controls do.
+    QMetaObject::invokeMethod(
+        this, [this] { FitFont(); }, Qt::QueuedConnection);
+  }
   return QObject::eventFilter(watched, event);
 }
 
@@ -99,6 +115,24 @@ void WindowPlace::Settle() {
   if (measures.available.contains(framed)) return;
   window_.setMinimumSize(LeastSize(measures));
   window_.setGeometry(FirstPlace(measures));
+}
+
+void WindowPlace::FitFont() {
+  if (!window_.isVisible()) return;
+  LayOutAnew(window_);
+  const WindowMeasures measures = Measure();
+  const QSize least = LeastSize(measures);
+  QRect place(window_.geometry().topLeft(), window_.size().expandedTo(least));
+  const bool grows = place.size() != window_.size();
+  window_.setMinimumSize(least);
+  if (!grows || window_.isMaximized() || window_.isFullScreen()) return;
+  // Grown, it keeps to the screen.
+  const QRect inside = InsideFrame(measures);
+  place.moveLeft(
+      std::max(inside.left(), std::min(place.left(), inside.right() + 1 - place.width())));
+  place.moveTop(
+      std::max(inside.top(), std::min(place.top(), inside.bottom() + 1 - place.height())));
+  window_.setGeometry(place);
 }
 
 void WindowPlace::Keep() {

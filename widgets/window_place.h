@@ -39,8 +39,8 @@ struct LastPlace {
   bool maximized = false;
 };
 
-/// Gives a window its place whenever it is shown, and keeps the place when it is hidden. Belongs to
-/// the window.
+/// Gives a window its place whenever it is shown, keeps the place when it is hidden, and has the
+/// window grow with its font. Belongs to the window.
 class WindowPlace : public QObject {
  public:
   /// `least` is asked at each showing and gives the size that everything in the window needs.
@@ -53,6 +53,8 @@ class WindowPlace : public QObject {
   [[nodiscard]] WindowMeasures Measure() const;
   void Show();
   void Settle();
+  /// Makes the window large enough for controls that have grown with the font.
+  void FitFont();
   void Keep();
 
   QWidget& window_;

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QLabel>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTest>
@@ -14,10 +15,8 @@ namespace {
 
 class Scrolling : public ShellTest {
  protected:
-  Scrolling() { MakePage({}); }
-
   /// A page of 400 x 300 with a button above and one below.
-  void MakePage(QSize leastWindow) {
+  Scrolling() {
     auto* content = new QWidget;
     auto* column = new QVBoxLayout(content);
     column->setContentsMargins(0, 0, 0, 0);
@@ -27,7 +26,7 @@ class Scrolling : public ShellTest {
     column->addStretch(1);
     column->addWidget(last);
     content->setMinimumSize(400, 300);
-    page = std::make_unique<ScrollPage>(content, leastWindow, nullptr);
+    page = std::make_unique<ScrollPage>(content, nullptr);
   }
 
   void ShowAt(QSize size) {
@@ -63,16 +62,41 @@ TEST_F(Scrolling, OneBarStandsWhereOneIsNeeded) {
 
 TEST_F(Scrolling, ThePageAsksForItsOwnRoom) { EXPECT_EQ(page->minimumSizeHint(), QSize(400, 300)); }
 
-TEST_F(Scrolling, InASmallWindowThePageKeepsTheSizeThatItIsMadeFor) {
-  MakePage({600, 500});
-  ShowAt({640, 520});
-  EXPECT_EQ(page->widget()->size(), QSize(640, 520));
-  ShowAt({500, 450});
-  EXPECT_EQ(page->widget()->size(), QSize(600, 500));
-  ShowAt({700, 450});
-  EXPECT_EQ(page->widget()->height(), 500);
-  EXPECT_EQ(page->widget()->width(), page->viewport()->width());
+/// A page with nothing but a caption of many words.
+class Wrapping : public ShellTest {
+ protected:
+  Wrapping() {
+    auto* content = new QWidget;
+    auto* column = new QVBoxLayout(content);
+    caption = new QLabel(QString("some words ").repeated(60), content);
+    caption->setWordWrap(true);
+    column->addWidget(caption);
+    column->addStretch(1);
+    page = std::make_unique<ScrollPage>(content, nullptr);
+  }
+
+  std::unique_ptr<ScrollPage> page;
+  QLabel* caption = nullptr;
+};
+
+TEST_F(Wrapping, APageAsksForTheHeightThatItsCaptionsNeedAtAWidth) {
+  const int wide = page->heightForWidth(600);
+  const int narrow = page->heightForWidth(200);
+  EXPECT_GE(wide, caption->heightForWidth(600));
+  EXPECT_GE(narrow, 2 * wide);
+  page->resize(600, wide);
+  ShowActive(*page);
+  EXPECT_FALSE(page->verticalScrollBar()->isVisible());
+  EXPECT_GE(caption->height(), caption->heightForWidth(caption->width()));
+}
+
+TEST_F(Wrapping, ACaptionThatWrapsIsWholeAndScrolls) {
+  page->resize(200, 100);
+  ShowActive(*page);
+  EXPECT_TRUE(page->verticalScrollBar()->isVisible());
   EXPECT_FALSE(page->horizontalScrollBar()->isVisible());
+  EXPECT_GE(caption->height(), caption->heightForWidth(caption->width()));
+  EXPECT_EQ(page->widget()->width(), page->viewport()->width());
 }
 
 TEST_F(Scrolling, WhatGetsTheFocusIsSeen) {

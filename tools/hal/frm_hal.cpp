@@ -17,12 +17,15 @@
 #include "shell/hand_frame.h"
 #include "tools/hal/hal_controls.h"
 #include "tools/hal/hal_score.h"
+#include "widgets/font_share.h"
 #include "widgets/labelled_scale.h"
 #include "widgets/layout.h"
 #include "widgets/mouse_slider.h"
+#include "widgets/readout.h"
 #include "widgets/rich_text_box.h"
 #include "widgets/spoken.h"
 #include "widgets/text_box.h"
+#include "widgets/wrap_row.h"
 
 namespace halvane {
 namespace {
@@ -33,10 +36,12 @@ constexpr IdentificationNames kNames{
 // Of the width; so the report's longest line fits at the default size.
 constexpr int kInputsShare = 5;
 constexpr int kReportShare = 6;
+/// Room for the headings of the report, and for some lines of it where it stands below the inputs.
+constexpr QSize kLeastReport{380, 240};
 constexpr int kLevelPage = 2;
 constexpr int kDutyPage = 5;
 constexpr auto kForceScale = "hal/force_scale";
-constexpr double kNoteScale = 0.9;
+constexpr double kNoteShare = 0.9;
 
 /// The printed scale in words: "0 Nothing At All, 1.0 Very Weak, ...".
 QString ForceScaleInWords() {
@@ -63,15 +68,23 @@ void ShowTip(QSlider& slider, const QString& text) {
 }  // namespace
 
 FrmHAL::FrmHAL(QWidget* parent) : ToolForm(Tool::Hal, "frmHAL", kNames, parent) {
-  body().addWidget(MakeIdentificationWithHand(this));
+  body().addWidget(MakeScrolling(MakePage(), this), 1);
+}
+
+QWidget* FrmHAL::MakePage() {
+  auto* page = new QWidget(this);
+  auto* column = new QVBoxLayout(page);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->setSpacing(kGap);
+  column->addWidget(MakeIdentificationWithHand(page));
   hand().setObjectName("SSFrame1(8)");
-  auto* row = new QHBoxLayout;
-  row->setSpacing(kGap);
-  row->addWidget(MakeScrolling(MakeInputs(), this), kInputsShare);
-  row->addWidget(&RichTextBox1(), kReportShare);
-  body().addLayout(row, 1);
-  // Made before the inputs, it is to be read behind them.
-  RichTextBox1().raise();
+  auto* parts = new QWidget(page);
+  auto* row = new WrapRow(1, parts);
+  row->Add(MakeInputs(), kInputsShare);
+  RichTextBox1().setMinimumSize(kLeastReport);
+  row->Add(&RichTextBox1(), kReportShare);
+  column->addWidget(parts, 1);
+  return page;
 }
 
 QWidget* FrmHAL::MakeInputs() {
@@ -160,9 +173,7 @@ QGroupBox* FrmHAL::MakeLimitFrame(QWidget* parent) {
   auto* note = new QLabel(ScreenText(kHalNote), panel);
   note->setObjectName("Label6");
   note->setWordWrap(true);
-  QFont font = note->font();
-  font.setPointSizeF(font.pointSizeF() * kNoteScale);
-  note->setFont(font);
+  new FontShare(*note, kNoteShare);
   grid->addWidget(note, 2, 0);
   return panel;
 }
@@ -171,7 +182,7 @@ void FrmHAL::AddLimit(QBoxLayout& row, int element, int captionIndex, int valueI
   const auto at = static_cast<std::size_t>(element);
   auto* text = new QLabel(ScreenText(kHalLimitCaptions.at(at)), SSPanel4_);
   text->setObjectName(ElementName("Label7", captionIndex));
-  QLabel* value = MakeReadout("10.00", SSPanel4_);
+  QLabel* value = new Readout("10.00", SSPanel4_);
   value->setObjectName(ElementName("Label3", valueIndex));
   value->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
   text->setBuddy(value);

@@ -40,6 +40,7 @@ class FrmHAL : public ToolForm {
   void identificationTyped() override { ShowReport(); }
 
  private:
+  QWidget* MakePage();
   QWidget* MakeInputs();
   QGroupBox* MakeExertionFrame(QWidget* parent);
   QGroupBox* MakeDutyFrame(QWidget* parent);

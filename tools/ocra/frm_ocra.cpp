@@ -1,7 +1,6 @@
 #include "tools/ocra/frm_ocra.h"
 
 #include <QCheckBox>
-#include <QComboBox>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
@@ -18,8 +17,10 @@
 #include "tools/task_list/task_list_frame.h"
 #include "tools/task_list/task_tree.h"
 #include "widgets/choice_group.h"
+#include "widgets/drop_list.h"
 #include "widgets/layout.h"
 #include "widgets/pair_panel.h"
+#include "widgets/readout.h"
 #include "widgets/rich_text_box.h"
 #include "widgets/spoken.h"
 #include "widgets/tab_strip.h"
@@ -90,7 +91,7 @@ QGroupBox* FrmOCRA::MakeJobFrame(QWidget* parent) {
   recovery->setObjectName("SSFrame1(0)");
   Slider2_ = MakeSlider("Slider2", 5, recovery);
   Slider2_->setAccessibleName(recovery->title());
-  hours_ = MakeReadout("10", recovery);
+  hours_ = new Readout("10", recovery);
   recoveryGrid->addWidget(Slider2_, 0, 0);
   recoveryGrid->addWidget(new TickLabels(*Slider2_, ScreenTexts(kOcraHourMarks), {}, recovery), 1,
                           0);
@@ -154,7 +155,7 @@ QGroupBox* FrmOCRA::MakeForceFrame(QWidget* parent) {
   SetSpokenScale(*Slider1_, OcraRatingAt(1) - OcraRatingAt(0), words);
   grid->addWidget(Slider1_, 0, 0);
   grid->addWidget(new TickLabels(*Slider1_, ticks, words, frame), 1, 0);
-  rating_ = MakeReadout("0.0", frame);
+  rating_ = new Readout("0.0", frame);
   grid->addWidget(rating_, 0, 1);
   connect(Slider1_, &QSlider::valueChanged, this, &FrmOCRA::Slider1_Scroll);
   return frame;
@@ -206,9 +207,7 @@ QWidget* FrmOCRA::MakeList(int list, QWidget* parent) {
   row->setContentsMargins(0, 0, 0, 0);
   row->setSpacing(kGap);
   auto* caption = new QLabel(ScreenText(kOcraLists[at].caption), line);
-  auto* combo = new QComboBox(line);
-  combo->setObjectName(ElementName("Combo1", list));
-  KeepWheelOff(*combo);
+  auto* combo = new DropList(ElementName("Combo1", list), line);
   for (const std::string_view answer : kOcraAnswers) combo->addItem(ScreenText(answer));
   caption->setBuddy(combo);
   caption->setWordWrap(true);

@@ -1,7 +1,6 @@
 #include "tools/posture/posture_form.h"
 
 #include <QCheckBox>
-#include <QComboBox>
 #include <QMenu>
 #include <QRadioButton>
 #include <QSignalBlocker>
@@ -10,6 +9,7 @@
 
 #include "shell/hand_frame.h"
 #include "tools/posture/posture_frame.h"
+#include "widgets/drop_list.h"
 #include "widgets/layout.h"
 #include "widgets/ribbon_button.h"
 #include "widgets/rich_text_box.h"
@@ -82,9 +82,7 @@ void PostureForm::AddButtons(const PostureControl& control, PostureFrame& frame)
 }
 
 void PostureForm::AddList(const PostureControl& control, PostureFrame& frame) {
-  auto* list = new QComboBox(&frame);
-  list->setObjectName(ScreenText(WidgetName(control, control.first)));
-  KeepWheelOff(*list);
+  auto* list = new DropList(ScreenText(WidgetName(control, control.first)), &frame);
   list->setAccessibleName(frame.title());
   // The entries have one tip.
   list->setToolTip(ScreenText(control.array.front().toolTip));

@@ -3,13 +3,12 @@
 #include <QBoxLayout>
 #include <QCheckBox>
 #include <QGridLayout>
-#include <QLabel>
 #include <QRadioButton>
 
 #include "widgets/choice_group.h"
-#include "widgets/heading_label.h"
 #include "widgets/layout.h"
 #include "widgets/ribbon_button.h"
+#include "widgets/wrapped_caption.h"
 
 namespace halvane {
 namespace {
@@ -97,11 +96,9 @@ QCheckBox* PostureFrame::AddCheck(const QString& name, std::string_view caption)
 
 void PostureFrame::KeepChecksLow() {
   // In a small window ribbons get narrower before the boxes beside them get higher than they.
-  const auto captions = checks_->parentWidget()->findChildren<QLabel*>();
+  const auto captions = checks_->parentWidget()->findChildren<WrappedCaption*>();
   const int lines = captions.size() == 1 ? kLinesOfOneCheck : kLinesOfACheck;
-  for (QLabel* caption : captions) {
-    caption->setMinimumWidth(WidthForLines(caption->text(), lines, caption->fontMetrics()));
-  }
+  for (WrappedCaption* caption : captions) caption->SetMostLines(lines);
 }
 
 QRadioButton* PostureFrame::AddOption(const QString& name, std::string_view caption) {
@@ -114,8 +111,6 @@ QRadioButton* PostureFrame::AddOption(const QString& name, std::string_view capt
 
 void PostureFrame::SetOptionsInARow() { options_->setDirection(QBoxLayout::LeftToRight); }
 
-void PostureFrame::AddBelow(QWidget* panel) {
-  column_->addWidget(panel);
-}
+void PostureFrame::AddBelow(QWidget* panel) { column_->addWidget(panel); }
 
 }  // namespace halvane

@@ -1,12 +1,13 @@
 #include "tools/task_list/task_list_frame.h"
 
-#include <QGridLayout>
 #include <QPushButton>
 #include <QShortcutEvent>
+#include <QVBoxLayout>
 
 #include "tools/task_list/task_tree.h"
 #include "widgets/layout.h"
 #include "widgets/text_box.h"
+#include "widgets/wrap_row.h"
 
 namespace halvane {
 namespace {
@@ -16,6 +17,13 @@ namespace {
 class TaskPushButton : public QPushButton {
  public:
   using QPushButton::QPushButton;
+
+  /// The style's own least width would make the list wider than the names in it need.
+  [[nodiscard]] QSize sizeHint() const override {
+    const QString caption = QString(text()).remove('&');
+    return {fontMetrics().horizontalAdvance(caption) + 2 * kMargin,
+            QPushButton::sizeHint().height()};
+  }
 
  protected:
   bool event(QEvent* event) override {
@@ -33,11 +41,13 @@ TaskListFrame::TaskListFrame(const QString& name, const std::array<TaskButton, 3
                              QWidget* parent)
     : QGroupBox("Task Information", parent), tree_(new TaskTree(this)) {
   setObjectName(name);
-  auto* grid = new QGridLayout(this);
-  grid->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
-  grid->setHorizontalSpacing(kGap / 2);
-  grid->setVerticalSpacing(kGap);
-  grid->addWidget(tree_, 0, 0, 1, static_cast<int>(buttons.size()));
+  auto* column = new QVBoxLayout(this);
+  column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+  column->setSpacing(kGap);
+  column->addWidget(tree_, 1);
+  auto* commands = new WrapRow(1, nullptr);
+  commands->setSpacing(kGap / 2);
+  column->addLayout(commands);
   int index = 0;
   for (const TaskButton& row : buttons) {
     const QString caption = ScreenText(row.caption);
@@ -45,15 +55,14 @@ TaskListFrame::TaskListFrame(const QString& name, const std::array<TaskButton, 3
     button->setObjectName(ElementName("SSCommand1", index));
     button->setToolTip(ScreenText(row.tip));
     button->setAutoDefault(false);
-    // The style's own least width would make the list wider than the names in it need.
-    button->setMinimumWidth(button->fontMetrics().horizontalAdvance(caption) + 2 * kMargin);
     connect(button, &QPushButton::clicked, this, [this, index] {
       // A button pressed by its key leaves the focus, and so what is being typed, where it was.
       TextBox::CountKeysDown();
       tree_->FinishEdit();
       emit buttonClicked(index);
     });
-    grid->addWidget(button, 1, index++);
+    commands->Add(button, 1);
+    ++index;
   }
 }
 
