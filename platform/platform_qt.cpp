@@ -7,6 +7,8 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QFontMetrics>
+#include <QGridLayout>
 #include <QGuiApplication>
 #include <QMessageBox>
 #include <QMouseEvent>
@@ -43,7 +45,23 @@ constexpr std::array kButtons{
     ButtonRow{Answer::Ok, QMessageBox::Ok},
 };
 
+/// A title bar has so much beside its title: icon and buttons.
+constexpr int kBesideTitle = 128;
+
+/// A box of few words would cut its title.
+void MakeRoomForTitle(QMessageBox& box) {
+  auto* grid = qobject_cast<QGridLayout*>(box.layout());
+  if (grid == nullptr) return;
+  QFont font = box.font();
+  font.setBold(true);
+  const int title = QFontMetrics(font).horizontalAdvance(box.windowTitle());
+  auto* room = new QSpacerItem(title + kBesideTitle, 0);
+  grid->addItem(room, grid->rowCount(), 0, 1, grid->columnCount());
+}
+
 QString RunFileDialog(QFileDialog& dialog, const QString& filter) {
+  // Each pattern has a name of its own; behind it the toolkit would show the pattern once more.
+  dialog.setOption(QFileDialog::HideNameFilterDetails);
   dialog.setNameFilters(filter.split(";;"));
   return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
 }
@@ -72,6 +90,7 @@ Answer QtPlatform::ShowMessage(QWidget* parent, const QString& title, const QStr
     box.addButton(kButtons.at(static_cast<std::size_t>(answer)).button);
   }
   box.setDefaultButton(kButtons.at(static_cast<std::size_t>(buttons.front())).button);
+  MakeRoomForTitle(box);
   const int chosen = box.exec();
   for (const ButtonRow& row : kButtons) {
     if (row.button == chosen) return row.answer;

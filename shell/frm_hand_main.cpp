@@ -1,7 +1,6 @@
 #include "shell/frm_hand_main.h"
 
 #include <QAction>
-#include <QActionGroup>
 #include <QCloseEvent>
 #include <QLabel>
 #include <QMenu>
@@ -76,11 +75,8 @@ void FrmHandMain::MakeMenus() {
   unit.menuAction()->setObjectName("mnuUnit");
   mnuMetric_ = AddMenuItem(unit, "mnuMetric", "Metric", this, &FrmHandMain::mnuMetric_Click);
   mnuEnglish_ = AddMenuItem(unit, "mnuEnglish", "English", this, &FrmHandMain::mnuEnglish_Click);
-  auto* units = new QActionGroup(this);
-  for (QAction* choice : {mnuMetric_, mnuEnglish_}) {
-    choice->setCheckable(true);
-    units->addAction(choice);
-  }
+  // No group of actions, which would have a bullet for its check mark.
+  for (QAction* choice : {mnuMetric_, mnuEnglish_}) choice->setCheckable(true);
   file.addSeparator();
   AddMenuItem(file, "mnuExit", "Exit Program", this, &FrmHandMain::mnuExit_Click);
   // The menu never stands in a bar, so the window itself has to know its shortcuts.
@@ -287,7 +283,8 @@ void FrmHandMain::mnuEnglish_Click() {
 
 void FrmHandMain::ShowUnits() {
   const bool english = Module1.Units == static_cast<Integer>(LengthUnit::English);
-  (english ? mnuEnglish_ : mnuMetric_)->setChecked(true);
+  mnuMetric_->setChecked(!english);
+  mnuEnglish_->setChecked(english);
 }
 
 void FrmHandMain::mnuExit_Click() {

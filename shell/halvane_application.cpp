@@ -11,6 +11,7 @@
 #include "platform/end_signals.h"
 #include "platform/platform.h"
 #include "shell/held_keys.h"
+#include "widgets/readable_style.h"
 #include "widgets/spoken.h"
 
 namespace halvane {
@@ -59,6 +60,7 @@ HalvaneApplication::HalvaneApplication(int& argc, char** argv)
   setApplicationName("halvane-tools");
   setApplicationVersion(HALVANE_VERSION);
   setDesktopFileName("halvane-tools");
+  setStyle(new ReadableStyle);
   installEventFilter(new HeldKeys(this));
   UseSpokenControls();
 }

@@ -15,6 +15,11 @@ constexpr int kPadding = 4;
 constexpr int kEdge = 2;
 /// The room beside a picture gets wider by this part of what the picture does.
 constexpr int kGrowingSide = 4;
+/// The corner that has the tick of a pressed ribbon.
+constexpr int kCorner = 15;
+/// A ribbon that is held down moves so far and has so wide a shade.
+constexpr int kGivesWay = 1;
+constexpr int kShade = 3;
 /// A caption wider than this many average characters wraps.
 constexpr int kWidestLine = 17;
 
@@ -26,6 +31,7 @@ RibbonButton::RibbonButton(const QString& name, const QString& caption, QWidget*
   setText(caption);
   setCheckable(true);
   setFocusPolicy(Qt::StrongFocus);
+  setAttribute(Qt::WA_Hover);
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
 
@@ -156,26 +162,29 @@ QColor RibbonButton::TextColor() const {
 }
 
 QColor RibbonButton::Fill() const {
-  const bool near = underMouse() && isEnabled() && !isChecked();
   const QColor fill =
       palette().color(Group(), isChecked() ? QPalette::Highlight : QPalette::Button);
+  if (isDown()) return fill.darker(108);
+  const bool near = underMouse() && isEnabled() && !isChecked();
   return near ? fill.lighter(108) : fill;
 }
 
 void RibbonButton::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
   PaintGround(painter);
-  painter.setPen(TextColor());
+  const int way = isDown() ? kGivesWay : 0;
   const int captionWidth = EvenWidth(width() - 2 * SideRoom());
   QRect caption((width() - captionWidth) / 2, 0, captionWidth, height());
   if (!icon().isNull()) {
     const int top = (height() - iconSize().height() - kPadding - CaptionRoom()) / 2;
-    PaintPicture(painter, {(width() - iconSize().width()) / 2, top});
+    PaintPicture(painter, {(width() - iconSize().width()) / 2 + way, top + way});
     // From below the picture on, so that first lines of a row stand level.
     caption.setTop(top + iconSize().height() + kPadding);
     caption.setHeight(CaptionSize(captionWidth).height());
   }
-  painter.drawText(caption, CaptionFlags(), ShownText());
+  if (isChecked()) PaintTick(painter);
+  painter.setPen(TextColor());
+  painter.drawText(caption.translated(way, way), CaptionFlags(), ShownText());
   if (hasFocus()) PaintFocus(painter);
 }
 
@@ -183,10 +192,27 @@ void RibbonButton::PaintGround(QPainter& painter) const {
   painter.fillRect(rect(), Fill());
   // Lines of whole logical pixels, which end at the edge at every scale.
   const QColor line = palette().color(Group(), QPalette::Mid);
-  painter.fillRect(0, 0, width(), 1, line);
-  painter.fillRect(0, height() - 1, width(), 1, line);
-  painter.fillRect(0, 0, 1, height(), line);
-  painter.fillRect(width() - 1, 0, 1, height(), line);
+  const bool near = underMouse() && isEnabled();
+  const int wide = near ? 2 : 1;
+  const int shade = isDown() ? kShade : wide;
+  painter.fillRect(0, 0, width(), shade, line);
+  painter.fillRect(0, height() - wide, width(), wide, line);
+  painter.fillRect(0, 0, shade, height(), line);
+  painter.fillRect(width() - wide, 0, wide, height(), line);
+}
+
+void RibbonButton::PaintTick(QPainter& painter) const {
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  const QPointF corner(width() - 1, 1);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(palette().color(Group(), QPalette::Highlight));
+  painter.drawPolygon(
+      QPolygonF{corner, corner - QPointF(kCorner, 0), corner + QPointF(0, kCorner)});
+  painter.setPen(QPen(TextColor(), 1.5));
+  const QPointF foot = corner + QPointF(-5, 6);
+  painter.drawPolyline(QPolygonF{foot - QPointF(2.5, 2.5), foot, foot + QPointF(3, -4.5)});
+  painter.restore();
 }
 
 void RibbonButton::PaintPicture(QPainter& painter, QPoint corner) const {

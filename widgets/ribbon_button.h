@@ -7,9 +7,10 @@
 
 namespace halvane {
 
-/// A two-state button; the one that is down is filled with the highlight colour. Its caption wraps,
-/// unless it is to stay in one line, and stands under its picture where it has one. Both are one
-/// block in the middle of the button.
+/// A two-state button; the one that is down is filled with the highlight colour and has a tick in
+/// its corner, for eyes that tell no colours apart. Its caption wraps, unless it is to stay in one
+/// line, and stands under its picture where it has one. Both are one block in the middle of the
+/// button, which gives way under the mouse.
 ///
 /// Ribbons that are in one button group need the same room, and their pictures and captions stand
 /// level in a row.
@@ -65,6 +66,7 @@ class RibbonButton : public QAbstractButton {
   void PaintGround(QPainter& painter) const;
   /// Draws the picture in the inks that stand out on what it lies on.
   void PaintPicture(QPainter& painter, QPoint corner) const;
+  void PaintTick(QPainter& painter) const;
   void PaintFocus(QPainter& painter) const;
   [[nodiscard]] QPalette::ColorGroup Group() const;
   [[nodiscard]] QColor TextColor() const;

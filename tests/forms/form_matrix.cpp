@@ -15,7 +15,7 @@
 #include "tests/forms/place_checks.h"
 #include "tests/forms/text_checks.h"
 #include "tests/support/palettes.h"
-#include "widgets/contrast.h"
+#include "widgets/readable_style.h"
 
 namespace {
 
@@ -154,10 +154,8 @@ int main(int argc, char** argv) {
   for (const halvane::NamedPalette& palette : halvane::kPalettes) {
     if (!options.palettes.isEmpty() && !options.palettes.contains(palette.name)) continue;
     const QPalette colors = palette.make();
-    QApplication::setPalette(colors);
-    // Only a desktop for people who see little has colours as far apart as that.
-    const bool strong =
-        halvane::Contrast(colors.color(QPalette::Window), colors.color(QPalette::WindowText)) > 20;
+    halvane::UsePalette(colors);
+    const bool strong = halvane::HasHighContrast(colors);
     bool first = true;
     for (const int font : kFonts) {
       if (!options.fonts.isEmpty() && !options.fonts.contains(QString::number(font))) continue;

@@ -1,9 +1,9 @@
 // Draws the forms into PNG files and prints the reports into PDF files, for looking at them and for
 // the documents:
 // form_pictures FOLDER [JOBFILE], with QT_SCALE_FACTOR=2 for twice the size, HALVANE_DARK=1 for the
-// dark palette, HALVANE_FONT=14 for a font of so many points, HALVANE_LEAST=1 for the least size of
-// each tool, HALVANE_SIZE=1900x1040 for that size and HALVANE_SCREEN=800x600 for a screen of that
-// size.
+// dark palette, HALVANE_PALETTE=black for one of high contrast (or white), HALVANE_FONT=14 for a
+// font of so many points, HALVANE_LEAST=1 for the least size of each tool, HALVANE_SIZE=1900x1040
+// for that size and HALVANE_SCREEN=800x600 for a screen of that size.
 #include <QApplication>
 #include <QDir>
 #include <QPrinter>
@@ -20,7 +20,7 @@
 #include "shell/frm_hand_main.h"
 #include "shell/halvane_application.h"
 #include "shell/tool_form.h"
-#include "tests/support/dark_palette.h"
+#include "tests/support/palettes.h"
 #include "tests/support/picture_screen.h"
 #include "tools/tool_table.h"
 #include "widgets/layout.h"
@@ -95,7 +95,7 @@ int main(int argc, char** argv) {
   }
   const QString folder = QString::fromLocal8Bit(argv[1]);
   QDir().mkpath(folder);
-  halvane::TakeDarkPaletteIfAsked();
+  halvane::TakePaletteIfAsked();
   TakeFontIfAsked();
   const halvane::PictureScreen screen;
   halvane::FrmHandMain window(halvane::MakeToolForm);

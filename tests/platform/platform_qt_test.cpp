@@ -90,6 +90,20 @@ TEST_F(RealPlatform, MessageShowsMarkupAsItStands) {
   EXPECT_EQ(format, Qt::PlainText);
 }
 
+TEST_F(RealPlatform, MessageIsAsWideAsItsTitle) {
+  const QString title = "A title that is longer than its message";
+  ModalSteps steps;
+  int width = 0;
+  steps.Then<QMessageBox>("QMessageBox", [&](QMessageBox& box) {
+    width = box.width();
+    box.reject();
+  });
+  platform.ShowMessage(nullptr, title, "No.", {Answer::Ok});
+  QFont bold = QApplication::font();
+  bold.setBold(true);
+  EXPECT_GE(width, QFontMetrics(bold).horizontalAdvance(title) + 120);
+}
+
 /// Types a path into a file dialog and confirms it.
 void TypePath(QFileDialog& dialog, const QString& path) {
   auto& name = Find<QLineEdit>(dialog, "fileNameEdit");
@@ -101,12 +115,16 @@ TEST_F(RealPlatform, OpenDialogOffersThePatternsAndGivesThePath) {
   WriteBytes(folder.File("job.qjt"), "");
   ModalSteps steps;
   QStringList patterns;
+  QStringList shown;
   steps.Then<QFileDialog>("QFileDialog", [&](QFileDialog& dialog) {
     patterns = dialog.nameFilters();
+    const auto& types = Find<QComboBox>(dialog, "fileTypeCombo");
+    for (int i = 0; i < types.count(); ++i) shown.append(types.itemText(i).trimmed());
     TypePath(dialog, File("job.qjt"));
   });
   EXPECT_EQ(platform.ChooseFileToOpen(nullptr, kFilter), File("job.qjt"));
   EXPECT_EQ(patterns, (QStringList{"*.qjt (*.qjt)", "All files (*)"}));
+  EXPECT_EQ(shown, (QStringList{"*.qjt", "All files"}));
 }
 
 TEST_F(RealPlatform, CancelledFileDialogsGiveNoPath) {

@@ -421,6 +421,20 @@ void MakeTaskWithHandSpan(const TaggedField& span) {
   Module1.CtdHandSpan.at(1) = span;
 }
 
+TEST_F(Units, TheOneInUseHasACheckMark) {
+  const auto window = IdleMainWindow();
+  // Chosen again, it stays the one in use.
+  for (const char* name : {"mnuMetric", "mnuMetric", "mnuEnglish", "mnuEnglish", "mnuMetric"}) {
+    Choose(*window, name);
+    for (const char* unit : {"mnuMetric", "mnuEnglish"}) {
+      const auto& item = Find<QAction>(*window, unit);
+      EXPECT_EQ(item.isChecked(), QString(unit) == name) << unit << " after " << name;
+      // In a group it would be a bullet.
+      EXPECT_EQ(item.actionGroup(), nullptr);
+    }
+  }
+}
+
 TEST_F(Units, EnglishAndBackRoundsToTwoDecimals) {
   const auto window = IdleMainWindow();
   MakeTaskWithHandSpan(20.0);

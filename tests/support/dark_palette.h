@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QPalette>
+#include <QStyle>
 
 namespace halvane {
 
@@ -16,9 +17,15 @@ inline QPalette DarkPalette() {
   return dark;
 }
 
+/// Takes a palette as the desktop's own: what a style makes of that, too.
+inline void UsePalette(QPalette palette) {
+  QApplication::style()->polish(palette);
+  QApplication::setPalette(palette);
+}
+
 /// Takes them where HALVANE_DARK is set.
 inline void TakeDarkPaletteIfAsked() {
-  if (qEnvironmentVariableIsSet("HALVANE_DARK")) QApplication::setPalette(DarkPalette());
+  if (qEnvironmentVariableIsSet("HALVANE_DARK")) UsePalette(DarkPalette());
 }
 
 }  // namespace halvane

@@ -72,4 +72,12 @@ inline constexpr std::array kPalettes{
     NamedPalette{"black", ContrastBlackPalette},
 };
 
+/// Takes the palette that HALVANE_PALETTE names, and the dark one where HALVANE_DARK is set.
+inline void TakePaletteIfAsked() {
+  TakeDarkPaletteIfAsked();
+  for (const NamedPalette& palette : kPalettes) {
+    if (qEnvironmentVariable("HALVANE_PALETTE") == palette.name) UsePalette(palette.make());
+  }
+}
+
 }  // namespace halvane

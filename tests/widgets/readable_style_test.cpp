@@ -1,0 +1,120 @@
+// Texts of every palette can be read, and controls are seen on palettes of high contrast.
+#include "widgets/readable_style.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLineEdit>
+#include <QRadioButton>
+#include <QSlider>
+#include <QTabBar>
+
+#include "tests/support/form_support.h"
+#include "tests/support/palettes.h"
+#include "widgets/contrast.h"
+
+namespace halvane {
+namespace {
+
+QPalette Polished(QPalette palette) {
+  ReadableStyle().polish(palette);
+  return palette;
+}
+
+double ContrastIn(const QPalette& palette, QPalette::ColorGroup group, QPalette::ColorRole one,
+                  QPalette::ColorRole other) {
+  return Contrast(palette.color(group, one), palette.color(group, other));
+}
+
+TEST(ReadableStyle, GivesEveryPaletteTextsThatCanBeRead) {
+  for (const NamedPalette& row : kPalettes) {
+    SCOPED_TRACE(row.name);
+    const QPalette palette = Polished(row.make());
+    const auto contrast = [&palette](QPalette::ColorRole one, QPalette::ColorRole other) {
+      return ContrastIn(palette, QPalette::Active, one, other);
+    };
+    EXPECT_GE(contrast(QPalette::WindowText, QPalette::Window), 4.5);
+    EXPECT_GE(contrast(QPalette::Text, QPalette::Base), 4.5);
+    EXPECT_GE(contrast(QPalette::ButtonText, QPalette::Button), 4.5);
+    EXPECT_GE(contrast(QPalette::HighlightedText, QPalette::Highlight), 4.5);
+    EXPECT_GE(contrast(QPalette::Link, QPalette::Base), 4.5);
+    EXPECT_GE(contrast(QPalette::LinkVisited, QPalette::Base), 4.5);
+    EXPECT_GE(contrast(QPalette::PlaceholderText, QPalette::Base), 4.5);
+    EXPECT_GE(contrast(QPalette::ToolTipText, QPalette::ToolTipBase), 4.5);
+    EXPECT_GE(ContrastIn(palette, QPalette::Disabled, QPalette::ButtonText, QPalette::Button), 3);
+    EXPECT_GE(ContrastIn(palette, QPalette::Disabled, QPalette::WindowText, QPalette::Window), 3);
+  }
+}
+
+TEST(ReadableStyle, LeavesColorsThatCanBeReadAsTheyAre) {
+  QPalette good = ContrastWhitePalette();
+  const QPalette polished = Polished(good);
+  for (const auto role : {QPalette::Window, QPalette::WindowText, QPalette::Highlight,
+                          QPalette::HighlightedText, QPalette::Link, QPalette::PlaceholderText}) {
+    EXPECT_EQ(polished.color(role), good.color(role)) << role;
+  }
+}
+
+TEST(ReadableStyle, AHintIsMeasuredAsItIsSeenThroughItsGround) {
+  QPalette hint = LightPalette();
+  QColor faint(Qt::black);
+  faint.setAlphaF(0.4F);
+  hint.setColor(QPalette::PlaceholderText, faint);
+  EXPECT_GE(ContrastIn(Polished(hint), QPalette::Active, QPalette::PlaceholderText, QPalette::Base),
+            4.5);
+}
+
+TEST(ReadableStyle, KnowsPalettesOfHighContrast) {
+  EXPECT_FALSE(HasHighContrast(LightPalette()));
+  EXPECT_FALSE(HasHighContrast(DarkPalette()));
+  EXPECT_TRUE(HasHighContrast(ContrastWhitePalette()));
+  EXPECT_TRUE(HasHighContrast(ContrastBlackPalette()));
+}
+
+/// The highest contrast of a line of pixels through the edge of a control with what is beside it.
+double EdgeContrast(QWidget& control, const QPalette& palette) {
+  control.setPalette(palette);
+  control.setFocusPolicy(Qt::NoFocus);
+  control.resize(120, 40);
+  const QImage image = control.grab().toImage();
+  double highest = 1;
+  for (int x = 0; x < 10; ++x) {
+    highest = std::max(highest, Contrast(image.pixelColor(x, 20), palette.color(QPalette::Window)));
+  }
+  return highest;
+}
+
+TEST(ReadableStyle, ControlsHaveAnOutlineOnPalettesOfHighContrast) {
+  for (const QPalette& raw : {ContrastWhitePalette(), ContrastBlackPalette()}) {
+    const QPalette palette = Polished(raw);
+    QLineEdit box;
+    QComboBox list;
+    QCheckBox tick;
+    QRadioButton option;
+    QGroupBox frame;
+    QPushButton button;
+    QSlider slider(Qt::Horizontal);
+    for (QWidget* control :
+         std::initializer_list<QWidget*>{&box, &list, &tick, &option, &frame, &button, &slider}) {
+      EXPECT_GE(EdgeContrast(*control, palette), 3) << control->metaObject()->className();
+    }
+  }
+}
+
+TEST(ReadableStyle, TheTabThatIsChosenIsToldFromTheOthers) {
+  const QPalette palette = Polished(ContrastBlackPalette());
+  QTabBar tabs;
+  tabs.setPalette(palette);
+  tabs.addTab("One");
+  tabs.addTab("Two");
+  tabs.resize(tabs.sizeHint());
+  const QImage image = tabs.grab().toImage();
+  const auto topOf = [&](int tab) {
+    return image.pixelColor(tabs.tabRect(tab).center().x(), tabs.tabRect(tab).top() + 1);
+  };
+  EXPECT_EQ(topOf(0), palette.color(QPalette::Highlight));
+  EXPECT_NE(topOf(1), palette.color(QPalette::Highlight));
+}
+
+}  // namespace
+}  // namespace halvane
