@@ -35,7 +35,7 @@ def _nail(drawing, tip, degrees, radius):
     """A nail near the tip of a finger that points to `degrees` from straight up."""
     path = capsule(polar(tip, radius * 0.5, degrees + 180), radius * 0.62,
                    polar(tip, radius * 0.35, degrees), radius * 0.62)
-    drawing.raw(f'<path d="{path}" fill="{EDGE}" fill-opacity="0.75"/>')
+    drawing.line(path, EDGE, 0.6)
 
 
 FIST = [

@@ -59,7 +59,7 @@ def hand_above(drawing, frame, colour=ACCENT, nails=True):
             near = bx + (ax - bx) * 0.12, by + (ay - by) * 0.12
             r = radii[-1] * 0.62 * frame.scale
             nail = capsule(frame.at(*near), r, frame.at(bx, by), r)
-            drawing.raw(f'<path d="{nail}" fill="{EDGE}" fill-opacity="0.75"/>')
+            drawing.line(nail, EDGE, 0.6)
 
 
 def from_above(title, angle, shown=None, twisted=False):

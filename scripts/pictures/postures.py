@@ -60,8 +60,10 @@ def side_trunk(title, angle, shown=None):
     """The trunk leaning by `angle` over standing legs; the arms hang plumb."""
     drawing = Drawing(title.format(abs(angle)))
     s = TRUNK_SIDE.scale
-    elbow = 18 if angle >= 0 else 6
-    figure = SideFigure(Pose(trunk=angle, neck=-angle / 4, arm=elbow / 3, elbow=elbow), TRUNK_SIDE)
+    # A little before the thigh or behind it, where it is seen; plumb from a trunk that is bent far.
+    arm = max(2, 16 - angle / 4) if angle >= 0 else -8
+    figure = SideFigure(Pose(trunk=angle, neck=-angle / 4, arm=arm, elbow=14 if angle >= 0 else 0),
+                        TRUNK_SIDE)
     reach = Reach(segment=30 * s, sector=58.6 * s, arc=56.6 * s, line=61 * s)
     measure = Protractor(drawing, figure.hip, 0, 1, angle, reach, shown)
     measure.draw_range()

@@ -4,7 +4,7 @@ Lines stand on whole pixels of a 20-pixel grid. As on the ribbons, grey is the t
 colour is what matters in it, and a light border carries both on dark and on coloured buttons.
 """
 
-from pictures.inks import EDGE, SIGN_ACCENT, SIGN_FIGURE
+from pictures.inks import EDGE, FIGURE, SIGN_ACCENT
 from pictures.svg import Drawing, arc, disc, polygon, polyline
 
 GRID = 20
@@ -14,7 +14,7 @@ def written_page(title):
     """A written page with a folded corner."""
     drawing = Drawing(title, GRID, GRID)
     page = [(4, 2), (12.5, 2), (16, 5.5), (16, 18), (4, 18)]
-    drawing.solid([polygon(page)], SIGN_FIGURE, edge=0.7)
+    drawing.solid([polygon(page)], FIGURE, edge=0.7)
     paper = [(5.5, 3.5), (11, 3.5), (11, 7), (14.5, 7), (14.5, 16.5), (5.5, 16.5)]
     drawing.raw(f'<path d="{polygon(paper)}" fill="{EDGE}"/>')
     for y, width in ((8.4, 6), (10.9, 6), (13.4, 4)):

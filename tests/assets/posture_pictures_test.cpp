@@ -182,8 +182,8 @@ int GreysApart(const QImage& a, const QImage& b) {
 }
 
 TEST(PosturePictures, NoTwoOfARowHaveOneSilhouette) {
-  // A twentieth of the picture, five pixels wide along a head. The steps of the neck are the
-  // smallest that captions ask for; they reach it with a head as large as the picture has room for.
+  // A twentieth of the picture, or a strip five pixels wide along a head. The steps of the neck are
+  // the smallest that captions ask for; they reach it with a head as large as there is room for.
   constexpr int kLeastApart = kSide * kSide / 20;
   const QMap<QString, QStringList> rows = Rows();
   for (auto row = rows.begin(); row != rows.end(); ++row) {
