@@ -6,6 +6,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QSlider>
+#include <QStyleOptionSlider>
 
 #include "widgets/number_box.h"
 #include "widgets/wrapped_caption.h"
@@ -109,9 +110,25 @@ void SetUpSlider(QSlider& slider, const QString& name, int highest, int pageStep
   KeepWheelOff(slider);
 }
 
+int HandleLength(const QSlider& slider) {
+  QStyleOptionSlider option;
+  option.initFrom(&slider);
+  option.orientation = Qt::Horizontal;
+  return slider.style()->pixelMetric(QStyle::PM_SliderLength, &option, &slider);
+}
+
 void KeepWheelOff(QWidget& input) {
   input.setFocusPolicy(Qt::StrongFocus);
   input.installEventFilter(new WheelGuard(input));
+}
+
+int WidthForLines(const QFontMetrics& font, const QString& text, int lines) {
+  const auto boxAt = [&](int width) {
+    return font.boundingRect(0, 0, width, QWIDGETSIZE_MAX, Qt::TextWordWrap, text);
+  };
+  int width = boxAt(0).width();  // of the widest word
+  while (boxAt(width).height() > lines * font.lineSpacing()) ++width;
+  return width;
 }
 
 QString ScreenText(std::string_view text) {

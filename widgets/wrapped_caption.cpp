@@ -3,6 +3,8 @@
 #include <QCheckBox>
 #include <QMouseEvent>
 
+#include "widgets/layout.h"
+
 namespace halvane {
 
 WrappedCaption::WrappedCaption(QCheckBox& box, const QString& caption, QWidget* parent)
@@ -14,18 +16,8 @@ WrappedCaption::WrappedCaption(QCheckBox& box, const QString& caption, QWidget* 
 
 void WrappedCaption::SetMostLines(int lines) {
   mostLines_ = lines;
-  leastWidth_ = WidthForMostLines();
+  leastWidth_ = WidthForLines(fontMetrics(), text(), lines);
   updateGeometry();
-}
-
-int WrappedCaption::WidthForMostLines() const {
-  const QFontMetrics metrics = fontMetrics();
-  const auto boxAt = [&](int width) {
-    return metrics.boundingRect(0, 0, width, QWIDGETSIZE_MAX, Qt::TextWordWrap, text());
-  };
-  int width = boxAt(0).width();  // of the widest word
-  while (boxAt(width).height() > mostLines_ * metrics.lineSpacing()) ++width;
-  return width;
 }
 
 QSize WrappedCaption::minimumSizeHint() const {

@@ -22,8 +22,6 @@ class WrappedCaption : public QLabel {
   void mouseReleaseEvent(QMouseEvent* event) override;
 
  private:
-  [[nodiscard]] int WidthForMostLines() const;
-
   QCheckBox& box_;
   int mostLines_ = 0;  ///< 0: any number
   /// In the present font; asked for with every layout.

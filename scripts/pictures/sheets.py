@@ -17,7 +17,7 @@ SHEETS = {
     "ctd": ["ctd/[!r]*.svg"],
     "rula": ["rula/*.svg"],
     "reba": ["reba/*.svg"],
-    "charts": ["ocra/*", "strain_index/*", "ctd/report.svg", "hal/*"],
+    "charts": ["ocra/*", "strain_index/*", "ctd/report.svg"],
 }
 KINDS = {".svg": "image/svg+xml", ".png": "image/png", ".jpg": "image/jpeg"}
 GROUNDS = {"light": ("#ffffff", "#202124"), "dark": ("#2d2d30", "#e8eaed")}
