@@ -127,7 +127,9 @@ int WidthForLines(const QFontMetrics& font, const QString& text, int lines) {
     return font.boundingRect(0, 0, width, QWIDGETSIZE_MAX, Qt::TextWordWrap, text);
   };
   int width = boxAt(0).width();  // of the widest word
-  while (boxAt(width).height() > lines * font.lineSpacing()) ++width;
+  // The height of a font is not always that of its lines.
+  const int most = lines * font.lineSpacing() + font.lineSpacing() / 2;
+  while (boxAt(width).height() > most) ++width;
   return width;
 }
 

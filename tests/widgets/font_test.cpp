@@ -89,11 +89,12 @@ TEST_F(Fonts, ACaptionKeepsToItsLinesInEach) {
   QCheckBox box;
   WrappedCaption caption(box, "Trunk is twisting or side bending", nullptr);
   caption.SetMostLines(2);
-  for (const double points : {9.0, 18.0}) {
+  for (const double points : {9.0, 14.0, 18.0, 20.0}) {
     SetPoints(points);
     const int width = caption.minimumSizeHint().width();
-    EXPECT_LE(caption.heightForWidth(width), 2 * caption.fontMetrics().lineSpacing()) << points;
-    EXPECT_GT(caption.heightForWidth(width - 2), 2 * caption.fontMetrics().lineSpacing()) << points;
+    const int line = caption.fontMetrics().lineSpacing();
+    EXPECT_EQ((caption.heightForWidth(width) + line / 2) / line, 2) << points;
+    EXPECT_EQ((caption.heightForWidth(width - 2) + line / 2) / line, 3) << points;
   }
 }
 
