@@ -6,11 +6,13 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "core/messages.h"
 #include "core/silently.h"
 #include "platform/platform.h"
 #include "platform/registry.h"
+#include "widgets/font_share.h"
 #include "widgets/layout.h"
 #include "widgets/product_icon.h"
 #include "widgets/spoken.h"
@@ -18,8 +20,11 @@
 namespace halvane {
 namespace {
 
-constexpr double kTitleScale = 1.6;
-constexpr int kTextWidth = 320;
+constexpr double kTitleShare = 1.6;
+/// A line of the longer texts, in letters of a usual width; less on a narrow screen.
+constexpr int kLineLetters = 44;
+/// What stands beside those texts.
+constexpr int kBeside = 140;
 constexpr int kLargeIcon = 64;
 constexpr int kSmallIcon = 24;
 
@@ -42,10 +47,24 @@ QLabel* AddLine(QBoxLayout& column, const QString& name, const QString& text) {
   return label;
 }
 
-void AddWrapped(QBoxLayout& column, const QString& name, const QString& text) {
-  QLabel* label = AddLine(column, name, text);
-  label->setWordWrap(true);
-  label->setMinimumWidth(kTextWidth);
+/// A text that wraps in lines of a width that is good to read, whichever the font.
+class Notice : public QLabel {
+ public:
+  using QLabel::QLabel;
+
+  [[nodiscard]] QSize minimumSizeHint() const override {
+    const int screen = ThePlatform().AvailableArea(window()->geometry().center()).width();
+    const int width = std::min(kLineLetters * fontMetrics().averageCharWidth(), screen - kBeside);
+    return {width, heightForWidth(width)};
+  }
+  [[nodiscard]] QSize sizeHint() const override { return minimumSizeHint(); }
+};
+
+void AddNotice(QBoxLayout& column, const QString& name, const QString& text) {
+  auto* notice = new Notice(text);
+  notice->setObjectName(name);
+  notice->setWordWrap(true);
+  column.addWidget(notice);
 }
 
 QLabel* MakeIcon(const QString& name, int size) {
@@ -78,17 +97,17 @@ FrmAbout::FrmAbout(QWidget* parent) : QDialog(parent) {
   AddLine(*series, "Label1", QString(kMaker) + " Series:");
   series->addStretch();
   QLabel* title = AddLine(*names, "lblTitle", kProgramTitle);
-  QFont font = title->font();
-  font.setPointSizeF(font.pointSizeF() * kTitleScale);
-  font.setBold(true);
-  title->setFont(font);
+  QFont bold = title->font();
+  bold.setBold(true);
+  title->setFont(bold);
+  new FontShare(*title, kTitleShare);
   AddLine(*names, "lblVersion", "Version " + QCoreApplication::applicationVersion());
   AddLine(*names, "lblMaker", kMadeBy);
   names->addSpacing(kGap / 2);
-  AddWrapped(*names, "lblContact(0)", kContact);
-  AddWrapped(*names, "lblContact(1)", kContactReport);
+  AddNotice(*names, "lblContact(0)", kContact);
+  AddNotice(*names, "lblContact(1)", kContactReport);
   names->addSpacing(kGap / 2);
-  AddWrapped(*names, "lblNotice", kNotice);
+  AddNotice(*names, "lblNotice", kNotice);
   grid->setColumnStretch(1, 1);
   grid->setRowStretch(0, 1);
 

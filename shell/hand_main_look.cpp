@@ -5,12 +5,11 @@
 #include <QIcon>
 #include <QLabel>
 #include <QVBoxLayout>
-#include <algorithm>
-#include <cmath>
 #include <vector>
 
 #include "core/messages.h"
 #include "shell/frm_hand_main.h"
+#include "widgets/font_share.h"
 #include "widgets/gradient_panel.h"
 #include "widgets/layout.h"
 #include "widgets/link_label.h"
@@ -41,20 +40,8 @@ constexpr double kProductNameScale = 1.7;
 /// The five lines of the opening panel have room for so high a text each.
 constexpr int kLargestLine = 34;
 constexpr int kCaptionMargin = 8;
-/// A font of another size is not wider by exactly as much.
-constexpr double kRounding = 0.97;
-
-/// Gives a text `font` in `scale` of its size, or less where it would not fit into `room`. Measured
-/// at the size as it is, since each size that is measured takes time to load.
-void FitFont(QWidget& widget, const QString& text, QFont font, double scale, QSize room) {
-  const QSize size = QFontMetrics(font).size(Qt::TextSingleLine, text);
-  const double fit = std::min(
-      {scale, kRounding * room.width() / size.width(), kRounding * room.height() / size.height()});
-  // Not when it changes nothing: another size is another font.
-  if (std::abs(fit - 1) > 0.01) font.setPointSizeF(font.pointSizeF() * fit);
-  widget.setFont(font);
-}
-
+/// Above and below the caption of a launch button.
+constexpr int kButtonEdges = 6;
 QFont Bold(QFont font) {
   font.setBold(true);
   return font;
@@ -65,8 +52,9 @@ QLabel* AddLabel(QBoxLayout& layout, const QString& name, const QString& text, d
   auto* label = new QLabel(text);
   label->setObjectName(name);
   label->setAlignment(Qt::AlignCenter);
+  label->setFont(Bold(label->font()));
   layout.addWidget(label);
-  FitFont(*label, text, Bold(label->font()), scale, room);
+  new FontShare(*label, scale, room);
   return label;
 }
 
@@ -116,7 +104,8 @@ void HandMainLook::MakeOpeningPanel(FrmHandMain& form) {
   column->addStretch(2);
   AddLabel(*column, "lblMaker", kMadeBy, 1.0, line);
   form.Hyperlink1_ = new LinkLabel("Hyperlink1", "How to use the program", panel);
-  FitFont(*form.Hyperlink1_, form.Hyperlink1_->text(), Bold(form.Hyperlink1_->font()), 1.0, line);
+  form.Hyperlink1_->setFont(Bold(form.Hyperlink1_->font()));
+  new FontShare(*form.Hyperlink1_, 1.0, line);
   column->addWidget(form.Hyperlink1_, 0, Qt::AlignHCenter);
   column->addStretch(1);
 }
@@ -135,8 +124,8 @@ void HandMainLook::PlaceButtons(FrmHandMain& form) {
   const int height = (kLaunchButtons.height() - (count - 1) * kButtonGap) / count;
   int top = kLaunchButtons.top();
   for (RaisedButton* button : form.SSCommand2_) {
-    FitFont(*button, button->text(), button->font(), 1.0,
-            {kLaunchButtons.width() - 2 * kCaptionMargin, height - kCaptionMargin});
+    new FontShare(*button, 1.0,
+                  {kLaunchButtons.width() - 2 * kCaptionMargin, height - kButtonEdges});
     button->setGeometry(kLaunchButtons.left(), top, kLaunchButtons.width(), height);
     top += height + kButtonGap;
   }
@@ -146,7 +135,7 @@ void HandMainLook::PlaceButtons(FrmHandMain& form) {
   const QSize caption(width - kCaptionMargin,
                       kRibbons.height() - kRibbonPicture - 3 * kCaptionMargin / 2);
   for (RibbonButton* ribbon : form.SSRibbon1_) {
-    FitFont(*ribbon, ribbon->text(), ribbon->font(), 1.0, caption);
+    new FontShare(*ribbon, 1.0, caption);
     ribbon->setGeometry(left, kRibbons.top(), width, kRibbons.height());
     left += width + kButtonGap;
   }

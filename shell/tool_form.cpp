@@ -25,6 +25,7 @@ namespace {
 
 constexpr QSize kDefaultSize{1120, 700};
 constexpr QSize kLeastSize{960, 620};
+constexpr int kWider = 40;
 
 }  // namespace
 
@@ -53,9 +54,13 @@ ToolForm::~ToolForm() {
 }
 
 QSize ToolForm::LeastSize() const {
-  // With large fonts the controls may need more, captions that wrap included.
-  const int width = std::max(kLeastSize.width(), layout()->totalMinimumSize().width());
-  return {width, std::max(kLeastSize.height(), layout()->totalMinimumHeightForWidth(width))};
+  // With large fonts the controls need more, captions that wrap included. In a window that is too
+  // narrow what stands side by side would go one under another, and the window would get high: so
+  // it gets wider until it has its usual shape.
+  int width = std::max(kLeastSize.width(), layout()->totalMinimumSize().width());
+  const auto height = [this](int at) { return layout()->totalMinimumHeightForWidth(at); };
+  while (height(width) * kLeastSize.width() > width * kLeastSize.height()) width += kWider;
+  return {width, std::max(kLeastSize.height(), height(width))};
 }
 
 IdentificationStrip* ToolForm::MakeIdentification(QWidget* stripParent) {

@@ -1,12 +1,22 @@
 #include "widgets/font_share.h"
 
 #include <QEvent>
+#include <QFontMetrics>
 #include <QWidget>
+#include <algorithm>
+#include <cmath>
 
 namespace halvane {
+namespace {
 
-FontShare::FontShare(QWidget& widget, double share)
-    : QObject(&widget), widget_(widget), share_(share) {
+constexpr double kSame = 0.01;
+/// A font of another size is not wider by exactly as much.
+constexpr double kRounding = 0.97;
+
+}  // namespace
+
+FontShare::FontShare(QWidget& widget, double share, QSize room)
+    : QObject(&widget), widget_(widget), share_(share), room_(room) {
   widget_.installEventFilter(this);
   FollowParent();
 }
@@ -28,8 +38,20 @@ void FontShare::FollowParent() {
 void FontShare::TakeFont() {
   // All but the size comes to the widget by itself.
   QFont font = widget_.font();
-  font.setPointSizeF(parent_->font().pointSizeF() * share_);
+  font.setPointSizeF(parent_->font().pointSizeF());
+  const double share = ShareThatFits(font);
+  // Not when it changes nothing: another size is another font, which takes time to load.
+  if (std::abs(share - 1) > kSame) font.setPointSizeF(font.pointSizeF() * share);
   widget_.setFont(font);
+}
+
+double FontShare::ShareThatFits(const QFont& font) const {
+  if (!room_.isValid()) return share_;
+  // Measured at the size as it is, since each size that is measured has to be loaded.
+  const QString text = widget_.property("text").toString();
+  const QSize size = QFontMetrics(font).size(Qt::TextSingleLine, text);
+  return std::min({share_, kRounding * room_.width() / size.width(),
+                   kRounding * room_.height() / size.height()});
 }
 
 }  // namespace halvane

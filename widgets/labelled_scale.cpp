@@ -3,9 +3,9 @@
 #include <QLabel>
 #include <QPainter>
 #include <QSlider>
-#include <QStyle>
-#include <QStyleOptionSlider>
 #include <algorithm>
+
+#include "widgets/layout.h"
 
 namespace halvane {
 namespace {
@@ -13,13 +13,6 @@ namespace {
 /// Between neighbouring words, in logical pixels.
 constexpr int kColumnGap = 4;
 constexpr float kLeadTint = 0.4F;
-
-int HandleLength(const QSlider& slider) {
-  QStyleOptionSlider option;
-  option.initFrom(&slider);
-  option.orientation = Qt::Horizontal;
-  return slider.style()->pixelMetric(QStyle::PM_SliderLength, &option, &slider);
-}
 
 QLabel* AddLabel(const QString& text, const QString& name, QWidget* parent) {
   auto* label = new QLabel(text, parent);

@@ -6,6 +6,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QSlider>
+#include <QStyleOptionSlider>
 
 #include "widgets/number_box.h"
 #include "widgets/wrapped_caption.h"
@@ -115,6 +116,13 @@ void SetUpSlider(QSlider& slider, const QString& name, int highest, int pageStep
   slider.setTickPosition(QSlider::TicksBelow);
   slider.setTickInterval(highest / 10);
   KeepWheelOff(slider);
+}
+
+int HandleLength(const QSlider& slider) {
+  QStyleOptionSlider option;
+  option.initFrom(&slider);
+  option.orientation = Qt::Horizontal;
+  return slider.style()->pixelMetric(QStyle::PM_SliderLength, &option, &slider);
 }
 
 void KeepWheelOff(QWidget& input) {

@@ -49,6 +49,9 @@ QCheckBox* AddWrappedCheck(QGridLayout& grid, const QString& boxName, const QStr
 /// it by 1, a page key or a click beside its handle by `pageStep`.
 void SetUpSlider(QSlider& slider, const QString& name, int highest, int pageStep);
 
+/// How long the handle of a level slider is.
+int HandleLength(const QSlider& slider);
+
 /// Keeps the mouse wheel from changing an input that does not have the focus, and from giving it
 /// the focus: the wheel then scrolls what is behind it. For lists and sliders.
 void KeepWheelOff(QWidget& input);

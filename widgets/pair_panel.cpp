@@ -1,24 +1,16 @@
 #include "widgets/pair_panel.h"
 
 #include <QPainter>
-#include <QVBoxLayout>
-
-#include "widgets/layout.h"
 
 namespace halvane {
 namespace {
 
 constexpr float kTint = 0.08F;
 constexpr int kBracketWidth = 3;
-constexpr int kPadding = kGap / 2;
 
 }  // namespace
 
-PairPanel::PairPanel(QWidget* parent) : QWidget(parent) {
-  auto* column = new QVBoxLayout(this);
-  column->setContentsMargins(kPadding + kBracketWidth, kPadding, kPadding, kPadding);
-  column->setSpacing(kPadding);
-}
+PairPanel::PairPanel(QWidget* parent) : QWidget(parent) {}
 
 void PairPanel::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);

@@ -4,8 +4,8 @@
 
 namespace halvane {
 
-/// A panel around inputs of which at most one can be answered: a bracket on its left and a tint say
-/// so. Put the inputs into its layout.
+/// What stands behind inputs of which at most one can be answered: a bracket on its left and a tint
+/// say so. Put it into the same place of a layout, before them.
 class PairPanel : public QWidget {
   Q_OBJECT
  public:

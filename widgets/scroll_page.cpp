@@ -87,8 +87,25 @@ QSize ScrollPage::minimumSizeHint() const { return LeastOf(*page_); }
 QSize ScrollPage::sizeHint() const { return page_->sizeHint(); }
 
 bool ScrollPage::eventFilter(QObject* watched, QEvent* event) {
-  if (watched == widget() && event->type() == QEvent::LayoutRequest) updateGeometry();
+  if (watched == widget() && event->type() == QEvent::LayoutRequest) {
+    updateGeometry();
+    FitBar();
+  }
   return QScrollArea::eventFilter(watched, event);
+}
+
+void ScrollPage::resizeEvent(QResizeEvent* event) {
+  FitBar();
+  QScrollArea::resizeEvent(event);
+}
+
+void ScrollPage::FitBar() {
+  // The area itself measures the page beside the bar that it has, where captions wrap more, and so
+  // would keep a bar that is not needed any more.
+  const QSize room = maximumViewportSize();
+  const bool fits =
+      LeastOf(*page_).width() <= room.width() && heightForWidth(room.width()) <= room.height();
+  setVerticalScrollBarPolicy(fits ? Qt::ScrollBarAlwaysOff : Qt::ScrollBarAsNeeded);
 }
 
 void ScrollPage::FocusChanged(QWidget* now) {

@@ -20,7 +20,12 @@ class ScrollPage : public QScrollArea {
   [[nodiscard]] QSize sizeHint() const override;
   bool eventFilter(QObject* watched, QEvent* event) override;
 
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+
  private:
+  /// Leaves the bar out where the page fits without it.
+  void FitBar();
   void FocusChanged(QWidget* now);
 
   QWidget* page_;

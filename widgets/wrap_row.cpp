@@ -172,6 +172,19 @@ QSize WrapRow::minimumSize() const {
   return {width + Margins().width(), sizeHint().height()};
 }
 
+const WrapRow::Line* WrapRow::HighestShare(const std::vector<Line>& lines) {
+  const Line* best = nullptr;
+  int share = -1;
+  for (const Line& line : lines) {
+    for (const Cell& cell : line) {
+      if (!IsHigh(*cell.item) || cell.stretch <= share) continue;
+      best = &line;
+      share = cell.stretch;
+    }
+  }
+  return best;
+}
+
 void WrapRow::setGeometry(const QRect& place) {
   QLayout::setGeometry(place);
   const QRect inside = place.marginsRemoved(contentsMargins());
@@ -179,16 +192,14 @@ void WrapRow::setGeometry(const QRect& place) {
   const std::vector<int> widths = WidthsFor(lines, inside.width());
   const int needed = heightForWidth(place.width()) - Margins().height();
   int top = inside.top();
-  int rest = std::max(0, inside.height() - needed);
+  const int rest = std::max(0, inside.height() - needed);
+  const Line* growing = HighestShare(lines);
   for (const Line& line : lines) {
     Level level;
-    bool high = false;
     for (std::size_t i = 0; i < line.size(); ++i) {
       level.Take(*line[i].item, HeightAt(*line[i].item, widths[i]));
-      high = high || IsHigh(*line[i].item);
     }
-    // The first line that can use it has what is left over.
-    const int height = level.above + level.below + (high ? std::exchange(rest, 0) : 0);
+    const int height = level.above + level.below + (&line == growing ? rest : 0);
     int left = inside.left();
     for (std::size_t i = 0; i < line.size(); ++i) {
       QLayoutItem& item = *line[i].item;

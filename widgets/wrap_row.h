@@ -43,6 +43,8 @@ class WrapRow : public QLayout {
   [[nodiscard]] Line Shown() const;
   [[nodiscard]] std::vector<Line> LinesFor(int width) const;
   [[nodiscard]] std::vector<int> WidthsFor(const std::vector<Line>& lines, int width) const;
+  /// The line that gets the height that is left over; null: none can use it.
+  static const Line* HighestShare(const std::vector<Line>& lines);
   [[nodiscard]] QSize Margins() const;
 
   int columns_;

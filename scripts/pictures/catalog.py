@@ -6,7 +6,7 @@ of buttons differ at a glance. Angles are those of `postures.py` and `hand.py`, 
 where "{}" stands in a title.
 """
 
-from pictures import charts, grip, hand, icon, open_hand, scales, symbols
+from pictures import charts, grip, hand, icon, open_hand, symbols
 from pictures.postures import (
     front_arm,
     front_forearm,
@@ -138,10 +138,6 @@ STRAIN_INDEX = [
     ("strain_index/risk_chart", charts.strain_index_risk, (), "Strain Index score and risk"),
 ]
 
-HAL = [
-    ("hal/force_scale", scales.hal_force, (), "Borg Scale"),
-]
-
 MAIN_WINDOW = [
     ("main_window/hand", open_hand.open_hand, (), "Open right hand"),
     ("main_window/file", symbols.written_page, (), "File"),
@@ -160,7 +156,7 @@ ICONS = [
 
 def pictures():
     """Yields (asset name, document) of every picture."""
-    for asset, kind, arguments, title in [*CTD, *OCRA, *STRAIN_INDEX, *RULA, *REBA, *HAL,
+    for asset, kind, arguments, title in [*CTD, *OCRA, *STRAIN_INDEX, *RULA, *REBA,
                                            *MAIN_WINDOW, *ICONS]:
         if "{side}" in asset:
             for side in ("right", "left"):

@@ -18,7 +18,7 @@ SHEETS = {
     "ctd": ["ctd/[!r]*.svg"],
     "rula": ["rula/*.svg"],
     "reba": ["reba/*.svg"],
-    "charts": ["ocra/*", "strain_index/*", "ctd/report.svg", "hal/*"],
+    "charts": ["ocra/*", "strain_index/*", "ctd/report.svg"],
 }
 KINDS = {".svg": "image/svg+xml", ".png": "image/png", ".jpg": "image/jpeg"}
 # Ground, ink of the words on it, whether it is a dark one.

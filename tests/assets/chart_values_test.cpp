@@ -2,7 +2,6 @@
 // words that a reader sees on them are compared with what the program computes and reports.
 #include <gtest/gtest.h>
 
-#include <QMap>
 #include <QRegularExpression>
 #include <QStringList>
 #include <QXmlStreamReader>
@@ -18,7 +17,6 @@
 #include "core/task_list.h"
 #include "tests/assets/picture_files.h"
 #include "tools/ctd/ctd_score.h"
-#include "tools/hal/hal_controls.h"
 #include "tools/ocra/ocra_report.h"
 #include "tools/ocra/ocra_score.h"
 #include "tools/report_charts.h"
@@ -201,40 +199,6 @@ TEST(CtdReportChart, WeightsAndDivisorAreThoseOfTheComputation) {
       postureWeight * Module1.CtdPostureFactor + forceWeight * Module1.CtdForceFrequencyFactor);
   EXPECT_DOUBLE_EQ(Module1.CtdForceFrequencyFactor,
                    10 * 480 / divisor.captured(1).remove(',').toDouble());
-}
-
-/// The texts of a picture by the place of their middle, those of one place from the top down.
-QMap<double, QStringList> TextsByPlace(const QString& asset) {
-  QMap<double, QStringList> texts;
-  QXmlStreamReader reader(ContentOf(SourceFile("assets/" + asset + ".svg")));
-  while (!reader.atEnd()) {
-    if (reader.readNext() != QXmlStreamReader::StartElement || reader.name() != u"text") continue;
-    EXPECT_EQ(reader.attributes().value("text-anchor"), u"middle");
-    const double place = reader.attributes().value("x").toDouble();
-    texts[place] << reader.readElementText();
-  }
-  EXPECT_FALSE(reader.hasError()) << asset.toStdString();
-  return texts;
-}
-
-TEST(HalForceScalePicture, HasTheTicksAndWordsOfTheScaleAtTheirPlaces) {
-  QMap<double, QStringList> texts = TextsByPlace("hal/force_scale");
-  const double start = texts.firstKey();
-  ASSERT_GE(texts.size(), 11);
-  // The words of 9 to 10 stand between the two.
-  const double spacing = (texts.lastKey() - start) / 10;
-  for (const HalMark& mark : kHalForceMarks) {
-    SCOPED_TRACE(std::string(mark.tick));
-    const double place = start + spacing * mark.position;
-    const QString words = QString::fromStdString(std::string(mark.words));
-    QStringList& here = texts[place];
-    ASSERT_FALSE(here.isEmpty());
-    EXPECT_EQ(here.takeFirst().toStdString(), mark.tick);
-    QStringList& there = texts[mark.position == 9 ? place + spacing / 2 : place];
-    EXPECT_EQ(there.join(' ').toStdString(), words.toStdString());
-    there.clear();
-  }
-  for (const QStringList& left : texts) EXPECT_EQ(left, QStringList());
 }
 
 QString Text(std::string_view text) {

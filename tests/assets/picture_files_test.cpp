@@ -32,7 +32,7 @@ TEST(PictureFiles, AreWhatTheGeneratorDraws) {
 
 TEST(PictureFiles, EveryPictureThatTheProgramNamesIsThere) {
   const QStringList pictures = FilesBelow(SourceFile("assets"), ".svg");
-  const QRegularExpression name("\"((?:ocra|ctd|strain_index|rula|reba|hal)/[a-z0-9_]+)\"");
+  const QRegularExpression name("\"((?:ocra|ctd|strain_index|rula|reba)/[a-z0-9_]+)\"");
   QSet<QString> named;
   for (const QString& source : FilesBelow(SourceFile("tools"), ".cpp")) {
     auto hits = name.globalMatch(ContentOf(SourceFile("tools/" + source)));
@@ -41,7 +41,6 @@ TEST(PictureFiles, EveryPictureThatTheProgramNamesIsThere) {
   EXPECT_GT(named.size(), 50);
   EXPECT_EQ(named - QSet<QString>(pictures.begin(), pictures.end()), QSet<QString>{});
   EXPECT_TRUE(pictures.contains("ctd/task.svg")) << "the icon of the task tree";
-  EXPECT_TRUE(named.contains("hal/force_scale.svg"));
 }
 
 TEST(PictureFiles, DesktopProgramHasEachOnce) {

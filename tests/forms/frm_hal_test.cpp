@@ -14,6 +14,7 @@
 #include "app/tool_forms.h"
 #include "tests/support/form_support.h"
 #include "tools/hal/hal_report.h"
+#include "widgets/printed_scale.h"
 #include "widgets/rich_text_box.h"
 
 namespace halvane {
@@ -141,15 +142,42 @@ TEST_F(HalScreen, SlidersHaveTheirRangesAndSteps) {
 
 TEST_F(HalScreen, ForceScaleIsAPictureThatSaysWhatItShows) {
   Open();
-  const auto& picture = *Find<QGroupBox>(*form_, "SSPanel3").findChild<QLabel*>();
-  EXPECT_EQ(picture.pixmap().deviceIndependentSize(), QSizeF(440, 88));
-  const QImage image = picture.pixmap().toImage();
-  EXPECT_EQ(image.pixelColor(2, 2), QColor(Qt::white));
-  EXPECT_NE(image.pixelColor(image.width() * 9 / 10, image.height() * 18 / 88), QColor(Qt::white));
+  const auto& picture = *Find<QGroupBox>(*form_, "SSPanel3").findChild<PrintedScale*>();
+  EXPECT_EQ(picture.numbers(), (QStringList{"0", "1.0", "2.0", "3.0", "4.0", "5.0", "6.0", "7.0",
+                                            "8.0", "9.0", "10"}));
+  EXPECT_EQ(picture.words(), (QStringList{"Nothing At All", "Very Weak", "Weak (Light)", "Moderate",
+                                          "", "Strong (Heavy)", "", "Very Strong", "",
+                                          "Extremely Strong (Almost max.)", ""}));
+  // The last words hold from 9 to 10.
+  const auto placed = picture.PlaceWords(picture.width());
+  ASSERT_EQ(placed.size(), 7U);
+  EXPECT_NEAR(placed.back().mark, picture.MarkAt(9.5, picture.width()), 1);
+  EXPECT_GE(picture.height(), picture.heightForWidth(picture.width()));
   EXPECT_EQ(picture.accessibleName(), "Borg Scale");
   EXPECT_EQ(picture.accessibleDescription(),
             "0 Nothing At All, 1.0 Very Weak, 2.0 Weak (Light), 3.0 Moderate, 5.0 Strong (Heavy), "
             "7.0 Very Strong, 9.0 Extremely Strong (Almost max.)");
+}
+
+TEST_F(HalScreen, ReportStandsBesideTheInputsOrBelowThemWhereThatDoesNotFit) {
+  platform.SetAvailableArea({0, 0, 1920, 1080});
+  Open();
+  const auto place = [this](const QWidget& widget) {
+    return QRect(widget.mapTo(form_.get(), QPoint()), widget.size());
+  };
+  const auto& level = Find<QGroupBox>(*form_, "SSFrame1(2)");
+  for (const QSize size : {QSize(960, 620), QSize(1120, 700), QSize(1900, 1040)}) {
+    form_->resize(size);
+    QCoreApplication::processEvents();
+    EXPECT_GT(place(Pane()).left(), place(level).right()) << size.width();
+    EXPECT_GE(Pane().width(), size.width() * 2 / 5) << size.width();
+  }
+  form_->setMinimumSize(0, 0);
+  form_->resize(640, 480);
+  QCoreApplication::processEvents();
+  EXPECT_GT(place(Pane()).top(), place(Find<QGroupBox>(*form_, "SSPanel4")).bottom());
+  EXPECT_GE(Pane().width(), 400);
+  EXPECT_GE(Level().width(), 300);
 }
 
 TEST_F(HalLoad, NewJobStandsAtZeroAndStaysClean) {

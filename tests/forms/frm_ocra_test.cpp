@@ -174,18 +174,71 @@ TEST_F(OcraScreen, ListsHaveTheirCaptionsAndTheFourAnswers) {
 
 TEST_F(OcraScreen, ListsOfAPairShareAPanel) {
   Show();
+  The<QTabWidget>("SSTab1").setCurrentIndex(1);
+  QCoreApplication::processEvents();
+  const auto place = [this](const QWidget& widget) {
+    return QRect(widget.mapTo(form.get(), QPoint()), widget.size());
+  };
   for (int list = 0; list < 14; ++list) {
     QStringList others;
     for (const auto* panel : form->findChildren<PairPanel*>()) {
-      if (!panel->isAncestorOf(&Combo(list))) continue;
-      for (const auto* combo : panel->findChildren<QComboBox*>()) {
-        if (combo != &Combo(list)) others.append(combo->objectName());
+      if (!place(*panel).contains(place(Combo(list)))) continue;
+      for (const auto* combo : form->findChildren<QComboBox*>()) {
+        if (combo == &Combo(list) || !place(*panel).intersects(place(*combo))) continue;
+        others.append(combo->objectName());
       }
     }
     const int pair = list % 2 == 0 ? list + 1 : list - 1;
     EXPECT_EQ(others, list < 6 ? QStringList() : QStringList{QString("Combo1(%1)").arg(pair)})
         << list;
   }
+}
+
+TEST_F(OcraScreen, ListsAndTickBoxesOfAllFramesStandLevel) {
+  Show();
+  The<QTabWidget>("SSTab1").setCurrentIndex(1);
+  const auto middle = [this](const QWidget& widget) {
+    return widget.mapTo(form.get(), QPoint(0, widget.height() / 2)).y();
+  };
+  for (const QSize size : {QSize(960, 620), QSize(1120, 700), QSize(1900, 1040)}) {
+    form->resize(size);
+    QCoreApplication::processEvents();
+    for (int row = 0; row < 6; ++row) {
+      const int grip = middle(Combo(row));
+      if (row > 0) {
+        EXPECT_GT(grip, middle(Combo(row - 1)) + Combo(row).height());
+      }
+      if (row > 3) continue;
+      EXPECT_NEAR(middle(Combo(6 + row)), grip, 1) << size.width() << " " << row;
+      EXPECT_NEAR(middle(Combo(10 + row)), grip, 1) << size.width() << " " << row;
+    }
+    // The first box of each frame.
+    const int tick = middle(The<QCheckBox>("SSCheck1(2)"));
+    EXPECT_NEAR(middle(The<QCheckBox>("SSCheck1(0)")), tick, 1) << size.width();
+    EXPECT_NEAR(middle(The<QCheckBox>("SSCheck1(4)")), tick, 1) << size.width();
+  }
+}
+
+TEST_F(OcraScreen, ForceSliderRunsAcrossThePage) {
+  Show();
+  for (const QSize size : {QSize(960, 620), QSize(1120, 700), QSize(1900, 1040)}) {
+    form->resize(size);
+    QCoreApplication::processEvents();
+    EXPECT_GT(Slider("Slider1").width(), size.width() * 4 / 5);
+    const auto& scale = *The<QGroupBox>("SSFrame1(4)").findChild<TickLabels*>();
+    EXPECT_GE(scale.height(), scale.heightForWidth(scale.width()));
+  }
+}
+
+TEST_F(OcraScreen, RowsOfTheFirstTabStandOnOneLine) {
+  Show();
+  const auto middle = [this](const QWidget& widget) {
+    return widget.mapTo(form.get(), QPoint(0, widget.height() / 2)).y();
+  };
+  EXPECT_NEAR(middle(The<QRadioButton>("SSOption1(0)")), middle(The<QLineEdit>("Text2(1)")), 1);
+  EXPECT_NEAR(middle(The<QLabel>("Label1(5)")), middle(The<QLineEdit>("Text2(1)")), 1);
+  EXPECT_NEAR(middle(The<QLabel>("Label1(2)")), middle(The<QLineEdit>("Text1(2)")), 1);
+  EXPECT_NEAR(middle(The<QLabel>("Label1(11)")), middle(The<QLineEdit>("Text3(0)")), 1);
 }
 
 struct TickRow {

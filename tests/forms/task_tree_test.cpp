@@ -8,8 +8,6 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QSignalSpy>
-#include <QSlider>
-#include <QStyle>
 #include <QTest>
 #include <QVBoxLayout>
 
@@ -17,7 +15,6 @@
 #include "tests/forms/ocra_form_support.h"
 #include "tools/task_list/task_list_frame.h"
 #include "widgets/pair_panel.h"
-#include "widgets/tick_labels.h"
 
 namespace halvane {
 namespace {
@@ -307,69 +304,12 @@ TEST_F(TaskList, ButtonFindsTheNameOfAnUnfinishedEdit) {
   EXPECT_EQ(renamed_.count(), 1);
 }
 
-/// The columns of a picture that hold anything but the background.
-std::vector<int> InkedColumns(const QImage& picture) {
-  std::vector<int> columns;
-  const QColor background = picture.pixelColor(0, picture.height() - 1);
-  for (int x = 0; x < picture.width(); ++x) {
-    for (int y = 0; y < picture.height(); ++y) {
-      if (picture.pixelColor(x, y) == background) continue;
-      columns.push_back(x);
-      break;
-    }
-  }
-  return columns;
-}
-
-/// Labels 400 wide, of which only one mark has a number.
-QImage OneNumber(const QSlider& slider, int mark, const QString& number) {
-  QStringList numbers(11);
-  numbers[mark] = number;
-  TickLabels labels(slider, numbers, {}, nullptr);
-  labels.resize(400, 40);
-  return labels.grab().toImage();
-}
-
-TEST(TickLabels, NumberStandsUnderItsMark) {
-  QSlider slider(Qt::Horizontal);
-  slider.setRange(0, 10);
-  const int handle = slider.style()->pixelMetric(QStyle::PM_SliderLength, nullptr, &slider);
-  for (const int mark : {1, 5, 9}) {
-    const std::vector<int> inked = InkedColumns(OneNumber(slider, mark, "888"));
-    ASSERT_FALSE(inked.empty()) << mark;
-    EXPECT_NEAR((inked.front() + inked.back()) / 2.0, handle / 2.0 + mark * (400 - handle) / 10.0,
-                2)
-        << mark;
-  }
-}
-
-TEST(TickLabels, NumberAtAnEndStaysInside) {
-  QSlider slider(Qt::Horizontal);
-  slider.setRange(0, 10);
-  const std::size_t width = InkedColumns(OneNumber(slider, 5, "88888888")).size();
-  for (const int mark : {0, 10}) {
-    EXPECT_EQ(InkedColumns(OneNumber(slider, mark, "88888888")).size(), width) << mark;
-  }
-}
-
-TEST(TickLabels, WordsTakeRoomBelowTheNumbers) {
-  const QSlider slider(Qt::Horizontal);
-  const QStringList numbers{"0", "1"};
-  const TickLabels bare(slider, numbers, {}, nullptr);
-  const TickLabels worded(slider, numbers, {"none", "some"}, nullptr);
-  EXPECT_EQ(worded.sizeHint().height(), 5 * bare.sizeHint().height());
-  EXPECT_EQ(worded.minimumSizeHint(), worded.sizeHint());
-  EXPECT_EQ(worded.numbers(), numbers);
-  EXPECT_EQ(worded.words(), (QStringList{"none", "some"}));
-}
-
 TEST(PairPanel, HasABracketAtItsLeftAndATint) {
   PairPanel panel(nullptr);
   QPalette palette;
   palette.setColor(QPalette::Highlight, QColor(10, 20, 200));
   palette.setColor(QPalette::Window, QColor(240, 240, 240));
   panel.setPalette(palette);
-  panel.layout()->addWidget(new QLabel(&panel));
   panel.resize(80, 40);
   const QImage picture = panel.grab().toImage();
   EXPECT_EQ(picture.pixelColor(0, 0), QColor(10, 20, 200));

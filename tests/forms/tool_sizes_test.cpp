@@ -11,6 +11,7 @@
 #include "app/tool_forms.h"
 #include "core/task_list.h"
 #include "shell/frm_hand_main.h"
+#include "shell/hand_frame.h"
 #include "shell/tool_form.h"
 #include "tests/support/form_support.h"
 #include "tools/tool_table.h"
@@ -175,6 +176,27 @@ TEST_F(ToolSizes, AnOpenFormFollowsTheFont) {
     EXPECT_EQ(form->minimumSize(), fresh->minimumSize()) << form->objectName().toStdString();
     QApplication::setFont(usual);
   }
+}
+
+TEST_F(ToolSizes, IdentificationAndHandStandOnOneLine) {
+  platform.SetAvailableArea({0, 0, 4000, 3000});
+  int rows = 0;
+  for (const ToolRow& row : Tools()) {
+    const auto form = Shown(row.tool);
+    const auto* strip = form->findChild<IdentificationStrip*>();
+    const auto* hand = form->findChild<HandFrame*>();
+    // One tool has the hand in a frame of its own.
+    if (hand->parentWidget() != strip->parentWidget()) continue;
+    ++rows;
+    const auto middle = [](const QWidget& widget) {
+      return widget.mapTo(widget.window(), QPoint(0, widget.height() / 2)).y();
+    };
+    const int line = middle(*hand->findChild<QAbstractButton*>());
+    for (const auto* child : strip->findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+      EXPECT_NEAR(middle(*child), line, 1) << form->objectName().toStdString();
+    }
+  }
+  EXPECT_EQ(rows, 5);
 }
 
 TEST_F(ToolSizes, TheTabKeyBringsEachControlOfASmallScreenIntoView) {

@@ -1,5 +1,6 @@
 #include "shell/frm_about.h"
 
+#include <QApplication>
 #include <QLabel>
 #include <QPushButton>
 #include <QTest>
@@ -54,6 +55,37 @@ TEST_F(AboutBox, TellsWhereHelpIsAndWhatIsNotPromised) {
   EXPECT_EQ(Find<QLabel>(about, "lblNotice").text(),
             "This program is provided as it is, without warranty of any kind. Its figures support "
             "the judgement of an analyst; they do not replace it.");
+}
+
+TEST_F(AboutBox, IsWholeInEachFontAndNoWiderThanTheScreen) {
+  const QFont usual = QApplication::font();
+  for (const QSize screen : {QSize(1280, 720), QSize(800, 900)}) {
+    platform.SetAvailableArea({QPoint(), screen});
+    QApplication::setFont(usual);
+    FrmAbout about(nullptr);
+    ShowActive(about);
+    for (const double points : {8.0, 14.0, 20.0}) {
+      QFont font = usual;
+      font.setPointSizeF(points);
+      QApplication::setFont(font);
+      for (int round = 0; round < 3; ++round) QCoreApplication::processEvents();
+      EXPECT_LE(about.width(), screen.width()) << points;
+      EXPECT_LE(about.height(), screen.height()) << points;
+      for (const auto* label : about.findChildren<QLabel*>()) {
+        if (label->text().isEmpty()) continue;
+        const QRect place(label->mapTo(&about, QPoint()), label->size());
+        EXPECT_TRUE(about.rect().contains(place)) << label->text().toStdString() << points;
+        const bool wraps = label->wordWrap();
+        EXPECT_GE(label->height(),
+                  wraps ? label->heightForWidth(label->width()) : label->fontMetrics().height());
+        if (!wraps) {
+          EXPECT_GE(label->width(), label->fontMetrics().horizontalAdvance(label->text()));
+        }
+      }
+      EXPECT_GT(Find<QLabel>(about, "lblTitle").font().pointSizeF(), 1.5 * points);
+    }
+  }
+  QApplication::setFont(usual);
 }
 
 TEST_F(AboutBox, HasTheProductsIconTwice) {

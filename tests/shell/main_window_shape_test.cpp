@@ -204,6 +204,45 @@ TEST_F(MainWindowShape, LargeFontsAreNotClipped) {
   QApplication::setFont(usual);
 }
 
+TEST_F(MainWindowShape, TextsFollowTheFontAsFarAsThereIsRoom) {
+  const QFont usual = QApplication::font();
+  const auto setPoints = [&usual](double points) {
+    QFont font = usual;
+    font.setPointSizeF(points);
+    QApplication::setFont(font);
+    for (int round = 0; round < 3; ++round) QCoreApplication::processEvents();
+  };
+  setPoints(8);
+  const auto window = IdleMainWindow();
+  QList<double> before;
+  for (const double points : {8.0, 10.0, 12.0, 20.0, 8.0}) {
+    setPoints(points);
+    QList<double> sizes;
+    for (const char* name : {"SSCommand2(0)", "SSCommand2(1)", "SSRibbon1(0)", "Label1"}) {
+      const auto& control = Find<QWidget>(*window, name);
+      const QString text = control.property("text").toString();
+      const QSize needed = control.fontMetrics().size(Qt::TextSingleLine, text);
+      EXPECT_LE(needed.width(), control.width()) << name << points;
+      EXPECT_LE(needed.height(), control.height()) << name << points;
+      const double size = control.font().pointSizeF();
+      EXPECT_LE(size, points + 0.01) << name;
+      // What has the room takes the font as it is.
+      if (points <= 10 || QString(name) == "SSCommand2(0)") {
+        if (points < 20) {
+          EXPECT_NEAR(size, points, 0.1) << name;
+        }
+      }
+      sizes.append(size);
+    }
+    if (points == 20.0) {
+      EXPECT_GT(sizes[0], 13) << "a launch button has room for more than 13 points";
+    }
+    before = sizes;
+  }
+  EXPECT_NEAR(before[0], 8, 0.1) << "and back";
+  QApplication::setFont(usual);
+}
+
 QRgb Blue(int level) { return qRgb(0, 0, level); }
 
 /// The level of blue of one row: the boxes are two rows high, the first of them one row.

@@ -2,15 +2,21 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QCheckBox>
+#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QStyle>
+#include <QStyleOptionButton>
 
 #include "tests/support/form_support.h"
 #include "widgets/drop_list.h"
 #include "widgets/font_share.h"
+#include "widgets/layout.h"
 #include "widgets/number_box.h"
 #include "widgets/readout.h"
 #include "widgets/window_place.h"
+#include "widgets/wrapped_caption.h"
 
 namespace halvane {
 namespace {
@@ -57,6 +63,39 @@ TEST_F(Fonts, AListHasRoomForItsEntriesInEach) {
   SetPoints(18);
   EXPECT_GT(list->width(), list->fontMetrics().horizontalAdvance(list->currentText()));
   EXPECT_GE(list->height(), list->fontMetrics().height());
+}
+
+TEST_F(Fonts, ATickBoxHasItsMarkAtTheFirstLineOfItsCaptionInEach) {
+  for (const double points : {8.0, 9.0, 14.0, 20.0}) {
+    SetPoints(points);
+    QWidget window;
+    auto* grid = new QGridLayout(&window);
+    QCheckBox* box = AddWrappedCheck(*grid, "SSCheck1(0)", "a caption of more than one line");
+    window.resize(160, 300);
+    ShowActive(window);
+    const auto* caption = window.findChild<QLabel*>();
+    const int line = caption->fontMetrics().lineSpacing();
+    ASSERT_GE(caption->heightForWidth(caption->width()), 2 * line);
+    QStyleOptionButton option;
+    option.initFrom(box);
+    const QRect mark = box->style()->subElementRect(QStyle::SE_CheckBoxIndicator, &option, box);
+    const int middle = box->y() + mark.y() + mark.height() / 2;
+    EXPECT_NEAR(middle, caption->y() + line / 2, 1) << points;
+  }
+}
+
+TEST_F(Fonts, ACaptionKeepsToItsLinesInEach) {
+  SetPoints(9);
+  QCheckBox box;
+  WrappedCaption caption(box, "Trunk is twisting or side bending", nullptr);
+  caption.SetMostLines(2);
+  for (const double points : {9.0, 14.0, 18.0, 20.0}) {
+    SetPoints(points);
+    const int width = caption.minimumSizeHint().width();
+    const int line = caption.fontMetrics().lineSpacing();
+    EXPECT_EQ((caption.heightForWidth(width) + line / 2) / line, 2) << points;
+    EXPECT_EQ((caption.heightForWidth(width - 2) + line / 2) / line, 3) << points;
+  }
 }
 
 TEST_F(Fonts, AShareIsKeptOfTheParentsSize) {

@@ -68,7 +68,7 @@ class Wrapping : public ShellTest {
   Wrapping() {
     auto* content = new QWidget;
     auto* column = new QVBoxLayout(content);
-    caption = new QLabel(QString("some words ").repeated(60), content);
+    caption = new QLabel(QString("some words ").repeated(120), content);
     caption->setWordWrap(true);
     column->addWidget(caption);
     column->addStretch(1);
@@ -97,6 +97,18 @@ TEST_F(Wrapping, ACaptionThatWrapsIsWholeAndScrolls) {
   EXPECT_FALSE(page->horizontalScrollBar()->isVisible());
   EXPECT_GE(caption->height(), caption->heightForWidth(caption->width()));
   EXPECT_EQ(page->widget()->width(), page->viewport()->width());
+}
+
+TEST_F(Wrapping, TheBarGoesAsSoonAsThePageFitsWithoutIt) {
+  const int needed = page->heightForWidth(400);
+  page->resize(400, needed - 20);
+  ShowActive(*page);
+  EXPECT_TRUE(page->verticalScrollBar()->isVisible());
+  ASSERT_GT(page->heightForWidth(page->viewport()->width()), needed) << "beside the bar";
+  page->resize(400, needed);
+  QCoreApplication::processEvents();
+  EXPECT_FALSE(page->verticalScrollBar()->isVisible());
+  EXPECT_EQ(page->viewport()->size(), page->size());
 }
 
 TEST_F(Scrolling, WhatGetsTheFocusIsSeen) {

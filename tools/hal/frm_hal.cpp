@@ -3,13 +3,11 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
-#include <QIcon>
 #include <QLabel>
 #include <QMenu>
 #include <QSignalBlocker>
 #include <QStyle>
 #include <QStyleOptionSlider>
-#include <QSvgRenderer>
 #include <QToolTip>
 #include <QVBoxLayout>
 
@@ -21,6 +19,7 @@
 #include "widgets/labelled_scale.h"
 #include "widgets/layout.h"
 #include "widgets/mouse_slider.h"
+#include "widgets/printed_scale.h"
 #include "widgets/readout.h"
 #include "widgets/rich_text_box.h"
 #include "widgets/spoken.h"
@@ -40,7 +39,6 @@ constexpr int kReportShare = 6;
 constexpr QSize kLeastReport{380, 240};
 constexpr int kLevelPage = 2;
 constexpr int kDutyPage = 5;
-constexpr auto kForceScale = "hal/force_scale";
 constexpr double kNoteShare = 0.9;
 
 /// The printed scale in words: "0 Nothing At All, 1.0 Very Weak, ...".
@@ -194,13 +192,17 @@ void FrmHAL::AddLimit(QBoxLayout& row, int element, int captionIndex, int valueI
 QGroupBox* FrmHAL::MakeForceScale(QWidget* parent) {
   const auto [panel, grid] = MakeFrame(ScreenText(kHalForceCaption), parent);
   panel->setObjectName("SSPanel3");
-  auto* picture = new QLabel(panel);
-  const QString path = QString(":/assets/%1.svg").arg(kForceScale);
-  picture->setPixmap(QIcon(path).pixmap(QSvgRenderer(path).defaultSize(), devicePixelRatioF()));
-  picture->setAlignment(Qt::AlignCenter);
-  picture->setAccessibleName(panel->title());
-  picture->setAccessibleDescription(ForceScaleInWords());
-  grid->addWidget(picture, 0, 0);
+  QStringList numbers;
+  QStringList words;
+  for (const HalMark& mark : kHalForceMarks) {
+    numbers.append(ScreenText(mark.tick));
+    words.append(ScreenText(mark.words));
+  }
+  auto* scale = new PrintedScale(numbers, words, panel);
+  scale->StretchWords(kHalForceStretch);
+  scale->setAccessibleName(panel->title());
+  scale->setAccessibleDescription(ForceScaleInWords());
+  grid->addWidget(scale, 0, 0);
   return panel;
 }
 

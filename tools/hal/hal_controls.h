@@ -47,6 +47,7 @@ struct HalMark {
 extern const std::array<HalMark, 6> kHalLevelMarks;
 /// The printed scale of the force, 0 to 10. The words of 9 count up to 10.
 extern const std::array<HalMark, 11> kHalForceMarks;
+inline constexpr int kHalForceStretch = 9;
 
 /// The ends of the form's two sliders; both begin at 0.
 inline constexpr int kHalHighestLevel = 10;

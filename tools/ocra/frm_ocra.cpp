@@ -22,16 +22,20 @@
 #include "widgets/pair_panel.h"
 #include "widgets/readout.h"
 #include "widgets/rich_text_box.h"
+#include "widgets/slider_scale.h"
 #include "widgets/spoken.h"
 #include "widgets/tab_strip.h"
 #include "widgets/text_box.h"
-#include "widgets/tick_labels.h"
+#include "widgets/wrap_row.h"
 
 namespace halvane {
 namespace {
 
 constexpr IdentificationNames kNames{
     {"Text3(0)", "Label1(11)"}, {"Text3(1)", "Label1(10)"}, {"Text3(2)", "Label1(9)"}, "SSOption1"};
+
+/// The rows of lists share the height that is left over with the room below the tick boxes.
+constexpr int kRoomBelowLists = 3;
 
 QStringList ScreenTexts(std::span<const std::string_view> texts) {
   QStringList list;
@@ -63,42 +67,46 @@ FrmOCRA::FrmOCRA(QWidget* parent) : ToolForm(Tool::Ocra, "frmOCRA", kNames, pare
 
 QWidget* FrmOCRA::MakeTaskTab() {
   auto* tab = new QWidget(SSTab1_);
-  auto* grid = new QGridLayout(tab);
-  grid->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
-  grid->setSpacing(kGap);
-  grid->addWidget(MakeJobFrame(tab), 0, 0, 1, 2);
-  grid->addWidget(MakeTaskList(tab), 1, 0);
-  grid->addWidget(MakeTaskInputs(tab), 1, 1);
-  grid->setColumnStretch(0, 1);
-  grid->setColumnStretch(1, 2);
-  grid->setRowStretch(1, 1);
+  auto* column = new QVBoxLayout(tab);
+  column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+  column->setSpacing(kGap);
+  column->addWidget(MakeJobFrame(tab));
+  auto* tasks = new QWidget(tab);
+  auto* row = new WrapRow(1, tasks);
+  row->Add(MakeTaskList(tasks), 1);
+  row->Add(MakeTaskNumbers(tasks), 0);
+  column->addWidget(tasks, 1);
+  QGroupBox* force = MakeForceFrame(tab);
+  column->addWidget(force);
+  taskFrames_.push_back(force);
   return tab;
 }
 
 QGroupBox* FrmOCRA::MakeJobFrame(QWidget* parent) {
-  const auto [panel, grid] = MakeFrame(ScreenText(kOcraJobCaption), parent);
+  auto* panel = new QGroupBox(ScreenText(kOcraJobCaption), parent);
   panel->setObjectName("SSPanel1");
+  auto* row = new WrapRow(1, panel);
+  row->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
   HandFrame* side = MakeHand(panel);
   side->setObjectName("SSFrame1(5)");
-  grid->addWidget(side, 0, 0);
 
   const NumberFrame cycle = MakeNumberFrame(kOcraCycleTime, "Text2", panel);
   cycleTime_ = cycle.number;
   connect(cycleTime_, &TextBox::keyReleased, this, &FrmOCRA::Text2_KeyUp);
-  grid->addWidget(cycle.frame, 0, 1);
 
-  const auto [recovery, recoveryGrid] = MakeFrame(ScreenText(kOcraHoursCaption), panel);
+  const auto [recovery, grid] = MakeFrame(ScreenText(kOcraHoursCaption), panel);
   recovery->setObjectName("SSFrame1(0)");
   Slider2_ = MakeSlider("Slider2", 5, recovery);
   Slider2_->setAccessibleName(recovery->title());
   hours_ = new Readout("10", recovery);
-  recoveryGrid->addWidget(Slider2_, 0, 0);
-  recoveryGrid->addWidget(new TickLabels(*Slider2_, ScreenTexts(kOcraHourMarks), {}, recovery), 1,
-                          0);
-  recoveryGrid->addWidget(hours_, 0, 1);
+  grid->addWidget(new SliderScale(Slider2_, ScreenTexts(kOcraHourMarks), {}, recovery), 0, 0);
+  grid->addWidget(hours_, 0, 1);
   connect(Slider2_, &QSlider::valueChanged, this, &FrmOCRA::Slider2_Scroll);
-  grid->addWidget(recovery, 0, 2);
-  grid->setColumnStretch(2, 1);
+  for (QGroupBox* frame : {static_cast<QGroupBox*>(side), cycle.frame, recovery}) {
+    // All as high as the highest.
+    frame->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
+    row->Add(frame, frame == recovery ? 1 : 0);
+  }
   return panel;
 }
 
@@ -120,25 +128,20 @@ QWidget* FrmOCRA::MakeTaskList(QWidget* parent) {
   return frame;
 }
 
-QWidget* FrmOCRA::MakeTaskInputs(QWidget* parent) {
-  auto* inputs = new QWidget(parent);
-  auto* grid = new QGridLayout(inputs);
-  grid->setContentsMargins(0, 0, 0, 0);
-  grid->setSpacing(kGap);
-
-  int column = 0;
+QWidget* FrmOCRA::MakeTaskNumbers(QWidget* parent) {
+  auto* numbers = new QWidget(parent);
+  auto* column = new QVBoxLayout(numbers);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->setSpacing(kGap);
   for (const OcraBox& row : kOcraTaskBoxes) {
-    const auto [frame, number] = MakeNumberFrame(row, "Text1", inputs);
+    const auto [frame, number] = MakeNumberFrame(row, "Text1", numbers);
     Text1_[row.index] = number;
     connect(number, &TextBox::keyReleased, this, [this, index = row.index] { Text1_KeyUp(index); });
-    grid->addWidget(frame, 0, column++);
+    column->addWidget(frame);
     taskFrames_.push_back(frame);
   }
-  QGroupBox* force = MakeForceFrame(inputs);
-  grid->addWidget(force, 1, 0, 1, 2);
-  grid->setRowStretch(2, 1);
-  taskFrames_.push_back(force);
-  return inputs;
+  column->addStretch(1);
+  return numbers;
 }
 
 QGroupBox* FrmOCRA::MakeForceFrame(QWidget* parent) {
@@ -153,50 +156,63 @@ QGroupBox* FrmOCRA::MakeForceFrame(QWidget* parent) {
     words.append(ScreenText(mark.word));
   }
   SetSpokenScale(*Slider1_, OcraRatingAt(1) - OcraRatingAt(0), words);
-  grid->addWidget(Slider1_, 0, 0);
-  grid->addWidget(new TickLabels(*Slider1_, ticks, words, frame), 1, 0);
+  grid->addWidget(new SliderScale(Slider1_, ticks, words, frame), 0, 0);
   rating_ = new Readout("0.0", frame);
-  grid->addWidget(rating_, 0, 1);
+  grid->addWidget(rating_, 0, 1, Qt::AlignTop);
   connect(Slider1_, &QSlider::valueChanged, this, &FrmOCRA::Slider1_Scroll);
   return frame;
 }
 
 QWidget* FrmOCRA::MakePostureTab() {
   auto* tab = new QWidget(SSTab1_);
-  auto* row = new QHBoxLayout(tab);
+  auto* row = new WrapRow(1, tab);
   row->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
-  row->setSpacing(kGap);
-  for (const OcraFrame& frame : kOcraFrames) row->addWidget(MakeRegionFrame(frame, tab), 1);
+  const LevelCell::Peers lines = LevelCell::MakePeers();
+  const LevelCell::Peers ticks = LevelCell::MakePeers();
+  for (const OcraFrame& frame : kOcraFrames) row->Add(MakeRegionFrame(frame, lines, ticks, tab), 1);
   return tab;
 }
 
-QGroupBox* FrmOCRA::MakeRegionFrame(const OcraFrame& region, QWidget* parent) {
-  const auto [frame, grid] = MakeFrame(ScreenText(region.caption), parent);
+QGroupBox* FrmOCRA::MakeRegionFrame(const OcraFrame& region, const LevelCell::Peers& lines,
+                                    const LevelCell::Peers& ticks, QWidget* parent) {
+  auto* frame = new QGroupBox(ScreenText(region.caption), parent);
   frame->setObjectName(ScreenText(region.objectName));
+  frame->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
+  auto* grid = new QGridLayout(frame);
+  grid->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+  grid->setVerticalSpacing(kGap / 2);
   int row = 0;
   for (const int list : region.lists) {
     const int pair = kOcraLists[static_cast<std::size_t>(list)].pair;
-    if (pair == kOcraNoPair) {
-      grid->addWidget(MakeList(list, frame), row++, 0);
-    } else if (pair > list) {
-      auto* panel = new PairPanel(frame);
-      panel->layout()->addWidget(MakeList(list, panel));
-      panel->layout()->addWidget(MakeList(pair, panel));
-      grid->addWidget(panel, row++, 0);
-    }
+    // Behind this list and the next one.
+    if (pair > list) grid->addWidget(new PairPanel(frame), row, 0, 2, 1);
+    auto* cell = new LevelCell(lines);
+    grid->addLayout(cell, row++, 0);
+    cell->addWidget(MakeList(list, frame));
   }
-  const auto [ticks, tickGrid] = MakeFrame(ScreenText(kOcraTicksCaption), frame);
-  auto* group = new ChoiceGroup(Choice::Any, ticks);
+  // As many rows in each frame, so that the boxes below stand level.
+  while (row < kOcraMostLists) grid->addLayout(new LevelCell(lines), row++, 0);
+  for (int i = 0; i < row; ++i) grid->setRowStretch(i, 1);
+  auto* cell = new LevelCell(ticks);
+  grid->addLayout(cell, row++, 0);
+  cell->addWidget(MakeTicks(region, frame));
+  grid->setRowStretch(row, kRoomBelowLists);
+  return frame;
+}
+
+QGroupBox* FrmOCRA::MakeTicks(const OcraFrame& region, QWidget* parent) {
+  const auto [frame, grid] = MakeFrame(ScreenText(kOcraTicksCaption), parent);
+  auto* group = new ChoiceGroup(Choice::Any, frame);
   for (const int index : region.ticks) {
     const auto at = static_cast<std::size_t>(index);
-    SSCheck1_[at] = AddWrappedCheck(*tickGrid, ElementName("SSCheck1", index),
-                                    ScreenText(kOcraTicks[at].caption));
+    SSCheck1_[at] =
+        AddWrappedCheck(*grid, ElementName("SSCheck1", index), ScreenText(kOcraTicks[at].caption));
     group->Add(*SSCheck1_[at]);
     connect(SSCheck1_[at], &QCheckBox::clicked, this,
             [this, index](bool ticked) { SSCheck1_Click(index, ticked); });
   }
-  grid->addWidget(ticks, row++, 0);
-  grid->setRowStretch(row, 1);
+  // Below what a frame with fewer boxes has.
+  grid->setRowStretch(grid->rowCount(), 1);
   return frame;
 }
 
@@ -204,7 +220,7 @@ QWidget* FrmOCRA::MakeList(int list, QWidget* parent) {
   const auto at = static_cast<std::size_t>(list);
   auto* line = new QWidget(parent);
   auto* row = new QHBoxLayout(line);
-  row->setContentsMargins(0, 0, 0, 0);
+  row->setContentsMargins(kGap, kGap / 4, kGap, kGap / 4);
   row->setSpacing(kGap);
   auto* caption = new QLabel(ScreenText(kOcraLists[at].caption), line);
   auto* combo = new DropList(ElementName("Combo1", list), line);
@@ -212,7 +228,7 @@ QWidget* FrmOCRA::MakeList(int list, QWidget* parent) {
   caption->setBuddy(combo);
   caption->setWordWrap(true);
   row->addWidget(caption, 1);
-  row->addWidget(combo);
+  row->addWidget(combo, 1);
   Combo1_[at] = combo;
   connect(combo, &QComboBox::activated, this,
           [this, list](int answer) { Combo1_Click(list, answer); });

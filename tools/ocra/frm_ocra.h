@@ -6,6 +6,7 @@
 
 #include "shell/tool_form.h"
 #include "tools/ocra/ocra_controls.h"
+#include "widgets/level_cell.h"
 
 class QCheckBox;
 class QComboBox;
@@ -62,10 +63,13 @@ class FrmOCRA : public ToolForm {
   QGroupBox* MakeJobFrame(QWidget* parent);
   static NumberFrame MakeNumberFrame(const OcraBox& row, const QString& array, QWidget* parent);
   QWidget* MakeTaskList(QWidget* parent);
-  QWidget* MakeTaskInputs(QWidget* parent);
+  QWidget* MakeTaskNumbers(QWidget* parent);
   QGroupBox* MakeForceFrame(QWidget* parent);
   QWidget* MakePostureTab();
-  QGroupBox* MakeRegionFrame(const OcraFrame& region, QWidget* parent);
+  /// Its lists stand level with their peers in the other frames, and so do its tick boxes.
+  QGroupBox* MakeRegionFrame(const OcraFrame& region, const LevelCell::Peers& lines,
+                             const LevelCell::Peers& ticks, QWidget* parent);
+  QGroupBox* MakeTicks(const OcraFrame& region, QWidget* parent);
   QWidget* MakeList(int list, QWidget* parent);
   void ShowTaskFrames(bool shown);
   void ShowControls();

@@ -99,6 +99,9 @@ struct OcraFrame {
 /// In the order of the screen, which is that of `OcraRegion`.
 extern const std::array<OcraFrame, 3> kOcraFrames;
 
+/// As many lists as the frame with the most has.
+inline constexpr int kOcraMostLists = 6;
+
 /// A mark of the force scale.
 struct OcraForceMark {
   std::string_view tick;  ///< the number under the mark
