@@ -2,14 +2,18 @@
 
 #include <QAbstractButton>
 #include <QAccessible>
+#include <QAction>
 #include <QComboBox>
-#include <QGroupBox>
+#include <QMenu>
 #include <QSlider>
+#include <array>
 
 #include "widgets/report_note.h"
 #include "widgets/rich_text_box.h"
 #include "widgets/spoken_button.h"
 #include "widgets/spoken_list.h"
+#include "widgets/spoken_menu.h"
+#include "widgets/spoken_menu_item.h"
 #include "widgets/spoken_note.h"
 #include "widgets/spoken_panel.h"
 #include "widgets/spoken_report.h"
@@ -32,7 +36,9 @@ struct Row {
   const char* className;
   QAccessibleInterface* (*make)(QObject* object);
 };
-constexpr Row kRows[]{
+constexpr auto kRows = std::to_array<Row>({
+    {"QAction", Make<QAction, SpokenMenuItem>},
+    {"QMenu", Make<QMenu, SpokenMenu>},
     {"QCheckBox", Make<QAbstractButton, SpokenButton>},
     {"QRadioButton", Make<QAbstractButton, SpokenButton>},
     {"QPushButton", Make<QAbstractButton, SpokenButton>},
@@ -47,7 +53,7 @@ constexpr Row kRows[]{
     {"halvane::TextBox", Make<TextBox, SpokenTextBox>},
     {"halvane::RichTextBox", Make<RichTextBox, SpokenReport>},
     {"halvane::ReportNote", Make<ReportNote, SpokenNote>},
-};
+});
 
 /// The toolkit asks for the class of an object and then for those above it, until one is known.
 QAccessibleInterface* MakeSpoken(const QString& className, QObject* object) {
@@ -68,6 +74,15 @@ bool IsUnspoken(const QWidget& control) { return control.property(kUnspoken).toB
 void SetSpokenScale(QSlider& slider, double step, const QStringList& words) {
   slider.setProperty(SpokenSlider::kStep, step);
   slider.setProperty(SpokenSlider::kWords, words);
+}
+
+QString WithoutLetters(const QString& caption) {
+  QString text;
+  for (qsizetype i = 0; i < caption.size(); ++i) {
+    if (caption[i] == '&' && i + 1 < caption.size()) ++i;
+    text.append(caption[i]);
+  }
+  return text.trimmed();
 }
 
 QString SpokenCaption(const QString& caption) {

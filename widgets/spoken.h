@@ -21,6 +21,8 @@ void KeepUnspoken(QWidget& control);
 /// before, and `words` has one, possibly empty, text a position.
 void SetSpokenScale(QSlider& slider, double step, const QStringList& words);
 
+/// A caption without the marks of its letters: "&Add Task" is "Add Task".
+QString WithoutLetters(const QString& caption);
 /// A caption as it is spoken: without blanks around it and without a colon at its end.
 QString SpokenCaption(const QString& caption);
 

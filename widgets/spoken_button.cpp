@@ -16,16 +16,6 @@
 namespace halvane {
 namespace {
 
-/// A caption without the marks of its letters: "&Add Task" is "Add Task".
-QString WithoutLetters(const QString& caption) {
-  QString text;
-  for (qsizetype i = 0; i < caption.size(); ++i) {
-    if (caption[i] == '&' && i + 1 < caption.size()) ++i;
-    text.append(caption[i]);
-  }
-  return text.trimmed();
-}
-
 QString FrameAround(const QWidget& control) {
   for (const QWidget* above = control.parentWidget(); above != nullptr && !above->isWindow();
        above = above->parentWidget()) {

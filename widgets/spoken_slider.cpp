@@ -13,7 +13,7 @@ QSlider& SpokenSlider::slider() const { return *static_cast<QSlider*>(widget());
 
 double SpokenSlider::Step() const {
   const QVariant step = slider().property(kStep);
-  return step.isValid() ? step.toDouble() : 1;
+  return step.isValid() ? step.value<double>() : 1;
 }
 
 bool SpokenSlider::IsForTheMouseAlone() const {
@@ -48,7 +48,7 @@ QVariant SpokenSlider::currentValue() const { return slider().value() * Step(); 
 
 void SpokenSlider::setCurrentValue(const QVariant& value) {
   // What moves it otherwise than the mouse changes nothing in the job.
-  if (!IsForTheMouseAlone()) slider().setValue(qRound(value.toDouble() / Step()));
+  if (!IsForTheMouseAlone()) slider().setValue(qRound(value.value<double>() / Step()));
 }
 
 QVariant SpokenSlider::maximumValue() const { return slider().maximum() * Step(); }

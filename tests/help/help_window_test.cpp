@@ -17,6 +17,7 @@
 #include "shell/frm_hand_main.h"
 #include "shell/tool_form.h"
 #include "tests/help/help_support.h"
+#include "tests/support/spoken_tree.h"
 
 namespace halvane {
 namespace {
@@ -189,6 +190,25 @@ TEST_F(HelpViewing, EachCommandOfTheBarHasItsNameKeysAndPicture) {
   }
   EXPECT_EQ(tree().accessibleName(), "Contents");
   EXPECT_EQ(page().accessibleName(), "Help page");
+}
+
+TEST_F(HelpViewing, EveryControlHasANameForScreenReaders) {
+  Show("home.htm");
+  QTest::keyClick(&page(), Qt::Key_F, Qt::ControlModifier);
+  const auto tree = SpokenTree(window());
+  QStringList names;
+  for (const SpokenItem& item : tree) {
+    const QAccessible::Role role = item.role();
+    const bool isControl = role == QAccessible::Button || role == QAccessible::EditableText ||
+                           role == QAccessible::Tree || role == QAccessible::TreeItem ||
+                           role == QAccessible::Window;
+    if (isControl && item.state().focusable) names.append(item.name);
+    EXPECT_TRUE(item.description.isEmpty() || item.description != item.name);
+  }
+  EXPECT_FALSE(names.contains(QString())) << SpokenLines(tree).toStdString();
+  for (const char* name : {"Contents", "Text to find in this page", "Next", "Close", "Print"}) {
+    EXPECT_TRUE(names.contains(name)) << name;
+  }
 }
 
 TEST_F(HelpViewing, PicturesOfTheBarHaveTheTextColourOfThePalette) {

@@ -178,7 +178,7 @@ TEST(ReportJson, ParsedBackGivesTheReportAgain) {
   // Line ends stand in the text alone, what pictures show in the pane.
   for (Paragraph& paragraph : written) {
     paragraph.lineEnd.clear();
-    for (Run& run : paragraph.runs) run.sense.clear();
+    for (auto& run : paragraph.runs) run.sense.clear();
   }
   EXPECT_EQ(ParagraphsFrom(parsed), written);
   EXPECT_EQ(written.size(), 25U);

@@ -9,6 +9,8 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTest>
@@ -255,6 +257,55 @@ TEST_F(SpokenControls, ABoxTellsOfItsTextCaretAndSelection) {
   EXPECT_FALSE(box.hasSelectedText());
   const QRect place = text.characterRect(5);
   EXPECT_EQ(text.offsetAtPoint(place.center() - QPoint(place.width() / 4, 0)), 5);
+}
+
+TEST_F(SpokenControls, AMenuItemIsSpokenWithoutTheMarksOfItsLetters) {
+  QMenuBar bar(&window_);
+  QMenu& menu = *bar.addMenu("&File");
+  QAction* save = menu.addAction("&Save &As...");
+  menu.addSeparator();
+  QMenu& unit = *menu.addMenu("Unit");
+  QAction* metric = unit.addAction("Metric");
+  metric->setCheckable(true);
+  metric->setChecked(true);
+  metric->setShortcut(Qt::CTRL | Qt::Key_M);
+  int chosen = 0;
+  QObject::connect(save, &QAction::triggered, &window_, [&chosen] { ++chosen; });
+
+  QAccessibleInterface& spoken = Spoken(menu);
+  EXPECT_EQ(spoken.role(), QAccessible::PopupMenu);
+  EXPECT_EQ(spoken.text(QAccessible::Name), "File");
+  EXPECT_EQ(spoken.parent()->text(QAccessible::Name), "File");
+  EXPECT_EQ(spoken.parent()->role(), QAccessible::MenuItem);
+  ASSERT_EQ(spoken.childCount(), 3);
+  EXPECT_EQ(spoken.child(0)->text(QAccessible::Name), "Save As...");
+  EXPECT_EQ(spoken.child(0)->text(QAccessible::Accelerator), "Alt+S");
+  EXPECT_EQ(spoken.child(1)->role(), QAccessible::Separator);
+  EXPECT_EQ(spoken.child(2)->text(QAccessible::Name), "Unit");
+  EXPECT_TRUE(spoken.child(2)->state().hasPopup);
+  EXPECT_EQ(spoken.child(2)->child(0), &Spoken(unit));
+  EXPECT_EQ(Spoken(unit).parent(), spoken.child(2));
+  for (int i = 0; i < 3; ++i) {
+    EXPECT_EQ(spoken.child(i)->parent(), &spoken);
+    EXPECT_EQ(spoken.indexOfChild(spoken.child(i)), i);
+  }
+  EXPECT_TRUE(Spoken(*metric).state().checked);
+  EXPECT_EQ(Spoken(*metric).text(QAccessible::Accelerator), "Ctrl+M");
+
+  ShowActive(window_);
+  EXPECT_TRUE(Spoken(*save).state().invisible);
+  menu.popup(window_.mapToGlobal(QPoint(0, 0)));
+  menu.setActiveAction(save);
+  EXPECT_FALSE(Spoken(*save).state().invisible);
+  EXPECT_TRUE(Spoken(*save).state().focused);
+  EXPECT_TRUE(spoken.rect().contains(Spoken(*save).rect()));
+  menu.hide();
+  Act(*save);
+  EXPECT_EQ(chosen, 1);
+  save->setEnabled(false);
+  EXPECT_TRUE(Spoken(*save).state().disabled);
+  Act(*save);
+  EXPECT_EQ(chosen, 1);
 }
 
 TEST_F(SpokenControls, AnActionIsAClickAndNotOnlyAnotherLook) {
