@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QPointer>
+#include <map>
 #include <vector>
 
 namespace halvane {
@@ -41,9 +42,19 @@ class RibbonButton : public QAbstractButton {
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  /// What a caption needs in a font; a layout asks for it many times.
+  struct Measured {
+    QFont font;
+    QString text;
+    int width = 0;                 ///< 0: not yet known
+    std::map<int, QSize> sizes{};  ///< by the width that it has
+  };
+  [[nodiscard]] Measured& Known() const;
+
   [[nodiscard]] QString ShownText() const;
   [[nodiscard]] int CaptionFlags() const;
   [[nodiscard]] int CaptionWidth() const;
+  [[nodiscard]] int MeasureCaption() const;
   /// The width that the picture asks for.
   [[nodiscard]] int PictureRoom() const;
   [[nodiscard]] int LeastWidth() const;
@@ -67,6 +78,7 @@ class RibbonButton : public QAbstractButton {
   [[nodiscard]] QPalette::ColorGroup Group() const;
   [[nodiscard]] QColor TextColor() const;
 
+  mutable Measured measured_;
   bool oneLine_ = false;
   int largestHeight_ = 0;
   std::vector<QPointer<const RibbonButton>> neighbours_;
