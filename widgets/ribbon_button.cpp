@@ -39,11 +39,13 @@ void RibbonButton::SetPicture(const QString& assetName, int size) {
   picture_ = assetName;
   setIcon(QIcon(":/assets/" + assetName + ".svg"));
   setIconSize({size, size});
+  measured_ = {};
   setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
 
 void RibbonButton::SetOneLine() {
   oneLine_ = true;
+  measured_ = {};
   updateGeometry();
 }
 
@@ -66,18 +68,29 @@ int RibbonButton::CaptionFlags() const {
   return Qt::AlignCenter | (oneLine_ ? Qt::TextSingleLine : Qt::TextWordWrap);
 }
 
+RibbonButton::Measured& RibbonButton::Known() const {
+  if (measured_.font != font() || measured_.text != text()) measured_ = {font(), text()};
+  return measured_;
+}
+
 int RibbonButton::CaptionWidth() const {
+  int& width = Known().width;
+  if (width == 0) width = MeasureCaption();
+  // As narrow as picture and words allow, so that a row of pictures fits a small window.
+  return oneLine_ || icon().isNull() ? width : std::max(width, iconSize().width());
+}
+
+int RibbonButton::MeasureCaption() const {
   if (oneLine_) return fontMetrics().horizontalAdvance(ShownText()) + 1;
-  if (!icon().isNull()) {
-    // As narrow as picture and words allow, so that a row of pictures fits a small window.
-    int width = 0;
-    for (const QString& word : text().split(' ')) {
-      width = std::max(width, fontMetrics().horizontalAdvance(word) + 1);
-    }
-    return std::max(width, iconSize().width());
+  if (icon().isNull()) {
+    return std::min(fontMetrics().horizontalAdvance(text()) + 1,
+                    kWidestLine * fontMetrics().averageCharWidth());
   }
-  return std::min(fontMetrics().horizontalAdvance(text()) + 1,
-                  kWidestLine * fontMetrics().averageCharWidth());
+  int width = 0;
+  for (const QString& word : text().split(' ')) {
+    width = std::max(width, fontMetrics().horizontalAdvance(word) + 1);
+  }
+  return width;
 }
 
 int RibbonButton::SideRoom() const {
@@ -100,9 +113,13 @@ int RibbonButton::LeastWidth() const {
 }
 
 QSize RibbonButton::CaptionSize(int width) const {
-  return fontMetrics()
-      .boundingRect(0, 0, width, QWIDGETSIZE_MAX, CaptionFlags(), ShownText())
-      .size();
+  QSize& size = Known().sizes[width];
+  if (size.isEmpty()) {
+    size = fontMetrics()
+               .boundingRect(0, 0, width, QWIDGETSIZE_MAX, CaptionFlags(), ShownText())
+               .size();
+  }
+  return size;
 }
 
 int RibbonButton::EvenWidth(int room) const {

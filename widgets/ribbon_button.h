@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QPointer>
 #include <QString>
+#include <map>
 #include <vector>
 
 namespace halvane {
@@ -43,9 +44,19 @@ class RibbonButton : public QAbstractButton {
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  /// What a caption needs in a font; a layout asks for it many times.
+  struct Measured {
+    QFont font;
+    QString text;
+    int width = 0;                 ///< 0: not yet known
+    std::map<int, QSize> sizes{};  ///< by the width that it has
+  };
+  [[nodiscard]] Measured& Known() const;
+
   [[nodiscard]] QString ShownText() const;
   [[nodiscard]] int CaptionFlags() const;
   [[nodiscard]] int CaptionWidth() const;
+  [[nodiscard]] int MeasureCaption() const;
   /// The width that the picture asks for.
   [[nodiscard]] int PictureRoom() const;
   [[nodiscard]] int LeastWidth() const;
@@ -73,6 +84,7 @@ class RibbonButton : public QAbstractButton {
   [[nodiscard]] QColor Fill() const;
 
   QString picture_;  ///< asset name
+  mutable Measured measured_;
   bool oneLine_ = false;
   int largestHeight_ = 0;
   std::vector<QPointer<const RibbonButton>> neighbours_;

@@ -81,7 +81,7 @@ TEST_F(TextBoxes, ResultStandsUnderWhatIsTypedAboveIt) {
   second_->setText("0.63");
   const double typed = textStart(*first_);
   second_->ShowResult();
-  EXPECT_NEAR(textStart(*second_), typed, 1);
+  EXPECT_EQ(textStart(*second_), typed);
 }
 
 TEST_F(TextBoxes, ResultIsPassedByTabAndSelectedByTheMouse) {
