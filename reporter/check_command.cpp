@@ -2,7 +2,6 @@
 
 #include "core/job_text_reader.h"
 #include "core/number_text.h"
-#include "reporter/file_text.h"
 #include "reporter/json_text.h"
 #include "reporter/output.h"
 #include "reporter/printable_text.h"
@@ -56,8 +55,7 @@ void AppendCheckText(std::string& out, std::string_view file, const JobCheck& ch
 }
 
 void AppendCheckJson(std::string& out, std::string_view file, const JobCheck& check) {
-  out += "{\"file\":";
-  AppendJsonString(out, EscapedFileName(file));
+  BeginJsonLine(out, file);
   out += ",\"verdict\":";
   AppendJsonString(out, NameOf(check.verdict));
   out += ",\"problems\":";

@@ -24,8 +24,9 @@ class JobCommand {
   /// Before the first job.
   virtual void Begin(std::string& /*out*/) {}
   virtual JobOutcome Do(std::string& out, const JobSource& job) = 0;
-  /// Behind the last job, also when the user ends the program before it.
-  virtual void End(std::string& /*out*/) {}
+  /// Behind the last job, also when the user ends the program before it. True where more is to
+  /// come, for which it is called again.
+  virtual bool End(std::string& /*out*/) { return false; }
 
   /// Whether the output of a job comes with it, rather than at the end.
   [[nodiscard]] virtual bool writesAsItGoes() const { return true; }

@@ -30,7 +30,10 @@ class ReportCommand : public JobCommand {
 
   void Begin(std::string& out) override { writer_->Begin(out); }
   JobOutcome Do(std::string& out, const JobSource& job) override;
-  void End(std::string& out) override { writer_->End(out); }
+  bool End(std::string& out) override {
+    writer_->End(out);
+    return false;
+  }
 
  private:
   std::vector<const ToolRow*> tools_;

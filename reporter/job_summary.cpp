@@ -16,13 +16,6 @@ std::optional<ReportFailure> ReadHeadline(Headline& headline, const ToolHeadline
   });
 }
 
-std::optional<double> RankOf(const JobSummary& summary, std::size_t column) {
-  if (summary.failure || summary.cells[column].reason) return std::nullopt;
-  const Headline::Value& value = summary.cells[column].headline.values.front();
-  if (const auto* whole = std::get_if<int>(&value)) return *whole;
-  return std::get<double>(value);
-}
-
 }  // namespace
 
 std::vector<std::string> Summarise(JobSummary& summary, const JobSource& job, LengthUnit units,
@@ -54,9 +47,11 @@ std::vector<std::string> Summarise(JobSummary& summary, const JobSource& job, Le
   return complaints;
 }
 
-bool IsWorse(const JobSummary& a, const JobSummary& b, std::size_t column) {
-  // Nothing is less than any number.
-  return RankOf(a, column) > RankOf(b, column);
+std::optional<double> RankOf(const JobSummary& summary, std::size_t column) {
+  if (summary.failure || summary.cells[column].reason) return std::nullopt;
+  const Headline::Value& value = summary.cells[column].headline.values.front();
+  if (const auto* whole = std::get_if<int>(&value)) return *whole;
+  return std::get<double>(value);
 }
 
 }  // namespace halvane

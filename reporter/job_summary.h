@@ -35,7 +35,7 @@ struct JobSummary {
 std::vector<std::string> Summarise(JobSummary& summary, const JobSource& job, LengthUnit units,
                                    std::span<const ToolRow* const> tools);
 
-/// Whether `a` is worse than `b` by the cell `column`. Jobs without a headline come last.
-bool IsWorse(const JobSummary& a, const JobSummary& b, std::size_t column);
+/// How bad a job is by the cell `column`; nothing for one without a headline.
+std::optional<double> RankOf(const JobSummary& summary, std::size_t column);
 
 }  // namespace halvane

@@ -1,7 +1,6 @@
 #include "reporter/json_summary.h"
 
 #include "core/number_text.h"
-#include "reporter/file_text.h"
 #include "reporter/json_text.h"
 
 namespace halvane {
@@ -54,8 +53,7 @@ void AppendTexts(std::string& out, const JobSummary& summary) {
 }  // namespace
 
 void JsonSummary::Row(std::string& out, const JobSummary& summary) {
-  out += "{\"file\":";
-  AppendJsonString(out, EscapedFileName(summary.file));
+  BeginJsonLine(out, summary.file);
   if (summary.failure) {
     out += R"(,"analyst":null,"job":null,"workstation":null,"tools":null,"error":)";
     AppendJsonFailure(out, *summary.failure);

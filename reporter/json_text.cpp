@@ -4,6 +4,7 @@
 #include <nlohmann/json.hpp>
 
 #include "core/number_text.h"
+#include "reporter/file_text.h"
 
 namespace halvane {
 namespace {
@@ -42,6 +43,11 @@ void AppendKnown(std::string& out, std::string_view text, bool isKnown) {
 }
 
 }  // namespace
+
+void BeginJsonLine(std::string& out, std::string_view file) {
+  out += "{\"version\":" + PlainText(kJsonVersion) + ",\"file\":";
+  AppendJsonString(out, EscapedFileName(file));
+}
 
 void AppendJsonString(std::string& out, std::string_view text) {
   out += '"';

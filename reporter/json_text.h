@@ -7,6 +7,12 @@
 
 namespace halvane {
 
+/// Of the lines. It counts up when a member goes or means something else, not when one is added.
+inline constexpr int kJsonVersion = 1;
+
+/// Appends the opening of a line about a job file: `version` and `file`.
+void BeginJsonLine(std::string& out, std::string_view file);
+
 /// Appends a text in quotes. What is no well-formed UTF-8, as a file name can be, comes out as
 /// U+FFFD.
 void AppendJsonString(std::string& out, std::string_view text);

@@ -1,11 +1,30 @@
 #include "reporter/json_writer.h"
 
+#include <optional>
+
 #include "core/number_text.h"
-#include "reporter/file_text.h"
 #include "reporter/json_text.h"
 
 namespace halvane {
 namespace {
+
+std::optional<double> NumberIn(const std::string& text) {
+  try {
+    return WholeTextAsNumber(text);
+  } catch (const RuntimeFailure&) {
+    return std::nullopt;
+  }
+}
+
+/// A result can be a text that was typed or read and that no computation has taken as a number; who
+/// reads it here expects numbers.
+void AppendNumberIn(std::string& out, const std::string& text) {
+  if (const auto number = NumberIn(text)) {
+    AppendJsonNumber(out, *number);
+  } else {
+    out += "null";
+  }
+}
 
 void AppendField(std::string& out, const TaggedField& field) {
   const auto& value = field.value();
@@ -14,7 +33,7 @@ void AppendField(std::string& out, const TaggedField& field) {
   } else if (const auto* number = std::get_if<double>(&value)) {
     AppendJsonNumber(out, *number);
   } else if (const auto* text = std::get_if<std::string>(&value)) {
-    AppendJsonString(out, *text);
+    AppendNumberIn(out, *text);
   } else {
     out += "null";
   }
@@ -81,8 +100,7 @@ void AppendReport(std::string& out, const RichText& report) {
 }
 
 void BeginLine(std::string& out, std::string_view file, const ToolRow& tool) {
-  out += "{\"file\":";
-  AppendJsonString(out, EscapedFileName(file));
+  BeginJsonLine(out, file);
   out += ",\"tool\":";
   AppendJsonString(out, tool.key);
 }

@@ -1,9 +1,10 @@
 #pragma once
 
-#include <cstdint>
+#include <optional>
 #include <string>
 
 #include "reporter/job_source.h"
+#include "reporter/nameless_file.h"
 
 namespace halvane {
 
@@ -15,17 +16,12 @@ inline constexpr const char* kStandardInput = "-";
 /// /dev/fd/63; one that lies in a folder is no job file.
 class PipedJob {
  public:
-  PipedJob() = default;
-  ~PipedJob();
-  PipedJob(const PipedJob&) = delete;
-  PipedJob& operator=(const PipedJob&) = delete;
-
   /// Where the job of this name is to be read from, until the next one is asked for. Throws
   /// `FileError` where the pipe cannot be read or is longer than any job.
   JobSource SourceOf(const std::string& name, bool isStandardInput);
 
  private:
-  std::intptr_t copy_ = -1;  ///< the file without a name that has what came, -1: none
+  std::optional<NamelessFile> copy_;  ///< what came through the pipe
 };
 
 }  // namespace halvane

@@ -3,10 +3,8 @@
 
 namespace halvane {
 
-PipedJob::~PipedJob() = default;
-
 JobSource PipedJob::SourceOf(const std::string& name, bool isStandardInput) {
-  // There are no files without a name here.
+  // An open file has no name here by which it can be read again.
   if (isStandardInput) files::Fail(name, std::make_error_code(std::errc::not_supported));
   return name;
 }

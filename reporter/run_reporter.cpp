@@ -89,7 +89,7 @@ class JobRun {
       DoJob(*file);
     }
     if (progress_) progress_->Clear();
-    command_->End(output_.pending());
+    while (command_->End(output_.pending())) output_.WriteSome();
     output_.Flush();
     return IsInterrupted() ? EndInterrupted() : status_;
   }
@@ -166,6 +166,10 @@ int RunReporter(std::vector<std::string> arguments) {
     return JobRun(output, options, std::move(list)).Do();
   } catch (const OutputFailure& failure) {
     Complain(std::string("standard output: ") + failure.what());
+    return kSomeFailed;
+  } catch (const RuntimeFailure& failure) {
+    // Of the temporary file that rows wait in.
+    Complain(failure.what());
     return kSomeFailed;
   }
 }

@@ -3,6 +3,7 @@
 #include <optional>
 
 #include "reporter/job_command.h"
+#include "reporter/kept_rows.h"
 #include "reporter/summary_writer.h"
 
 namespace halvane {
@@ -10,16 +11,14 @@ namespace halvane {
 /// Writes one line a job, with the headline of each tool.
 class SummaryCommand : public JobCommand {
  public:
-  /// `sortBy`: one of `tools` by which the worst jobs come first, so that all lines are kept until
+  /// `sortBy`: one of `tools` by which the worst jobs come first, so that all rows are kept until
   /// the end; null: the lines stand in the order of the jobs.
   SummaryCommand(SummaryTools tools, LengthUnit units, ReportFormat format, const ToolRow* sortBy);
 
   void Begin(std::string& out) override { writer_->Begin(out); }
   JobOutcome Do(std::string& out, const JobSource& job) override;
-  void End(std::string& out) override;
-  [[nodiscard]] bool writesAsItGoes() const override {
-    return !sortColumn_ && writer_->writesAsItGoes();
-  }
+  bool End(std::string& out) override;
+  [[nodiscard]] bool writesAsItGoes() const override { return !keeps_; }
 
  private:
   SummaryTools tools_;
@@ -27,7 +26,9 @@ class SummaryCommand : public JobCommand {
   std::optional<std::size_t> sortColumn_;  ///< place of the tool
   std::unique_ptr<SummaryWriter> writer_;
   JobSummary summary_;  ///< of the job under way; a member, so that it keeps its memory
-  std::vector<JobSummary> kept_;
+  bool keeps_;
+  KeptRows kept_;
+  bool isEnding_ = false;
 };
 
 }  // namespace halvane

@@ -24,7 +24,14 @@ class SummaryWriter {
   /// Behind the last job.
   virtual void End(std::string& /*out*/) {}
 
-  /// Whether each row is written when it comes, rather than at the end.
+  // What is kept until the last row is there.
+
+  /// Before the first kept row is written.
+  virtual void BeginKept(std::string& /*out*/) {}
+  /// A row that `Row` has made before, in whatever order they are wanted.
+  virtual void Kept(std::string& out, std::string_view row) { out += row; }
+
+  /// Whether each row is written when it comes, rather than kept until the end.
   [[nodiscard]] virtual bool writesAsItGoes() const { return true; }
 };
 

@@ -20,13 +20,34 @@ std::string Shortened(std::string_view text) {
   return FirstCharacters(printable, kLongestText - kCut.size()).append(kCut);
 }
 
+// How a row is kept: each cell with a mark in front, and behind it what no printable text holds.
+constexpr char kNumberMark = '#';
+constexpr char kTextMark = ' ';
+constexpr char kCellEnd = '\n';
+
+template <typename Cells>
+void AppendKept(std::string& out, const Cells& cells) {
+  for (const auto& cell : cells) {
+    out += cell.isNumber ? kNumberMark : kTextMark;
+    out.append(cell.text) += kCellEnd;
+  }
+}
+
 }  // namespace
 
-void TextSummary::Row(std::string& /*out*/, const JobSummary& summary) {
+TextSummary::TextSummary(SummaryTools tools) : tools_(std::move(tools)) {
+  const Cells headings = Headings();
+  columns_.resize(headings.size());
+  Widen(headings);
+}
+
+/// A row of two cells is a file that could not be read, and why.
+void TextSummary::Row(std::string& out, const JobSummary& summary) {
   Cells cells{{PrintableText(summary.file)}};
   if (summary.failure) {
     cells.push_back({PrintableText(summary.failure->message)});
-    rows_.push_back(std::move(cells));
+    Widen(cells);
+    AppendKept(out, cells);
     return;
   }
   for (const std::string* text : {&summary.analyst, &summary.job, &summary.workstation}) {
@@ -45,7 +66,8 @@ void TextSummary::Row(std::string& /*out*/, const JobSummary& summary) {
       }
     }
   }
-  rows_.push_back(std::move(cells));
+  Widen(cells);
+  AppendKept(out, cells);
 }
 
 TextSummary::Cells TextSummary::Headings() const {
@@ -58,39 +80,41 @@ TextSummary::Cells TextSummary::Headings() const {
   return headings;
 }
 
-std::vector<TextSummary::Column> TextSummary::Columns(const Cells& headings) const {
-  std::vector<Column> columns(headings.size());
-  const auto widen = [&columns](const Cells& cells) {
-    // A reason beside a file's name is in nobody's way.
-    const std::size_t count = cells.size() == columns.size() ? columns.size() : 1;
-    for (std::size_t i = 0; i < count; ++i) {
-      columns[i].width = std::max(columns[i].width, CharacterCount(cells[i].text));
-      columns[i].isNumber = columns[i].isNumber || cells[i].isNumber;
-    }
-  };
-  widen(headings);
-  for (const Cells& cells : rows_) widen(cells);
-  return columns;
+void TextSummary::Widen(const Cells& cells) {
+  // A reason beside a file's name is in nobody's way.
+  const std::size_t count = cells.size() == columns_.size() ? columns_.size() : 1;
+  for (std::size_t i = 0; i < count; ++i) {
+    columns_[i].width = std::max(columns_[i].width, CharacterCount(cells[i].text));
+    columns_[i].isNumber = columns_[i].isNumber || cells[i].isNumber;
+  }
 }
 
-void TextSummary::End(std::string& out) {
+void TextSummary::AppendLine(std::string& out, const Cells& cells) const {
+  std::size_t blanks = 0;
+  for (std::size_t i = 0; i < cells.size(); ++i) {
+    const std::size_t width = CharacterCount(cells[i].text);
+    const std::size_t rest = columns_[i].width - std::min(width, columns_[i].width);
+    out.append(blanks + (cells[i].isNumber ? rest : 0), ' ');
+    out += cells[i].text;
+    blanks = kGap + (cells[i].isNumber ? 0 : rest);
+  }
+  out += kLineEnd;
+}
+
+void TextSummary::BeginKept(std::string& out) {
   Cells headings = Headings();
-  const std::vector<Column> columns = Columns(headings);
-  for (std::size_t i = 0; i < headings.size(); ++i) headings[i].isNumber = columns[i].isNumber;
-  const auto append = [&](const Cells& cells) {
-    std::size_t blanks = 0;
-    for (std::size_t i = 0; i < cells.size(); ++i) {
-      const std::size_t width = CharacterCount(cells[i].text);
-      const std::size_t rest = columns[i].width - std::min(width, columns[i].width);
-      out.append(blanks + (cells[i].isNumber ? rest : 0), ' ');
-      out += cells[i].text;
-      blanks = kGap + (cells[i].isNumber ? 0 : rest);
-    }
-    out += kLineEnd;
-  };
-  append(headings);
-  for (const Cells& cells : rows_) append(cells);
-  rows_.clear();
+  for (std::size_t i = 0; i < headings.size(); ++i) headings[i].isNumber = columns_[i].isNumber;
+  AppendLine(out, headings);
+}
+
+void TextSummary::Kept(std::string& out, std::string_view row) {
+  Cells cells;
+  while (!row.empty()) {
+    const std::size_t end = row.find(kCellEnd);
+    cells.push_back({std::string(row.substr(1, end - 1)), row.front() == kNumberMark});
+    row.remove_prefix(end + 1);
+  }
+  AppendLine(out, cells);
 }
 
 }  // namespace halvane

@@ -5,13 +5,15 @@
 namespace halvane {
 
 /// Summaries as a table of equally wide characters. All rows are kept until the end, since the
-/// widest one decides where the columns begin.
+/// widest one decides where the columns begin; of each column only that width is in memory.
 class TextSummary : public SummaryWriter {
  public:
-  explicit TextSummary(SummaryTools tools) : tools_(std::move(tools)) {}
+  explicit TextSummary(SummaryTools tools);
 
+  /// Appends the cells of the row as they are kept.
   void Row(std::string& out, const JobSummary& summary) override;
-  void End(std::string& out) override;
+  void BeginKept(std::string& out) override;
+  void Kept(std::string& out, std::string_view row) override;
   [[nodiscard]] bool writesAsItGoes() const override { return false; }
 
  private:
@@ -26,10 +28,11 @@ class TextSummary : public SummaryWriter {
   };
 
   [[nodiscard]] Cells Headings() const;
-  [[nodiscard]] std::vector<Column> Columns(const Cells& headings) const;
+  void Widen(const Cells& cells);
+  void AppendLine(std::string& out, const Cells& cells) const;
 
   SummaryTools tools_;
-  std::vector<Cells> rows_;  ///< one of two cells: a file that could not be read, and why
+  std::vector<Column> columns_;
 };
 
 }  // namespace halvane

@@ -14,6 +14,8 @@ namespace halvane {
 struct WorkingValue {
   std::string_view name;
   std::variant<TaggedField, std::vector<TaggedField>> value;
+  std::string_view unit = {};  ///< empty: a plain number
+  std::string_view meaning = {};
 };
 
 /// The elements of an array as values.

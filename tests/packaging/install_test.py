@@ -59,6 +59,8 @@ class InstalledProgram(unittest.TestCase):
                   "share/mime/packages/halvane-tools.xml"}
         # The help pages send their readers there.
         wanted.add("share/doc/halvane-tools/job-file.md")
+        wanted.add("share/doc/halvane-tools/results.md")
+        wanted.add("share/halvane-tools/halvane-report.schema.json")
         wanted.update(f"share/doc/halvane-tools/samples/{name}.qjt"
                       for name in ("board-assembly", "packing-line", "parcel-sorting"))
         for icon in ICONS:

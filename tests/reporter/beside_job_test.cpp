@@ -77,7 +77,8 @@ TEST_F(BesideJobTest, TheyAreNoFailureOfTheFileAndStandInJsonToo) {
   EXPECT_FALSE(command.Do(text, Job("a.qjt")).failed);
   EXPECT_EQ(
       Said(Job("a.qjt"), ReportFormat::Json),
-      "{\"file\":\"~/jobs/a.qjt\",\"verdict\":\"good\",\"problems\":[{\"warning\":true,"
+      "{\"version\":1,\"file\":\"~/jobs/"
+      "a.qjt\",\"verdict\":\"good\",\"problems\":[{\"warning\":true,"
       "\"line\":null,\"field\":\"\",\"found\":\"a.rescue.qjt\",\"message\":\"is a rescue copy "
       "of this job; it reads whole\"}],\"error\":null}\n");
 }

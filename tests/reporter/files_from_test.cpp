@@ -44,9 +44,9 @@ TEST(FilesFrom, SummaryIsOneObjectALine) {
 TEST(FilesFrom, CheckIsOneObjectALine) {
   RunningProgram program({"--files-from", "-", "--check"});
   program.Write("packing-line.qjt\n");
-  EXPECT_EQ(
-      program.ReadLine(),
-      "{\"file\":\"packing-line.qjt\",\"verdict\":\"good\",\"problems\":[],\"error\":null}\n");
+  EXPECT_EQ(program.ReadLine(),
+            "{\"version\":1,\"file\":\"packing-line.qjt\",\"verdict\":\"good\",\"problems\":[],"
+            "\"error\":null}\n");
   EXPECT_EQ(program.Finish().status, 0);
 }
 
@@ -194,7 +194,7 @@ TEST(FilesFrom, WhatIsNoNameIsToldAndTheRestDone) {
     EXPECT_EQ(run.status, 1) << row.label;
     EXPECT_EQ(run.error, row.error) << row.label;
     EXPECT_TRUE(
-        run.output.ends_with("{\"file\":\"packing-line.qjt\",\"verdict\":\"good\","
+        run.output.ends_with("{\"version\":1,\"file\":\"packing-line.qjt\",\"verdict\":\"good\","
                              "\"problems\":[],\"error\":null}\n"))
         << row.label;
   }

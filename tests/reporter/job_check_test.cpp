@@ -368,24 +368,27 @@ TEST_F(JobCheckTest, JsonHasEveryFileAndAllOfAProblem) {
     AppendCheckJson(text, "a.qjt", CheckJobFile(Write(bytes)));
     return text;
   };
-  EXPECT_EQ(json(EmptyJobText()),
-            "{\"file\":\"a.qjt\",\"verdict\":\"good\",\"problems\":[],\"error\":null}\n");
-  EXPECT_EQ(json(EmptyJobWith(6, "9")),
-            R"json({"file":"a.qjt","verdict":"good","problems":[{"warning":true,"line":6,)json"
-            R"json("field":"RulaControlState(0)","found":"9",)json"
-            R"json("message":"is outside its range, 0 to 4; rula fails"}],"error":null})json"
-            "\n");
-  EXPECT_EQ(json(EmptyJobWith(8, "\"x\"\t")),
-            R"json({"file":"a.qjt","verdict":"read in part","problems":[{"warning":false,)json"
-            R"json("line":8,"field":"RulaControlState(2)","found":"x",)json"
-            R"json("message":"is no number"}],"error":null})json"
-            "\n");
+  EXPECT_EQ(
+      json(EmptyJobText()),
+      "{\"version\":1,\"file\":\"a.qjt\",\"verdict\":\"good\",\"problems\":[],\"error\":null}\n");
+  EXPECT_EQ(
+      json(EmptyJobWith(6, "9")),
+      R"json({"version":1,"file":"a.qjt","verdict":"good","problems":[{"warning":true,"line":6,)json"
+      R"json("field":"RulaControlState(0)","found":"9",)json"
+      R"json("message":"is outside its range, 0 to 4; rula fails"}],"error":null})json"
+      "\n");
+  EXPECT_EQ(
+      json(EmptyJobWith(8, "\"x\"\t")),
+      R"json({"version":1,"file":"a.qjt","verdict":"read in part","problems":[{"warning":false,)json"
+      R"json("line":8,"field":"RulaControlState(2)","found":"x",)json"
+      R"json("message":"is no number"}],"error":null})json"
+      "\n");
   std::string gone;
   JobCheck unreadable;
   unreadable.verdict = JobVerdict::Refused;
   unreadable.failure = ReportFailure{"FileError", "File error: a.qjt: gone"};
   AppendCheckJson(gone, "a.qjt", unreadable);
-  EXPECT_EQ(gone, R"json({"file":"a.qjt","verdict":"refused","problems":[],)json"
+  EXPECT_EQ(gone, R"json({"version":1,"file":"a.qjt","verdict":"refused","problems":[],)json"
                   R"json("error":{"kind":"FileError","message":"File error: a.qjt: gone",)json"
                   R"json("line":null,"field":null,"value":null,"reason":null}})json"
                   "\n");

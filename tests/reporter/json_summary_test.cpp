@@ -17,11 +17,12 @@ std::string LineOf(const JobSummary& summary) {
 }
 
 TEST(SummaryJson, LineHasItsMembersInOrder) {
-  EXPECT_EQ(LineOf(SampleSummary()),
-            R"({"file":"a.qjt","analyst":"Ann","job":"Press line","workstation":"W-17",)"
-            R"("tools":{"index":{"index":1.5,"zone":"Yellow","error":null},)"
-            R"("grade":{"score":9,"level":3,"error":null}},"error":null})"
-            "\n");
+  EXPECT_EQ(
+      LineOf(SampleSummary()),
+      R"({"version":1,"file":"a.qjt","analyst":"Ann","job":"Press line","workstation":"W-17",)"
+      R"("tools":{"index":{"index":1.5,"zone":"Yellow","error":null},)"
+      R"("grade":{"score":9,"level":3,"error":null}},"error":null})"
+      "\n");
 }
 
 TEST(SummaryJson, ToolWithoutAHeadlineHasItsReason) {
@@ -43,11 +44,12 @@ TEST(SummaryJson, ZoneWithoutANameIsNull) {
 }
 
 TEST(SummaryJson, FileThatCouldNotBeReadHasItsReason) {
-  EXPECT_EQ(LineOf(UnreadableSummary()),
-            R"({"file":"gone.qjt","analyst":null,"job":null,"workstation":null,"tools":null,)"
-            R"("error":{"kind":"FileError","message":"File error: gone.qjt: No such file",)"
-            R"("line":null,"field":null,"value":null,"reason":null}})"
-            "\n");
+  EXPECT_EQ(
+      LineOf(UnreadableSummary()),
+      R"({"version":1,"file":"gone.qjt","analyst":null,"job":null,"workstation":null,"tools":null,)"
+      R"("error":{"kind":"FileError","message":"File error: gone.qjt: No such file",)"
+      R"("line":null,"field":null,"value":null,"reason":null}})"
+      "\n");
 }
 
 TEST(SummaryJson, TextsReadBackWhateverTheyHold) {

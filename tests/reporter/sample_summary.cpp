@@ -65,7 +65,14 @@ JobSummary UnreadableSummary() {
 std::string Written(SummaryWriter& writer, const std::vector<JobSummary>& summaries) {
   std::string out;
   writer.Begin(out);
-  for (const JobSummary& summary : summaries) writer.Row(out, summary);
+  if (writer.writesAsItGoes()) {
+    for (const JobSummary& summary : summaries) writer.Row(out, summary);
+  } else {
+    std::vector<std::string> rows(summaries.size());
+    for (std::size_t i = 0; i < rows.size(); ++i) writer.Row(rows[i], summaries[i]);
+    writer.BeginKept(out);
+    for (const std::string& row : rows) writer.Kept(out, row);
+  }
   writer.End(out);
   return out;
 }

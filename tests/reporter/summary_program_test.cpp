@@ -263,10 +263,12 @@ TEST(CheckProgram, TellsOfBadFilesAndIsSilentOnGoodOnes) {
   EXPECT_EQ(json.status, 1);
   EXPECT_EQ(
       json.output,
-      "{\"file\":\"gone.qjt\",\"verdict\":\"refused\",\"problems\":[],\"error\":{\"kind\":"
+      "{\"version\":1,\"file\":\"gone.qjt\",\"verdict\":\"refused\",\"problems\":[],\"error\":{"
+      "\"kind\":"
       "\"FileError\",\"message\":\"File error: gone.qjt: No such file or directory\",\"line\":null,"
       "\"field\":null,\"value\":null,\"reason\":null}}\n"
-      "{\"file\":\"good.qjt\",\"verdict\":\"good\",\"problems\":[],\"error\":null}\n");
+      "{\"version\":1,\"file\":\"good.qjt\",\"verdict\":\"good\",\"problems\":[],\"error\":null}"
+      "\n");
 }
 
 }  // namespace

@@ -245,15 +245,22 @@ void CTDcalculate() {
 
 std::vector<WorkingValue> CtdWorkingValues() {
   return {
-      {"CtdCyclesPerShift", Module1.CtdCyclesPerShift},
-      {"CtdPostureFactor", Module1.CtdPostureFactor},
-      {"CtdPostureFactorTask", Module1.CtdPostureFactorTask},
-      {"CtdForceFrequencyFactor", Module1.CtdForceFrequencyFactor},
-      {"CtdGrandScore", Module1.CtdGrandScore},
-      {"CtdTaskPostureScore", Elements(Module1.CtdTaskPostureScore)},
-      {"CtdRestTime", Elements(Module1.CtdRestTime)},
-      {"CtdPostureCapacity", Elements(Module1.CtdPostureCapacity)},
-      {"CtdPostureScore", Elements(Module1.CtdPostureScore)},
+      {"CtdCyclesPerShift", Module1.CtdCyclesPerShift, "cycles a shift", "job cycles in a shift"},
+      {"CtdPostureFactor", Module1.CtdPostureFactor, "", "highest mean posture score of a task"},
+      {"CtdPostureFactorTask", Module1.CtdPostureFactorTask, "",
+       "number of the task that gave it, 1 for no task"},
+      {"CtdForceFrequencyFactor", Module1.CtdForceFrequencyFactor, "",
+       "force and repetitions of all tasks, over the shift"},
+      {"CtdGrandScore", Module1.CtdGrandScore, "cases per 200,000 hours",
+       "predicted incidence rate"},
+      {"CtdTaskPostureScore", Elements(Module1.CtdTaskPostureScore), "",
+       "mean posture score, by task"},
+      {"CtdRestTime", Elements(Module1.CtdRestTime), "minutes",
+       "rest in a cycle, by task; of a task that does not exist as it stands in the file"},
+      {"CtdPostureCapacity", Elements(Module1.CtdPostureCapacity), "per cent",
+       "capacity left in each of the eight posture slots, of the task computed last"},
+      {"CtdPostureScore", Elements(Module1.CtdPostureScore), "",
+       "score of each of the eight posture slots, of the task computed last"},
   };
 }
 

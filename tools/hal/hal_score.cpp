@@ -76,8 +76,10 @@ std::string HalLimitText(double limit) {
 
 std::vector<WorkingValue> HalWorkingValues() {
   return {
-      {"HalForceMode", Module1.HalForceMode},
-      {"HalLimits", Elements(Module1.HalLimits)},
+      {"HalForceMode", Module1.HalForceMode, "",
+       "-1: the limits are forces for the activity level, 0: levels for the force rating"},
+      {"HalLimits", Elements(Module1.HalLimits), "normalized force, 0 to 10",
+       "0 Threshold Limit Value, 1 Action Level; below 0 for a level above 10"},
   };
 }
 

@@ -157,15 +157,20 @@ SiRisk SiRiskOf(double strainIndexScore) {
 
 std::vector<WorkingValue> SiWorkingValues() {
   return {
-      {"SiIntensityRating", Module1.SiIntensityRating},
-      {"SiPostureRating", Module1.SiPostureRating},
-      {"SiSpeedRating", Module1.SiSpeedRating},
-      {"SiDutyCyclePercent", Module1.SiDutyCyclePercent},
-      {"SiDutyRating", Module1.SiDutyRating},
-      {"SiEffortsPerMinute", Module1.SiEffortsPerMinute},
-      {"SiEffortsRating", Module1.SiEffortsRating},
-      {"SiDurationRating", Module1.SiDurationRating},
-      {"SiStrainIndexScore", Module1.SiStrainIndexScore},
+      {"SiIntensityRating", Module1.SiIntensityRating, "",
+       "rating of the intensity of exertion, 1 to 5"},
+      {"SiPostureRating", Module1.SiPostureRating, "",
+       "rating of the hand and wrist posture, 1 to 5"},
+      {"SiSpeedRating", Module1.SiSpeedRating, "", "rating of the speed of work, 1 to 5"},
+      {"SiDutyCyclePercent", Module1.SiDutyCyclePercent, "per cent",
+       "duration of all exertions over the observation time"},
+      {"SiDutyRating", Module1.SiDutyRating, "", "rating of the duration of exertion, 1 to 5"},
+      {"SiEffortsPerMinute", Module1.SiEffortsPerMinute, "exertions a minute",
+       "exertions over the observation time"},
+      {"SiEffortsRating", Module1.SiEffortsRating, "", "rating of the efforts a minute, 1 to 5"},
+      {"SiDurationRating", Module1.SiDurationRating, "",
+       "rating of the duration of the task a day, 1 to 5"},
+      {"SiStrainIndexScore", Module1.SiStrainIndexScore, "", "product of the six multipliers"},
   };
 }
 
