@@ -14,9 +14,9 @@ class ReportNote : public QObject {
   Q_OBJECT
  public:
   /// The picture behind `place`.
-  ReportNote(RichTextBox& pane, const QString& sense, const QTextCursor& place);
+  ReportNote(RichTextBox& pane, QString sense, const QTextCursor& place);
   /// News.
-  ReportNote(RichTextBox& pane, const QString& news);
+  ReportNote(RichTextBox& pane, QString news);
 
   [[nodiscard]] RichTextBox& pane() const { return pane_; }
   [[nodiscard]] QAccessible::Role role() const { return role_; }

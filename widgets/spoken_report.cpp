@@ -27,10 +27,8 @@ RichTextBox& SpokenReport::pane() const { return *static_cast<RichTextBox*>(widg
 
 QString SpokenReport::Words() const {
   QString words = pane().toPlainText();
-  const auto& pictures = pane().pictures();
-  // From the end, so that the places before it hold.
-  for (auto picture = pictures.rbegin(); picture != pictures.rend(); ++picture) {
-    words.replace((*picture)->position(), 1, SenseOf(**picture));
+  for (const ReportNote* picture : pane().pictures()) {
+    words.replace(OffsetOf(picture->position()), 1, SenseOf(*picture));
   }
   return words;
 }
