@@ -18,7 +18,8 @@ namespace halvane {
 namespace {
 
 constexpr double kTitleScale = 1.6;
-constexpr int kTextWidth = 320;
+/// Texts are so wide, in average letters.
+constexpr int kTextColumns = 45;
 constexpr int kLargeIcon = 64;
 constexpr int kSmallIcon = 24;
 
@@ -44,7 +45,7 @@ QLabel* AddLine(QBoxLayout& column, const QString& name, const QString& text) {
 void AddWrapped(QBoxLayout& column, const QString& name, const QString& text) {
   QLabel* label = AddLine(column, name, text);
   label->setWordWrap(true);
-  label->setMinimumWidth(kTextWidth);
+  label->setMinimumWidth(kTextColumns * label->fontMetrics().averageCharWidth());
 }
 
 QLabel* MakeIcon(const QString& name, int size) {

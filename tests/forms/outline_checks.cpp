@@ -88,7 +88,10 @@ void CheckAll(QWidget& window, const QImage& image, Findings& findings) {
     const bool isSeen = control->isVisible() && !control->visibleRegion().isEmpty() &&
                         control->visibleRegion().boundingRect() == control->rect() &&
                         window.rect().contains(place);
-    if (isSeen && control->isEnabled()) {
+    const auto* box = qobject_cast<const QLineEdit*>(control);
+    // A result is read like a text, and has no edge to aim at.
+    const bool isResult = box != nullptr && box->isReadOnly();
+    if (isSeen && control->isEnabled() && !isResult) {
       Append(findings, CheckOutline(window, *control, image));
     }
   }
