@@ -45,7 +45,8 @@ QRect BoxOf(const QWidget& control) {
 /// The highest contrast of the pixels on a line with its first one.
 double HighestOnLine(const QImage& image, QPointF from, QPointF to) {
   const double ratio = image.devicePixelRatio();
-  const int steps = static_cast<int>((kOutside + kInside) * ratio);
+  // Half a pixel each, so that none is left out.
+  const int steps = static_cast<int>(2 * (kOutside + kInside) * ratio);
   const QColor ground = image.pixelColor((from * ratio).toPoint());
   double highest = 1;
   for (int step = 1; step <= steps; ++step) {
@@ -88,7 +89,10 @@ void CheckAll(QWidget& window, const QImage& image, Findings& findings) {
     const bool isSeen = control->isVisible() && !control->visibleRegion().isEmpty() &&
                         control->visibleRegion().boundingRect() == control->rect() &&
                         window.rect().contains(place);
-    if (isSeen && control->isEnabled()) {
+    const auto* box = qobject_cast<const QLineEdit*>(control);
+    // A result is read like a text, and has no edge to aim at.
+    const bool isResult = box != nullptr && box->isReadOnly();
+    if (isSeen && control->isEnabled() && !isResult) {
       Append(findings, CheckOutline(window, *control, image));
     }
   }
@@ -180,6 +184,9 @@ Findings CheckPictures(QWidget& window) {
       const double contrast = Contrast(one, other);
       if (length < kLeastBorder || contrast >= kPartContrast) continue;
       if (IsTint(colors.first) || IsTint(colors.second)) continue;
+      // Where a picture fills its plate, it touches what is around that.
+      const QRgb around = button->palette().color(QPalette::Highlight).rgb();
+      if (colors.first == around || colors.second == around) continue;
       findings.push_back({NameOfControl(*button),
                           QString("has parts of its picture of contrast %1: %2 beside %3")
                               .arg(QString::number(contrast, 'f', 2), one.name(), other.name())});

@@ -12,6 +12,7 @@
 #include <algorithm>
 
 #include "widgets/gradient_panel.h"
+#include "widgets/pair_panel.h"
 #include "widgets/splash_picture.h"
 #include "widgets/window_place.h"
 
@@ -115,7 +116,8 @@ Findings CheckSize(const QWidget& control) {
 /// What others may stand on.
 bool IsGround(const QWidget& control) {
   return qobject_cast<const SplashPicture*>(&control) != nullptr ||
-         qobject_cast<const GradientPanel*>(&control) != nullptr;
+         qobject_cast<const GradientPanel*>(&control) != nullptr ||
+         dynamic_cast<const PairPanel*>(&control) != nullptr;
 }
 
 Findings CheckSiblings(const std::vector<const QWidget*>& siblings) {

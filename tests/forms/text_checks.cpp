@@ -8,6 +8,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPixmap>
+#include <QScreen>
 #include <QScrollArea>
 #include <QTabBar>
 #include <algorithm>
@@ -31,7 +32,8 @@ struct Spot {
 
 Spot SpotOf(const QWidget& window, const PaintedText& text) {
   const QRegion seen = text.clip & text.ink.toAlignedRect();
-  const QPoint middle = (seen.isEmpty() ? text.ink.toRect() : seen.boundingRect()).center();
+  // What is not seen was painted where there is no room for it.
+  const QPoint middle = (seen.isEmpty() ? text.clip : seen).boundingRect().center();
   const QWidget* control = window.childAt(middle);
   if (control == nullptr) control = &window;
   return {control, control->mapFrom(&window, middle)};
@@ -61,6 +63,14 @@ const Kind* Around(const QWidget* control) {
   return nullptr;
 }
 
+/// Tabs scroll in a window that cannot get wider.
+bool Scrolls(const QTabBar& tabs) {
+  const QWidget& window = *tabs.window();
+  constexpr int kBorders = 8;
+  return tabs.usesScrollButtons() &&
+         window.width() + kBorders >= window.screen()->availableGeometry().width();
+}
+
 /// Whether a text may go on beyond what is seen of it: a page of a document, a list, a box for a
 /// name.
 bool MayGoOn(const Spot& spot) {
@@ -69,6 +79,8 @@ bool MayGoOn(const Spot& spot) {
     box->text().toDouble(&isNumber);
     return !isNumber && !box->isReadOnly();
   }
+  const auto* tabs = Around<QTabBar>(spot.control);
+  if (tabs != nullptr && Scrolls(*tabs)) return true;
   const auto* area = Around<QAbstractScrollArea>(spot.control);
   return area != nullptr && qobject_cast<const QScrollArea*>(area) == nullptr;
 }
@@ -198,7 +210,7 @@ Findings CheckBar(const Bar& bar, const QString& caption, const QRect& place) {
 Findings CheckBars(const QWidget& window) {
   Findings findings;
   for (const auto* tabs : window.findChildren<QTabBar*>()) {
-    for (int i = 0; tabs->isVisible() && i < tabs->count(); ++i) {
+    for (int i = 0; tabs->isVisible() && !Scrolls(*tabs) && i < tabs->count(); ++i) {
       Append(findings, CheckBar(*tabs, tabs->tabText(i), tabs->tabRect(i)));
     }
   }

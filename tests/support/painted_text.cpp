@@ -5,6 +5,7 @@
 #include <QPaintEngine>
 #include <QPainter>
 #include <QWidget>
+#include <algorithm>
 
 namespace halvane {
 namespace {
@@ -23,7 +24,12 @@ class TextEngine : public QPaintEngine {
   void drawTextItem(const QPointF& at, const QTextItem& item) override {
     if (item.text().trimmed().isEmpty()) return;
     const QTransform toWidget = painter()->deviceTransform();
-    const QRectF ink = QFontMetricsF(item.font()).tightBoundingRect(item.text()).translated(at);
+    const QFontMetricsF font(item.font());
+    QRectF ink = font.tightBoundingRect(item.text());
+    // The hook of a J reaches out of its own width; nobody makes room for it.
+    ink.setLeft(std::max(ink.left(), 0.0));
+    ink.setRight(std::min(ink.right(), font.horizontalAdvance(item.text())));
+    ink.translate(at);
     QRegion clip = systemClip();
     if (painter()->hasClipping()) clip &= toWidget.map(painter()->clipRegion());
     texts_.push_back({item.text(), toWidget.mapRect(ink), clip, painter()->pen().color()});
