@@ -33,7 +33,7 @@ std::string OfPosture(std::span<const PostureControl> controls, Tool tool, const
       controls, [&name](const PostureControl& one) { return one.state.element == name.first; });
   if (control == controls.end()) return "nothing reads it";
   const auto caption = [&control](int index) {
-    return "\"" + std::string(Trimmed(ChoiceAt(*control, index).caption)) + "\"";
+    return std::string("\"").append(Trimmed(ChoiceAt(*control, index).caption)).append("\"");
   };
   const int index = control->IndexOf(static_cast<Integer>(number));
   switch (control->otherSaved) {

@@ -48,7 +48,7 @@ std::string NameOf(std::string_view character) {
        rest >>= 4U) {
     digits.insert(digits.begin(), kDigits[rest & 0xFU]);
   }
-  return "U+" + digits;
+  return std::string("U+").append(digits);
 }
 
 }  // namespace
@@ -61,7 +61,9 @@ bool IsHiddenCharacter(std::string_view character) {
       kHidden, [code](const Range& range) { return code >= range.first && code <= range.last; });
 }
 
-std::string EscapeOfCharacter(std::string_view character) { return "<" + NameOf(character) + ">"; }
+std::string EscapeOfCharacter(std::string_view character) {
+  return std::string("<").append(NameOf(character)).append(">");
+}
 
 std::string HiddenCharactersIn(std::string_view text) {
   std::string names;
