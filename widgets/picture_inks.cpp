@@ -14,8 +14,8 @@ namespace {
 // clang-format off
 constexpr std::array kInks{
     // ink,               light,     dark
-    PictureInk{"figure", "#848890", "#757a83"},
-    PictureInk{"accent", "#0b3296", "#cae0ff"},
+    PictureInk{"figure", "#797d85", "#757a83"},
+    PictureInk{"accent", "#082a84", "#cae0ff"},
     PictureInk{"guide",  "#14171c", "#ffffff"},
     PictureInk{"range",  "#b9cdf5", "#27406f"},
     PictureInk{"object", "#e3e6ea", "#3f444c"},

@@ -8,8 +8,8 @@ in their place where it draws on one; its own copy of this table is widgets/pict
 # ink: on light grounds, on dark grounds; the edge first, whose white another ink has on dark ones
 INKS = {
     "edge": ("#ffffff", "#2d2d30"),  # parts what touches; in the program, the ground's own colour
-    "figure": ("#848890", "#757a83"),  # everything that stands still
-    "accent": ("#0b3296", "#cae0ff"),  # the moving segment and its angle
+    "figure": ("#797d85", "#757a83"),  # everything that stands still
+    "accent": ("#082a84", "#cae0ff"),  # the moving segment and its angle
     "guide": ("#14171c", "#ffffff"),  # reference lines, outlines of what a hand holds
     "range": ("#b9cdf5", "#27406f"),  # the sector of a range, behind the moving segment
     "object": ("#e3e6ea", "#3f444c"),  # what a hand holds

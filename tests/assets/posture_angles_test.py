@@ -174,7 +174,7 @@ class Picture:
 
     def moving(self):
         """Outlines of the moving segment."""
-        groups = re.findall(r'<g fill="#0b3296">(.*)</g>', self.text)
+        groups = re.findall(r'<g fill="#082a84">(.*)</g>', self.text)
         return [points(data) for group in groups for data in re.findall(r' d="([^"]+)"', group)]
 
     def figure(self):

@@ -112,7 +112,7 @@ TEST(PosturePictures, TheGeneratorKnowsTheSameInks) {
 TEST(PosturePictures, HaveAMovingSegmentAndNoWords) {
   for (const QString& name : PosturePictures()) {
     const QByteArray text = ContentOf(SourceFile("assets/" + name + ".svg"));
-    EXPECT_TRUE(text.contains("<g fill=\"#0b3296\">")) << name.toStdString();
+    EXPECT_TRUE(text.contains("<g fill=\"#082a84\">")) << name.toStdString();
     EXPECT_FALSE(text.contains("<text")) << name.toStdString();
   }
 }

@@ -269,7 +269,7 @@ TEST_F(LookChecks, FindAPictureWithAPartThatIsLost) {
   grey.setColor(QPalette::Button, QColor(150, 150, 150));
   ribbon.setPalette(grey);
   const QStringList told = Told(CheckPictures(window));
-  EXPECT_GE(told.filter("#848890 beside #969696").size(), 1)
+  EXPECT_GE(told.filter("#797d85 beside #969696").size(), 1)
       << "told: " << told.join('\n').toStdString();
 }
 

@@ -15,13 +15,14 @@
 namespace halvane {
 namespace {
 
-constexpr std::array kLightGrounds{"#ffffff", "#efefef", "#f0f0f0"};
+constexpr std::array kLightGrounds{"#ffffff", "#efefef", "#dddddd"};
 constexpr std::array kDarkGrounds{"#000000", "#1e1e20", "#2d2d30", "#313134"};
 
-/// Buttons, hovered buttons and the plates of pressed ones.
+/// Buttons, hovered ones, those that the mouse holds down, and the plates of pressed ones.
 QSet<QString> GroundsOf(const QPalette& palette) {
   const QColor button = palette.color(QPalette::Button);
-  return {button.name(), button.lighter(108).name(), palette.color(QPalette::Base).name()};
+  return {button.name(), button.lighter(108).name(), button.darker(108).name(),
+          palette.color(QPalette::Base).name()};
 }
 
 QMap<QString, QColor> InksOn(const QColor& ground, bool dark) {
@@ -56,10 +57,10 @@ TEST(PictureInks, ThoseThatTouchStandOutFromEachOther) {
 }
 
 TEST(PictureInks, AreChosenByTheGround) {
-  const QByteArray drawn = "#848890 #0b3296 #14171c #b9cdf5 #e3e6ea #ffffff #3a72ee";
+  const QByteArray drawn = "#797d85 #082a84 #14171c #b9cdf5 #e3e6ea #ffffff #3a72ee";
   for (const char* ground : kLightGrounds) {
     EXPECT_EQ(InkedDrawing(drawn, QColor(ground)),
-              "#848890 #0b3296 #14171c #b9cdf5 #e3e6ea " + QByteArray(ground) + " #3a72ee");
+              "#797d85 #082a84 #14171c #b9cdf5 #e3e6ea " + QByteArray(ground) + " #3a72ee");
   }
   for (const char* ground : kDarkGrounds) {
     EXPECT_EQ(InkedDrawing(drawn, QColor(ground)),
@@ -105,14 +106,14 @@ TEST(PictureInks, AButtonTakesThoseOfItsOwnGround) {
     button.setPalette(palette);
   };
   setGround(QPalette::Button, "#efefef");
-  EXPECT_GT(count("#0b3296"), 20);
+  EXPECT_GT(count("#082a84"), 20);
   setGround(QPalette::Button, "#2d2d30");
-  EXPECT_EQ(count("#0b3296"), 0);
+  EXPECT_EQ(count("#082a84"), 0);
   EXPECT_GT(count("#cae0ff"), 20);
   // The plate of a pressed one is light again.
   button.setChecked(true);
   setGround(QPalette::Base, "#ffffff");
-  EXPECT_GT(count("#0b3296"), 20);
+  EXPECT_GT(count("#082a84"), 20);
   EXPECT_EQ(count("#cae0ff"), 0);
 }
 
