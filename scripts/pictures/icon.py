@@ -4,7 +4,7 @@ The large drawing serves from 48 pixels on. Below, fingers would run together, s
 size has a drawing of its own whose edges stand on whole pixels.
 """
 
-from pictures.open_hand import Finger, curve, hand_nodes
+from pictures.hand_outline import Finger, curve, hand_nodes
 from pictures.svg import EDGE, FIGURE, Drawing, Frame, capsule, number, polygon
 
 LARGE = 256
