@@ -17,9 +17,10 @@ from pictures.chart import (
     YELLOW_GREEN,
     Chart,
 )
-from pictures.figure import BENDING, Pose, SideFigure
+from pictures.figure import TRUNK_SIDE, Pose, SideFigure
 from pictures.hand import forearm_up, hand_above
-from pictures.svg import ACCENT, FIGURE, Drawing, Frame, number
+from pictures.inks import SIGN_ACCENT, SIGN_FIGURE
+from pictures.svg import Drawing, Frame, number
 
 WIDTH = 494  # logical pixels, of every chart
 # The two of the OCRA report stand side by side in a wide pane.
@@ -154,8 +155,7 @@ def _hand_and_wrist(drawing):
 
 
 def _body_posture(drawing):
-    moving = frozenset({"trunk", "head", "upper_arm", "forearm"})
-    SideFigure(Pose(trunk=33, arm=12, elbow=28, moving=moving), BENDING).draw(drawing)
+    SideFigure(Pose(trunk=33, neck=-8, arm=6, elbow=12), TRUNK_SIDE).draw_trunk(drawing)
 
 
 def ctd_report(title):
@@ -175,16 +175,16 @@ def ctd_report(title):
         for row, line in enumerate(lines):
             chart.words(100, top + 40 + 15 * row, line, 11, anchor="start")
         chart.words(100, top + 92, f"\u00d7 {weight:g}", 14, bold=True, anchor="start")
-        chart.rule(right, top + 51, right + 14, top + 51, ACCENT, 2)
+        chart.rule(right, top + 51, right + 14, top + 51, SIGN_ACCENT, 2)
     middle, join = 151, right + 14
-    chart.rule(join, 95, join, 207, ACCENT, 2)
-    chart.rule(join, middle, join + 16, middle, ACCENT, 2)
+    chart.rule(join, 95, join, 207, SIGN_ACCENT, 2)
+    chart.rule(join, middle, join + 16, middle, SIGN_ACCENT, 2)
     chart.filled(f"M{join + 14} {middle - 6}L{join + 24} {middle}L{join + 14} {middle + 6}Z",
-                 ACCENT)
-    chart.raw(f'<circle cx="{join}" cy="{middle}" r="9" fill="{ACCENT}"/>')
+                 SIGN_ACCENT)
+    chart.raw(f'<circle cx="{join}" cy="{middle}" r="9" fill="{SIGN_ACCENT}"/>')
     chart.raw(f'<path d="M{join - 5} {middle}H{join + 5}M{join} {middle - 5}V{middle + 5}" '
               f'fill="none" stroke="#ffffff" stroke-width="2"/>')
-    chart.box(join + 26, 82, 112, 138, TINT, ACCENT, 6)
+    chart.box(join + 26, 82, 112, 138, TINT, SIGN_ACCENT, 6)
     centre = join + 26 + 56
     chart.words(centre, 106, "Grand Score", 15, bold=True)
     for row, words in enumerate(["predicted", "incidence rate", "per 200,000", "worked hours"]):
@@ -241,10 +241,10 @@ def strain_index_risk(title):
 def task_icon(title):
     """A task sheet on its board, small enough for a line of a tree."""
     icon = Drawing(title, 16, 16)
-    icon.raw(f'<rect x="2.5" y="2.5" width="11" height="13" rx="1.4" fill="{FIGURE}"/>')
+    icon.raw(f'<rect x="2.5" y="2.5" width="11" height="13" rx="1.4" fill="{SIGN_FIGURE}"/>')
     icon.raw('<rect x="4" y="4.5" width="8" height="9.5" fill="#ffffff"/>')
-    icon.raw(f'<rect x="5.5" y="0.8" width="5" height="3.4" rx="1" fill="{ACCENT}"/>')
+    icon.raw(f'<rect x="5.5" y="0.8" width="5" height="3.4" rx="1" fill="{SIGN_ACCENT}"/>')
     for y in (6.5, 9, 11.5):
         icon.raw(f'<rect x="5.2" y="{y - 0.5}" width="{5.6 if y < 11 else 3.6}" height="1" '
-                 f'fill="{ACCENT}"/>')
+                 f'fill="{SIGN_ACCENT}"/>')
     return icon

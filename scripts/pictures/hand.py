@@ -4,16 +4,14 @@ Each hand has its own frame with the wrist as origin and the fingers pointing up
 from above, the thumb of the right hand is on the left.
 """
 
-from pictures.figure import measure
+from pictures.inks import ACCENT, EDGE, FIGURE, GUIDE
+from pictures.protractor import Protractor, Reach
 from pictures.svg import (
-    ACCENT,
-    EDGE,
-    FIGURE,
     Drawing,
     Frame,
     capsule,
     curl,
-    polar,
+    disc,
     polygon,
     polyline,
     smooth,
@@ -64,52 +62,59 @@ def hand_above(drawing, frame, colour=ACCENT, nails=True):
             drawing.raw(f'<path d="{nail}" fill="{EDGE}" fill-opacity="0.75"/>')
 
 
-def from_above(title, angle, twisted=False):
+def from_above(title, angle, shown=None, twisted=False):
     """The hand bent sideways by `angle`: ulnar positive, radial negative; maybe turned too."""
     drawing = Drawing(title.format(abs(angle)))
-    wrist = (28, 40.5)
+    wrist = (28, 41)
     frame = Frame(wrist, 1.06, angle)
+    reach = Reach(segment=29, sector=36, arc=36, line=38.5)
+    measure = Protractor(drawing, wrist, 0, 1, angle, reach, shown)
+    measure.draw_range()
     forearm_up(drawing, wrist)
-    measure(drawing, wrist, 0, angle, 36, 39)
+    measure.draw_lines()
     hand_above(drawing, frame)
-    drawing.axis(wrist, polar(wrist, 29 if angle == 0 else 13, angle))
+    measure.draw_axis()
     if twisted:
-        _turn_arrow(drawing, wrist[0], 49, 1)
+        _turn(drawing, (28, 50.5), (-1, 1))
     return drawing
 
 
-# Side view, fingers to the right, back of the hand up.
+# Side view from the thumb's side, fingers to the right, back of the hand up. Index finger and back
+# of the hand are one outline; the other fingers come out under it.
 BACK_OF_SIDE = [
-    (-1, -4), (4, -4.6), (10, -5), (14.6, -4.6), (17, -2), (15.6, 2.2), (11, 4.4), (5, 5),
-    (1.4, 4.4), (-1, 4),
+    (-2.4, -4), (3, -4.4), (9.4, -4.9), (14.6, -4.4), (20.8, -3.4), (27, -2.2), (31.6, -0.9),
+    (33, 0.7), (31.6, 1.8), (27, 1.3), (21, 1.2), (16.4, 2.2), (12.6, 3.8), (8.4, 4.6), (3, 4.6),
+    (-2.4, 4),
 ]
 FINGERS_SIDE = [
-    ([(13.5, -2.4), (21, -2.8), (26.4, -2), (31, -0.2)], [2.4, 2.2, 2.0, 1.6]),
-    ([(13.5, -0.6), (20, -0.2), (24.4, 0.8), (28.2, 2.6)], [2.3, 2.1, 1.9, 1.6]),
-    ([(13, 1.2), (18, 2.2), (21.4, 3.4), (24.2, 5.4)], [2.2, 2.0, 1.8, 1.5]),
+    ([(13, 0.6), (20, 2.2), (26.4, 3.2), (31, 4.6)], [2.3, 1.9, 1.7, 1.4]),
+    ([(12, 2), (18.6, 4.4), (24, 6), (27.6, 8)], [2.1, 1.8, 1.6, 1.3]),
 ]
-THUMB_SIDE = ([(2.5, 2.5), (8.6, 7.6), (14.6, 10)], [2.9, 2.4, 1.8])
+THUMB_SIDE = ([(3.4, 3), (8.6, 7), (13.6, 9.2), (18.4, 9.8)], [2.9, 2.3, 2, 1.6])
+SIDE_WRIST = (17, 27.8)
 
 
-def from_side(title, angle):
+def from_side(title, angle, shown=None):
     """The palm-down hand bent at the wrist by `angle`: flexion positive, extension negative."""
     drawing = Drawing(title.format(abs(angle)))
-    wrist = (16, 27.5 - angle * 0.2)
-    frame = Frame(wrist, 1.04, angle)
+    wrist = SIDE_WRIST
+    frame = Frame(wrist, 0.96, angle)
     x, y = wrist
-    drawing.solid([polygon([(0.6, y - 5.4), (x, y - 4.2), (x, y + 4.2), (0.6, y + 5.4)]),
-                   capsule((x - 0.5, y), 4.2, (x + 0.5, y), 4.2)], FIGURE)
-    measure(drawing, wrist, 90, 90 + angle, 36, 39)
+    reach = Reach(segment=28.5, sector=33.5, arc=33.5, line=36)
+    measure = Protractor(drawing, wrist, 90, 1, angle, reach, shown)
+    measure.draw_range()
+    drawing.solid([polygon([(0.6, y - 5.6), (x, y - 4.2), (x, y + 4.2), (0.6, y + 5.6)]),
+                   disc(wrist, 4.2)], FIGURE)
+    measure.draw_lines()
     parts = [(frame.all(joints), [r * frame.scale for r in radii])
-             for joints, radii in [THUMB_SIDE, *FINGERS_SIDE]]
+             for joints, radii in [*FINGERS_SIDE[::-1], THUMB_SIDE]]
     back = smooth(frame.all(BACK_OF_SIDE))
     drawing.solid([back, *(curl(*part) for part in parts)], ACCENT)
     for part in parts:
         drawing.solid([curl(*part)], ACCENT, edge=0.5)
-        if part is parts[0]:
+        if part is parts[1]:
             drawing.solid([back], ACCENT, edge=0.5)
-    drawing.solid([back], ACCENT, edge=0)
-    drawing.axis(wrist, polar(wrist, 29 if angle == 0 else 13, 90 + angle))
+    measure.draw_axis()
     return drawing
 
 
@@ -131,16 +136,28 @@ def turned(title, shows):
         hand_above(drawing, frame)
     else:
         open_palm(drawing, frame)
-    if shows != "edge":
-        _turn_arrow(drawing, wrist[0], 46, -1 if shows == "back" else 1)
+    _turn(drawing, (28, 46), {"edge": (), "back": (-1,), "palm": (1,)}[shows])
     return drawing
 
 
-def _turn_arrow(drawing, middle, height, side):
-    """An arrow around the near side of the forearm, to the left (-1) or to the right (1)."""
-    track = smooth([(middle - side * x, height + y)
-                    for x, y in [(9, -3), (5, 0.4), (-2, 1.2), (-9, -2.4)]], closed=False)
-    drawing.arrow(track, ((middle + side * 9.6, height - 2.9), side * 56))
+def _turn(drawing, middle, sides):
+    """A dial around the near side of the forearm.
+
+    Its tick is where a turn starts, with the thumb towards the reader; an arrow goes from there to
+    the left (-1) or to the right (1), which is where the thumb went.
+    """
+    x, y = middle
+    for side in sides:
+        track = smooth([(x + side * along, y + down)
+                        for along, down in [(0, 1.4), (5, 0.9), (9, -1.2), (11.4, -4.4)]],
+                       closed=False)
+        drawing.arrow(track, ((x + side * 12, y - 5.4), side * 30))
+    if not sides:
+        track = smooth([(x + along, y + down)
+                        for along, down in [(-9, -1.2), (-5, 0.9), (0, 1.4), (5, 0.9), (9, -1.2)]],
+                       closed=False)
+        drawing.line(track, EDGE, 1.2)
+    drawing.line(polyline([(x, y - 2.4), (x, y + 4.8)]), GUIDE, 1.3, edge=0.8)
 
 
 def thumb_edge(drawing, frame):

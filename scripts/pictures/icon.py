@@ -5,7 +5,8 @@ size has a drawing of its own whose edges stand on whole pixels.
 """
 
 from pictures.hand_outline import Finger, curve, hand_nodes
-from pictures.svg import EDGE, FIGURE, Drawing, Frame, capsule, number, polygon
+from pictures.inks import EDGE, SIGN_FIGURE
+from pictures.svg import Drawing, Frame, capsule, number, polygon
 
 LARGE = 256
 TILE_TOP, TILE_BOTTOM = "#4b82f4", "#2550bd"
@@ -99,7 +100,7 @@ def job_file(title):
     """A job file: a page with the product's tile on it."""
     drawing = Drawing(title, LARGE, LARGE)
     page = [(42, 14), (158, 14), (214, 70), (214, 242), (42, 242)]
-    drawing.solid([polygon(page)], FIGURE, edge=5)
+    drawing.solid([polygon(page)], SIGN_FIGURE, edge=5)
     sheet = [(54, 26), (146, 26), (146, 82), (202, 82), (202, 230), (54, 230)]
     drawing.raw(f'<path d="{polygon(sheet)}" fill="{EDGE}"/>')
     drawing.raw('<g transform="translate(66 100) scale(0.484)">')

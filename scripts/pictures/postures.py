@@ -1,186 +1,202 @@
 """Whole postures of the figure: one function a kind of picture, the angle as its argument."""
 
+from pictures import body
 from pictures.figure import (
-    BENDING,
-    BOTH_ARMS_FRONT,
-    FOREARM,
-    HAND,
-    THIGH,
-    UPPER_ARM,
-    UPPER_SIDE,
-    WAIST_SIDE,
+    ARM_FRONT,
+    ARM_SIDE,
+    ELBOW_SIDE,
+    LEGS,
+    LEGS_FRONT,
+    MIDDLE_FRONT,
+    NECK_SIDE,
+    TRUNK_SIDE,
+    WHOLE_FRONT,
+    FrontArm,
+    KneesFigure,
     Pose,
     SideFigure,
-    front,
-    hanging,
-    measure,
+    front_body,
+    front_legs,
+    ground_line,
 )
-from pictures.svg import PIXELS, Drawing, Frame, polar
+from pictures.inks import ACCENT, EDGE, FIGURE, RANGE
+from pictures.protractor import Protractor, Reach, axis_line, reference_line
+from pictures.svg import Drawing, Frame, disc, polar
 
 ARM = frozenset({"upper_arm", "forearm"})
-UPPER_BODY = frozenset({"trunk", "head", "upper_arm", "forearm"})
+WHOLE_ARM = body.UPPER_ARM + body.FOREARM + body.HAND
 
 
-def side_arm(title, view, angle, mirrored=False):
+def side_arm(title, angle, shown=None, mirrored=False):
     """The whole arm raised by `angle` in front of the body or behind it."""
-    drawing = Drawing(title.format(abs(angle)), mirrored=mirrored)
-    if angle < 0:
-        view = view.moved_to(view.hip[0] + 9)
-    figure = SideFigure(Pose(arm=angle, elbow=8, moving=ARM), view)
-    length = (UPPER_ARM + FOREARM + HAND + 1) * view.scale
-
-    def guides():
-        measure(drawing, figure.shoulder, 180, 180 - angle, 25 * view.scale, length,
-                clear=4.6 * view.scale)
-
-    figure.draw(drawing, guides)
-    if angle == 0:
-        drawing.axis(figure.shoulder, polar(figure.shoulder, length, 180))
+    numbers = (shown.near, shown.far) if angle == 0 and shown else (abs(angle),)
+    drawing = Drawing(title.format(*numbers), mirrored=mirrored)
+    s = ARM_SIDE.scale
+    figure = SideFigure(Pose(arm=angle, moving=ARM), ARM_SIDE)
+    reach = Reach(segment=(WHOLE_ARM - 1.5) * s, sector=(WHOLE_ARM - 1) * s, arc=22 * s,
+                  line=(WHOLE_ARM + 2.5) * s, half=4 * s)
+    measure = Protractor(drawing, figure.shoulder, 180, -1, angle, reach, shown)
+    measure.draw_range()
+    figure.draw_upper(drawing, measure.draw_lines)
+    measure.draw_axis()
     return drawing
 
 
-def side_arm_range(title, view, low, high):
-    """The arm in the middle of a range that is marked by two reference lines."""
-    drawing = Drawing(title.format(low, high))
-    view = view.moved_to(view.hip[0] + 7)
-    figure = SideFigure(Pose(elbow=8, moving=ARM), view)
-    length = (UPPER_ARM + FOREARM + HAND) * view.scale
-
-    def guides():
-        for limit in (low, high):
-            measure(drawing, figure.shoulder, 180 - limit, 180, 31 * view.scale, length,
-                    clear=3.4 * view.scale)
-
-    figure.draw(drawing, guides)
+def side_elbow(title, elbow, shown=None, neutral=0, mirrored=False):
+    """The forearm, bent by `elbow` from the upper arm's line; the title counts from `neutral`."""
+    drawing = Drawing(title.format(abs(elbow - neutral)), mirrored=mirrored)
+    s = ELBOW_SIDE.scale
+    figure = SideFigure(Pose(elbow=elbow, moving=frozenset({"forearm"})), ELBOW_SIDE)
+    long = (body.FOREARM + body.HAND) * s
+    reach = Reach(segment=long - 1, sector=long - 2.6, arc=12.5 * s, line=20 * s, half=3.7 * s)
+    measure = Protractor(drawing, figure.arm.elbow, 180, -1, elbow, reach, shown)
+    measure.draw_range()
+    figure.draw_upper(drawing, measure.draw_lines)
+    measure.draw_axis()
     return drawing
 
 
-def side_elbow(title, view, elbow, reference, mirrored=False):
-    """The forearm, bent by `elbow` from the upper arm's line; the arc starts at `reference`."""
-    drawing = Drawing(title.format(abs(elbow - reference)), mirrored=mirrored)
-    figure = SideFigure(Pose(elbow=elbow, moving=frozenset({"forearm"})), view)
-
-    def guides():
-        measure(drawing, figure.elbow, 180 - reference, 180 - elbow,
-                *((15 * view.scale, 18.5 * view.scale, 3.4 * view.scale) if reference == 0
-                  else (25.5 * view.scale, 30 * view.scale, 1.2 * view.scale)))
-
-    figure.draw(drawing, guides)
-    if reference == elbow:
-        drawing.axis(figure.elbow, polar(figure.elbow, 22 * view.scale, 180 - elbow))
-    return drawing
-
-
-def side_trunk(title, view, angle):
-    """The trunk leaning by `angle`; head and arms go with it."""
+def side_trunk(title, angle, shown=None):
+    """The trunk leaning by `angle` over standing legs; the arms hang plumb."""
     drawing = Drawing(title.format(abs(angle)))
-    if angle < 0:
-        view = view.moved_to(PIXELS - view.hip[0])
-    elbow = 28 + max(0, angle - 60) * 2  # keeps the hand in the picture
-    figure = SideFigure(Pose(trunk=angle, neck=-angle / 4, arm=12, elbow=elbow,
-                             moving=UPPER_BODY), view)
-
-    def guides():
-        measure(drawing, figure.hip, 0, angle, 58 * view.scale, 61.5 * view.scale)
-
-    figure.draw(drawing, guides)
-    drawing.axis(figure.hip, polar(figure.hip, (50 if angle == 0 else 20) * view.scale, angle))
+    s = TRUNK_SIDE.scale
+    elbow = 18 if angle >= 0 else 6
+    figure = SideFigure(Pose(trunk=angle, neck=-angle / 4, arm=elbow / 3, elbow=elbow), TRUNK_SIDE)
+    reach = Reach(segment=30 * s, sector=57 * s, arc=57 * s, line=60 * s)
+    measure = Protractor(drawing, figure.hip, 0, 1, angle, reach, shown)
+    measure.draw_range()
+    figure.draw_trunk(drawing, measure.draw_lines)
+    measure.draw_axis()
     return drawing
 
 
-def side_neck(title, view, angle):
+def side_neck(title, angle, shown=None):
     """Head and neck bent by `angle` on an upright trunk."""
     drawing = Drawing(title.format(abs(angle)))
-    if angle < 0:
-        view = view.moved_to(view.hip[0] + 11)
-    figure = SideFigure(Pose(neck=angle, elbow=8, moving=frozenset({"head"})), view)
-
-    def guides():
-        measure(drawing, figure.neck, 0, angle, 24 * view.scale, 26 * view.scale,
-                clear=3 * view.scale)
-
-    figure.draw(drawing, guides)
-    if abs(angle) <= 5:
-        drawing.axis(figure.neck, polar(figure.neck, 19 * view.scale, angle))
+    s = NECK_SIDE.scale
+    figure = SideFigure(Pose(neck=angle), NECK_SIDE)
+    reach = Reach(segment=20.4 * s, sector=24.2 * s, arc=24.2 * s, line=26.6 * s)
+    measure = Protractor(drawing, figure.neck, 0, 1, angle, reach, shown)
+    measure.draw_range()
+    figure.draw_neck(drawing, measure.draw_lines)
+    measure.draw_axis()
     return drawing
 
 
-def front_arm(title, view, angle, mirrored=False):
+def front_arm(title, angle, shown=None, mirrored=False):
     """The right arm spread sideways by `angle`."""
     drawing = Drawing(title.format(angle), mirrored=mirrored)
-    shoulder = Frame(view.hip, view.scale).at(-12.2, -28)
-    length = (UPPER_ARM + FOREARM + HAND + 1) * view.scale
+    s = ARM_FRONT.scale
+    arm = FrontArm(ARM_FRONT, -1, angle)
+    reach = Reach(segment=(WHOLE_ARM - 1.5) * s, sector=(WHOLE_ARM - 1) * s, arc=22 * s,
+                  line=(WHOLE_ARM + 2.5) * s, half=4 * s)
+    measure = Protractor(drawing, arm.shoulder, 180, 1, angle, reach, shown)
+    measure.draw_range()
+    front_body(drawing, ARM_FRONT)
+    drawing.solid(FrontArm(ARM_FRONT, 1, 3).paths(), FIGURE)
+    measure.draw_lines()
+    drawing.solid(arm.paths(), ACCENT)
+    measure.draw_axis()
+    return drawing
+
+
+def stance(title, lifted):
+    """The legs from the front, both on the ground or one lifted off it."""
+    drawing = Drawing(title)
+    ground_line(drawing, LEGS_FRONT.hip[1] + body.GROUND * LEGS_FRONT.scale + 0.7)
+    front_legs(drawing, LEGS_FRONT, lifted)
+    return drawing
+
+
+def side_knees(title, bend, shown):
+    """The legs from the side, the knees bent by `bend` from the thigh's own line."""
+    drawing = Drawing(title.format(bend))
+    s = LEGS.scale
+    figure = KneesFigure(LEGS, bend)
+    ground_line(drawing, LEGS.hip[1] + body.GROUND * s + 0.7)
+    reach = Reach(segment=(body.SHANK + body.SOLE / 2) * s, sector=22 * s, arc=15 * s,
+                  line=25 * s, half=3 * s)
+    measure = Protractor(drawing, figure.knee, 180 - bend / 2, 1, bend, reach, shown)
 
     def guides():
-        measure(drawing, shoulder, 180, 180 + angle, 25 * view.scale, length,
-                clear=4.4 * view.scale)
+        measure.draw_range()
+        measure.draw_lines()
 
-    front(drawing, view, right=angle or 4, left=4, moving=("right",), between=guides)
-    if angle == 0:
-        drawing.axis(shoulder, polar(shoulder, length - 6, 180))
+    figure.draw(drawing, guides)
+    measure.draw_axis()
     return drawing
 
 
-def side_legs(title, view, legs, knee=0):
-    """The whole figure with its legs marked; a bent knee is measured from the thigh's own line."""
-    drawing = Drawing(title.format(knee))
-    figure = SideFigure(Pose(legs=legs, knee=knee, elbow=8, moving=frozenset({"legs"})), view)
-    figure.draw(drawing)
-    if knee:
-        joint = hanging(figure.hip, THIGH * view.scale, knee / 2)
-        measure(drawing, joint, 180 - knee / 2, 180 + knee / 2, 18 * view.scale, 26 * view.scale,
-                clear=4.6 * view.scale, start=6 * view.scale)
-    return drawing
-
-
-def front_forearm(title, view, direction):
+def front_forearm(title, direction):
     """The right forearm in front of the body, across its middle line."""
     drawing = Drawing(title)
+    view = MIDDLE_FRONT
     x, y = view.hip
-
-    def guides():
-        drawing.reference((x, y - 33 * view.scale), (x, view.cut))
-
-    front(drawing, view, right=3, crossing=direction, between=guides)
+    arm = FrontArm(view, -1, 5, direction)
+    front_body(drawing, view)
+    drawing.solid(FrontArm(view, 1, 4).paths(), FIGURE)
+    drawing.solid(arm.upper_paths, FIGURE)
+    reference_line(drawing, (x, y - 33 * view.scale), (x, 55.4))
+    drawing.solid(arm.lower_paths, ACCENT)
+    axis_line(drawing, arm.elbow,
+              polar(arm.elbow, (body.FOREARM + body.HAND - 1.5) * view.scale, direction))
     return drawing
+
+
+def _ring(drawing, centre, radius, draw):
+    """A region that can be chosen: what `draw` draws on a tinted disc, with a ring around it."""
+    path = disc(centre, radius)
+    drawing.raw(f'<path d="{path}" fill="{RANGE}"/>')
+    draw()
+    drawing.line(path, ACCENT, 1.6, edge=0.7)
 
 
 def part_arm_forward(title):
-    """Selector: the arm swings forward and back."""
+    """Selector: the shoulder from the side."""
     drawing = Drawing(title)
-    view = UPPER_SIDE
-    figure = SideFigure(Pose(arm=58, elbow=8, moving=ARM), view)
-    figure.draw(drawing)
-    drawing.arc_arrow(figure.shoulder, 36, 82, 156)
+    figure = SideFigure(Pose(arm=4, elbow=10, moving=ARM), ARM_SIDE)
+    _ring(drawing, figure.shoulder, 8.4, lambda: figure.draw_upper(drawing))
     return drawing
 
 
 def part_arms_sideways(title):
-    """Selector: the arms spread."""
+    """Selector: the shoulders from the front."""
     drawing = Drawing(title)
-    view = BOTH_ARMS_FRONT
-    front(drawing, view, right=36, left=36, moving=("right", "left"))
-    for side in (-1, 1):
-        start, end = sorted((180 - side * 54, 180 - side * 112))
-        drawing.arc_arrow(Frame(view.hip, view.scale).at(side * 12.2, -28), 17.4, start, end)
+    view = WHOLE_FRONT
+    arms = [FrontArm(view, side, 10) for side in (-1, 1)]
+
+    def draw():
+        front_body(drawing, view)
+        for arm in arms:
+            drawing.solid(arm.paths(), ACCENT)
+
+    for arm in arms:
+        _ring(drawing, arm.shoulder, 7, lambda: None)
+    draw()
+    for arm in arms:
+        drawing.line(disc(arm.shoulder, 7), ACCENT, 1.6, edge=0.7)
     return drawing
 
 
 def part_elbow(title):
-    """Selector: the elbow bends."""
+    """Selector: the elbow."""
     drawing = Drawing(title)
-    figure = SideFigure(Pose(elbow=90, moving=frozenset({"forearm"})), WAIST_SIDE)
-    figure.draw(drawing)
-    drawing.arc_arrow(figure.elbow, 23.5, 56, 124)
+    figure = SideFigure(Pose(elbow=80, moving=ARM), ELBOW_SIDE)
+    _ring(drawing, figure.arm.elbow, 9.5, lambda: figure.draw_upper(drawing))
     return drawing
 
 
 def part_neck_and_back(title):
-    """Selector: neck and back bend."""
+    """Selector: neck and back."""
     drawing = Drawing(title)
-    view = BENDING
-    figure = SideFigure(Pose(trunk=26, neck=14, arm=12, elbow=28,
-                             moving=frozenset({"trunk", "head"})), view)
-    figure.draw(drawing)
-    drawing.arc_arrow(figure.hip, 40.5, 27, 66)
+    view = WHOLE_FRONT
+    torso = Frame(view.hip, view.scale)
+    path = disc(torso.at(0, -20), 15)
+    drawing.raw(f'<path d="{path}" fill="{RANGE}"/>')
+    front_body(drawing, view, ACCENT)
+    for side in (-1, 1):
+        drawing.solid(FrontArm(view, side, 8).paths(), FIGURE)
+    for height in range(7):
+        drawing.raw(f'<path d="{disc(torso.at(0, -1 - 5.6 * height), 1)}" fill="{EDGE}"/>')
+    drawing.line(path, ACCENT, 1.6, edge=0.7)
     return drawing

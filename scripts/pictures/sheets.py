@@ -8,7 +8,8 @@ import subprocess
 import sys
 from html import escape
 
-from pictures import png
+from pictures import inks, png
+from pictures.svg import PIXELS
 
 # Sheet, and which pictures of the assets folder stand on it, in this order.
 SHEETS = {
@@ -88,7 +89,7 @@ def checksum(assets, patterns):
     return total.hexdigest()
 
 
-def _pictures(assets, patterns, scale):
+def _pictures(assets, patterns, scale, dark):
     for path in files_of(assets, patterns):
         # At each scale the picture that the window takes there.
         if path.parent.name == "main_window" and path.suffix == ".png":
@@ -98,6 +99,8 @@ def _pictures(assets, patterns, scale):
         width, height = _size_of(path, data)
         if path.name in ("hand.png", "hand@2x.png"):
             data = _masked(path)
+        if dark and (width, height) == (PIXELS, PIXELS):
+            data = inks.on_dark(data.decode()).encode()
         if path.suffix == ".svg":
             # Taken as it is, a drawing would be enlarged from its pixels at 100 %.
             data, kind = _rendered(data, scale), KINDS[".png"]
@@ -177,8 +180,8 @@ def make_sheets(assets, folder):
         comment = "sha256 of the pictures: " + checksum(assets, patterns)
         for scale in SCALES:
             elements, top = [], 0
-            pictures = list(_pictures(assets, patterns, scale))
-            for ground, ink in GROUNDS.values():
+            for name_of_ground, (ground, ink) in GROUNDS.items():
+                pictures = list(_pictures(assets, patterns, scale, name_of_ground == "dark"))
                 block, height = _block(pictures, top, ground, ink)
                 elements += block
                 top += height

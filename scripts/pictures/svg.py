@@ -6,13 +6,9 @@ since the desktop program renders no more than that: no elliptical arcs in paths
 
 import math
 
-ACCENT = "#3a72ee"  # the moving segment: 3:1 and more on white and on dark grey
-FIGURE = "#8a8f98"  # everything that stands still
-GUIDE = "#747982"  # reference lines
-OBJECT = "#d3d7dd"  # what a hand holds
-EDGE = "#ffffff"  # thin border that parts limbs and carries the figure on a coloured button
+from pictures.inks import ACCENT, EDGE
+
 EDGE_WIDTH = 0.9
-DASH = 2.2
 
 PIXELS = 56  # width and height of a posture picture
 
@@ -75,6 +71,12 @@ def arc(centre, radius, start, end):
     return "M" + points(polar(centre, radius, start)) + _sweep(centre, radius, start, end)
 
 
+def sector(centre, radius, start, end):
+    """A slice of a disc."""
+    return ("M" + points(centre) + "L" + points(polar(centre, radius, start))
+            + _sweep(centre, radius, start, end) + "Z")
+
+
 def disc(centre, radius):
     return arc(centre, radius, 0, 360) + "Z"
 
@@ -92,17 +94,6 @@ def capsule(a, radius_a, b, radius_b):
         + _sweep(a, radius_a, along + lean, along + 360 - lean)
         + "L" + points(polar(b, radius_b, along - lean))
         + _sweep(b, radius_b, along - lean, along + lean)
-        + "Z"
-    )
-
-
-def sleeve(joint, radius, end, half):
-    """Outline of a limb that hangs from a joint and is cut off at the height `end`, `half` wide."""
-    x, y = joint
-    return (
-        polyline([(x - half, end), (x - radius, y)])
-        + _sweep(joint, radius, -90, 90)
-        + "L" + points((x + half, end))
         + "Z"
     )
 
@@ -205,29 +196,6 @@ class Drawing:
                 f'stroke-linejoin="round"/>'
             )
 
-    def reference(self, start, end):
-        """The dashed line that an angle is read from.
-
-        Light dashes fill the gaps, so that it is seen on white paper, on limbs and on dark buttons.
-        """
-        path = polyline([start, end])
-        for colour, offset in ((GUIDE, 0), (EDGE, DASH)):
-            self.raw(
-                f'<path d="{path}" fill="none" stroke="{colour}" stroke-width="1.2" '
-                f'stroke-dasharray="{DASH},{DASH}" stroke-dashoffset="{offset}"/>'
-            )
-
-    def axis(self, start, end):
-        """The dashed line within a moving segment that stands on its reference."""
-        self.raw(
-            f'<path d="{polyline([start, end])}" fill="none" stroke="{EDGE}" stroke-width="1" '
-            f'stroke-dasharray="{DASH},{DASH}"/>'
-        )
-
-    def angle(self, centre, radius, start, end):
-        """The thin arc between a reference line and the moving segment."""
-        self.line(arc(centre, radius, start, end), ACCENT, 1.2, edge=0.6)
-
     def arrow(self, path, *heads):
         """A line with a head at each (tip, degrees from straight up that it points to)."""
         corners = [(0, -2.5), (2.5, 1.7), (-2.5, 1.7)]
@@ -235,13 +203,6 @@ class Drawing:
         self.solid(shapes, ACCENT, edge=0.7)
         self.line(path, ACCENT, 1.4, edge=0.7)
         self.solid(shapes, ACCENT, edge=0)
-
-    def arc_arrow(self, centre, radius, start, end):
-        """An arc with a head at both ends: the movement itself, no angle of it."""
-        lead = math.degrees(2.2 / radius)
-        self.arrow(arc(centre, radius, start + lead, end - lead),
-                   (polar(centre, radius, start + lead), start - 90),
-                   (polar(centre, radius, end - lead), end + 90))
 
     def contents(self):
         """The elements of the document, in order."""

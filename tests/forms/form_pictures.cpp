@@ -1,8 +1,10 @@
 // Draws the forms into PNG files and prints the reports into PDF files, for looking at them and for
 // the documents:
 // form_pictures FOLDER [JOBFILE], with QT_SCALE_FACTOR=2 for twice the size, HALVANE_DARK=1 for the
-// dark palette, HALVANE_LEAST=1 for the least size of each tool and HALVANE_SCREEN=800x600 for a
-// screen of that size.
+// dark palette, HALVANE_FONT=14 for a font of so many points, HALVANE_LEAST=1 for the least size of
+// each tool, HALVANE_SIZE=1900x1040 for that size and HALVANE_SCREEN=800x600 for a screen of that
+// size.
+#include <QApplication>
 #include <QDir>
 #include <QPrinter>
 #include <QTabWidget>
@@ -29,6 +31,19 @@ namespace {
 
 using halvane::Module1;
 
+void TakeFontIfAsked() {
+  if (!qEnvironmentVariableIsSet("HALVANE_FONT")) return;
+  QFont font = QApplication::font();
+  font.setPointSize(qEnvironmentVariableIntValue("HALVANE_FONT"));
+  QApplication::setFont(font);
+}
+
+void TakeSizeIfAsked(QWidget& form) {
+  if (qEnvironmentVariableIsSet("HALVANE_LEAST")) form.resize(form.minimumSize());
+  const QStringList size = qEnvironmentVariable("HALVANE_SIZE").split('x');
+  if (size.size() == 2) form.resize(size[0].toInt(), size[1].toInt());
+}
+
 void Draw(QWidget& form, const QString& path) {
   QTest::qWait(50);
   if (!form.grab().save(path)) {
@@ -48,7 +63,7 @@ void DrawTool(halvane::Tool tool, const QString& folder) {
   const auto form = halvane::MakeToolForm(tool, nullptr);
   form->load();
   form->show();
-  if (qEnvironmentVariableIsSet("HALVANE_LEAST")) form->resize(form->minimumSize());
+  TakeSizeIfAsked(*form);
   auto* tabs = form->findChild<QTabWidget*>("SSTab1");
   if (tabs == nullptr) {
     Draw(*form, QString("%1/%2.png").arg(folder, form->objectName()));
@@ -81,6 +96,7 @@ int main(int argc, char** argv) {
   const QString folder = QString::fromLocal8Bit(argv[1]);
   QDir().mkpath(folder);
   halvane::TakeDarkPaletteIfAsked();
+  TakeFontIfAsked();
   const halvane::PictureScreen screen;
   halvane::FrmHandMain window(halvane::MakeToolForm);
   window.show();

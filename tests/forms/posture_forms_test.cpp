@@ -127,12 +127,15 @@ TEST_P(PostureForms, RibbonsHaveOneHeightAndRoomForTheirPictureAndCaption) {
   for (const QSize size : {QSize(960, 620), QSize(1120, 700), QSize(1600, 1000)}) {
     form->resize(size);
     QCoreApplication::processEvents();
+    const auto& first = The<RibbonButton>("SSRibbon1(0)");
+    const int picture = first.iconSize().width();
     for (const auto* ribbon : form->findChildren<RibbonButton*>()) {
       const std::string name = ribbon->objectName().toStdString();
-      EXPECT_EQ(ribbon->height(), The<RibbonButton>("SSRibbon1(0)").height()) << name;
+      EXPECT_EQ(ribbon->height(), first.height()) << name;
+      EXPECT_EQ(ribbon->iconSize(), QSize(picture, picture)) << name;
       const int caption = ribbon->fontMetrics().horizontalAdvance(ribbon->text().trimmed());
-      EXPECT_GE(ribbon->width(), std::max(56, caption)) << name;
-      EXPECT_LE(ribbon->width(), std::max(72, caption + 16)) << name;
+      EXPECT_GE(ribbon->width(), std::max(picture, caption)) << name;
+      EXPECT_LE(ribbon->width(), std::max(picture + 16, caption + 16)) << name;
     }
   }
 }
@@ -145,7 +148,7 @@ TEST_P(PostureForms, CaptionsStandInTheMiddleWithoutTheirBlanks) {
   const QRgb background = picture.pixel(4, picture.height() - 4);
   int left = picture.width();
   int right = 0;
-  for (int y = 66; y < picture.height() - 4; ++y) {
+  for (int y = ribbon.iconSize().height() + 10; y < picture.height() - 4; ++y) {
     for (int x = 4; x < picture.width() - 4; ++x) {
       if (picture.pixel(x, y) == background) continue;
       left = std::min(left, x);

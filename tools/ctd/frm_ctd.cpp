@@ -22,6 +22,7 @@
 #include "widgets/choice_group.h"
 #include "widgets/layout.h"
 #include "widgets/ribbon_button.h"
+#include "widgets/ribbon_page.h"
 #include "widgets/rich_text_box.h"
 #include "widgets/tab_strip.h"
 #include "widgets/text_box.h"
@@ -65,7 +66,7 @@ QWidget* FrmCTD::MakeTaskList() {
 }
 
 QWidget* FrmCTD::MakeEffortTab() {
-  auto* tab = new QWidget(SSTab1_);
+  auto* tab = new RibbonPage(SSTab1_);
   auto* column = new QVBoxLayout(tab);
   column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
   column->setSpacing(kGap);
@@ -175,7 +176,7 @@ QGroupBox* FrmCTD::MakeGroup(CtdGroup group, QWidget* parent) {
 }
 
 QWidget* FrmCTD::MakePostureTab() {
-  auto* tab = new QWidget(SSTab1_);
+  auto* tab = new RibbonPage(SSTab1_);
   auto* grid = new QGridLayout(tab);
   grid->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
   grid->setSpacing(kGap);

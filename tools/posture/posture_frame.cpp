@@ -16,7 +16,7 @@ namespace {
 // As low as four rows of frames in a small window ask for.
 constexpr int kPadding = kGap / 2;
 /// Between boxes; options have some room of their own.
-constexpr int kCheckGap = 6;
+constexpr int kCheckGap = 4;
 constexpr int kOptionGap = 3;
 /// What captions beside ribbons may take: of a box that stands alone, and of each of several.
 constexpr int kLinesOfOneCheck = 3;
@@ -81,8 +81,6 @@ RibbonButton* PostureFrame::AddRibbon(const QString& name, const PictureRibbon& 
   button->setToolTip(ScreenText(ribbon.toolTip));
   // Captions repeat from region to region.
   button->setAccessibleName(title() + " " + caption.trimmed());
-  // Ribbons of all frames have one size, whatever room there is.
-  button->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
   ribbonGroup_->Add(*button);
   ribbons_->addWidget(button);
   return button;

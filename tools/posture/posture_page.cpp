@@ -9,7 +9,7 @@
 
 namespace halvane {
 
-PosturePage::PosturePage(QWidget* parent) : QWidget(parent) {
+PosturePage::PosturePage(QWidget* parent) : RibbonPage(parent) {
   rows_ = new QVBoxLayout(this);
   rows_->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
   rows_->setSpacing(kGap);

@@ -1,7 +1,8 @@
 #pragma once
 
-#include <QWidget>
 #include <string_view>
+
+#include "widgets/ribbon_page.h"
 
 class QGridLayout;
 class QVBoxLayout;
@@ -23,7 +24,7 @@ struct FramePlace {
 /// The tab with the inputs of a tool that looks at the regions of the body one by one: the row
 /// about the job on top, frames in two columns below. One reads down the left column, then down the
 /// right one; add the frames in that order, since it is the order of the Tab key.
-class PosturePage : public QWidget {
+class PosturePage : public RibbonPage {
   Q_OBJECT
  public:
   explicit PosturePage(QWidget* parent);

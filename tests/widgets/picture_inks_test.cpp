@@ -1,0 +1,126 @@
+// The inks of the posture pictures: each stands out on every ground that a picture lies on.
+#include "widgets/picture_inks.h"
+
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QGuiApplication>
+#include <QMap>
+#include <QRegularExpression>
+#include <algorithm>
+#include <array>
+#include <vector>
+
+#include "tests/support/form_support.h"
+#include "widgets/ribbon_button.h"
+
+namespace halvane {
+namespace {
+
+constexpr double kLeastContrast = 3;
+
+double Contrast(const QColor& a, const QColor& b) {
+  const auto [low, high] = std::minmax({RelativeLuminance(a), RelativeLuminance(b)});
+  return (high + 0.05) / (low + 0.05);
+}
+
+/// Buttons, hovered buttons and the plates of pressed ones.
+constexpr std::array kLightGrounds{"#ffffff", "#efefef", "#f0f0f0"};
+constexpr std::array kDarkGrounds{"#000000", "#1e1e20", "#2d2d30", "#313134"};
+
+QMap<QString, QColor> InksOn(const QColor& ground, bool dark) {
+  QMap<QString, QColor> inks{{"ground", ground}};
+  for (const PictureInk& ink : PictureInks())
+    inks[ink.name] = QColor(dark ? ink.onDark : ink.onLight);
+  return inks;
+}
+
+TEST(PictureInks, LuminanceIsThatOfWcag) {
+  EXPECT_DOUBLE_EQ(RelativeLuminance(QColor("#000000")), 0);
+  EXPECT_DOUBLE_EQ(RelativeLuminance(QColor("#ffffff")), 1);
+  // 4.54 to 1 on white is the grey that is known as the lightest for text.
+  EXPECT_NEAR(Contrast(QColor("#767676"), QColor("#ffffff")), 4.54, 0.005);
+}
+
+TEST(PictureInks, ThoseThatTouchStandOutFromEachOther) {
+  // What lies side by side without a gap between: all but the reference line and the accent, which
+  // a gap in the colour of the ground parts.
+  const std::vector<std::pair<const char*, const char*>> touching{
+      {"ground", "figure"}, {"ground", "accent"}, {"ground", "guide"},
+      {"figure", "accent"}, {"figure", "guide"},  {"range", "accent"},
+      {"range", "guide"},   {"object", "guide"},  {"object", "accent"},
+  };
+  const auto check = [&touching](const char* ground, bool dark) {
+    const QMap<QString, QColor> inks = InksOn(QColor(ground), dark);
+    for (const auto& [a, b] : touching) {
+      EXPECT_GE(Contrast(inks[a], inks[b]), kLeastContrast)
+          << a << " and " << b << " on " << ground;
+    }
+  };
+  for (const char* ground : kLightGrounds) check(ground, false);
+  for (const char* ground : kDarkGrounds) check(ground, true);
+}
+
+TEST(PictureInks, AreChosenByTheGround) {
+  const QByteArray drawn = "#848890 #0b3296 #14171c #b9cdf5 #e3e6ea #ffffff #3a72ee";
+  for (const char* ground : kLightGrounds) {
+    EXPECT_EQ(InkedDrawing(drawn, QColor(ground)),
+              "#848890 #0b3296 #14171c #b9cdf5 #e3e6ea " + QByteArray(ground) + " #3a72ee");
+  }
+  for (const char* ground : kDarkGrounds) {
+    EXPECT_EQ(InkedDrawing(drawn, QColor(ground)),
+              "#757a83 #cae0ff #ffffff #27406f #3f444c " + QByteArray(ground) + " #3a72ee");
+  }
+}
+
+TEST(PictureInks, APictureIsDrawnInThem) {
+  for (const char* ground : {"#efefef", "#2d2d30"}) {
+    const bool dark = QColor(ground) == QColor("#2d2d30");
+    const QMap<QString, QColor> inks = InksOn(QColor(ground), dark);
+    const QImage image = InkedPicture("ctd/back_0", QColor(ground), 112).toImage();
+    ASSERT_EQ(image.size(), QSize(112, 112));
+    QMap<QRgb, int> found;
+    for (int y = 0; y < 112; ++y) {
+      for (int x = 0; x < 112; ++x) ++found[image.pixel(x, y)];
+    }
+    EXPECT_GT(found[inks["accent"].rgb()], 100) << ground;
+    EXPECT_GT(found[inks["figure"].rgb()], 100) << ground;
+    EXPECT_EQ(found[InksOn(QColor(ground), !dark)["accent"].rgb()], 0) << ground;
+  }
+}
+
+TEST(PictureInks, APictureThatIsNotThereIsNone) {
+  EXPECT_TRUE(InkedPicture("ctd/no_such_picture", Qt::white, 56).isNull());
+}
+
+TEST(PictureInks, AButtonTakesThoseOfItsOwnGround) {
+  RibbonButton button("SSRibbon1", "Caption");
+  button.SetPicture("ctd/back_0");
+  button.resize(120, 120);
+  const auto count = [&button](const char* colour) {
+    const QImage image = button.grab().toImage().convertToFormat(QImage::Format_RGB32);
+    int pixels = 0;
+    for (int y = 0; y < image.height(); ++y) {
+      for (int x = 0; x < image.width(); ++x) pixels += image.pixel(x, y) == QColor(colour).rgb();
+    }
+    return pixels;
+  };
+  const auto setGround = [&button](QPalette::ColorRole role, const char* colour) {
+    QPalette palette = button.palette();
+    palette.setColor(role, QColor(colour));
+    button.setPalette(palette);
+  };
+  setGround(QPalette::Button, "#efefef");
+  EXPECT_GT(count("#0b3296"), 20);
+  setGround(QPalette::Button, "#2d2d30");
+  EXPECT_EQ(count("#0b3296"), 0);
+  EXPECT_GT(count("#cae0ff"), 20);
+  // The plate of a pressed one is light again.
+  button.setChecked(true);
+  setGround(QPalette::Base, "#ffffff");
+  EXPECT_GT(count("#0b3296"), 20);
+  EXPECT_EQ(count("#cae0ff"), 0);
+}
+
+}  // namespace
+}  // namespace halvane
