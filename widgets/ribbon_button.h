@@ -35,6 +35,10 @@ class RibbonButton : public QAbstractButton {
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+  /// What lies behind picture and caption.
+  virtual void PaintGround(QPainter& painter) const;
+  virtual void PaintFocus(QPainter& painter) const;
+  [[nodiscard]] QColor GroundColor() const;
 
  private:
   [[nodiscard]] QString ShownText() const;
@@ -49,11 +53,8 @@ class RibbonButton : public QAbstractButton {
   /// The height that the captions of all these need in buttons of a width.
   [[nodiscard]] int CaptionRoom(int buttonWidth) const;
 
-  void PaintGround(QPainter& painter) const;
   void PaintPicture(QPainter& painter, QPoint corner) const;
-  void PaintFocus(QPainter& painter) const;
   [[nodiscard]] QPalette::ColorGroup Group() const;
-  [[nodiscard]] QColor GroundColor() const;
   [[nodiscard]] QColor TextColor() const;
 
   QString picture_;  ///< asset name
