@@ -7,7 +7,7 @@ namespace halvane {
 namespace {
 
 /// Dark blue as the contour of the hand; several layers of it lie one on another.
-constexpr QColor kShadow(35, 46, 102, 44);
+constexpr QColor kShadow(51, 63, 120, 52);
 constexpr QPoint kShadowOffset(2, 3);
 constexpr int kShadowLayers = 3;
 

@@ -6,7 +6,7 @@ from pictures.hand_outline import Finger, corners, curve, hand_nodes
 from pictures.svg import Drawing, Frame
 
 WIDTH, HEIGHT = 306, 501  # logical pixels of the main window
-SHADE = "#232e66"  # the contour, and everything outside, so that no fringe shows at the edge
+SHADE = "#333f78"  # the contour, and everything outside, so that no fringe shows at the edge
 CONTOUR = 3  # pixels, half of them inside
 
 INDEX = Finger((95, 187), -9, 158, (24.2, 21.9, 22.4, 19.6, 18.8, 14.8), 6)
