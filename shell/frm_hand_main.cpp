@@ -21,6 +21,7 @@
 #include "widgets/link_label.h"
 #include "widgets/menu_item.h"
 #include "widgets/raised_button.h"
+#include "widgets/raised_ribbon.h"
 #include "widgets/ribbon_button.h"
 
 namespace halvane {
@@ -105,7 +106,7 @@ void FrmHandMain::MakeButtons() {
   const std::array tips{"File Menu", "Help Menu"};
   for (int i = 0; i < 2; ++i) {
     const auto at = static_cast<std::size_t>(i);
-    auto* ribbon = new RibbonButton(ElementName("SSRibbon1", i), captions.at(at), this);
+    auto* ribbon = new RaisedRibbon(ElementName("SSRibbon1", i), captions.at(at), this);
     ribbon->SetOneLine();
     ribbon->setToolTip(tips.at(at));
     connect(ribbon, &RibbonButton::clicked, this,

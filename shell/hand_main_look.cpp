@@ -74,7 +74,9 @@ void HandMainLook::Arrange(FrmHandMain& form) {
 }
 
 void HandMainLook::MakeTitleStrip(FrmHandMain& form) {
-  form.Picture1_ = new GradientPanel("Picture1", &form);
+  auto* strip = new GradientPanel("Picture1", &form);
+  strip->RoundCorners();
+  form.Picture1_ = strip;
   form.Picture1_->setGeometry(kTitleStrip);
   auto* row = new QHBoxLayout(form.Picture1_);
   row->setContentsMargins(kStripGap, 0, kStripGap, 0);
@@ -85,6 +87,7 @@ void HandMainLook::MakeTitleStrip(FrmHandMain& form) {
 
 void HandMainLook::MakeOpeningPanel(FrmHandMain& form) {
   auto* panel = new GradientPanel("Picture3", &form);
+  panel->RoundCorners();
   form.Picture3_ = panel;
   panel->setGeometry(kPalm);
   // The window is dragged by its strip and by the hand.
@@ -112,6 +115,8 @@ void HandMainLook::MakeOpeningPanel(FrmHandMain& form) {
 
 void HandMainLook::ShowButtons(FrmHandMain& form) {
   PlaceButtons(form);
+  // The panel's shadow goes, theirs come.
+  form.SSSplash1_->update();
   form.SSRibbon1_.at(0)->SetPicture("main_window/file", kRibbonPicture);
   form.SSRibbon1_.at(1)->SetPicture("main_window/help", kRibbonPicture);
   form.SSCommand3_.at(0)->setIcon(QIcon(":/assets/main_window/close.svg"));

@@ -1,8 +1,11 @@
 #include "widgets/gradient_panel.h"
 
+#include <QImage>
 #include <QPainter>
 #include <algorithm>
 #include <cmath>
+
+#include "widgets/raised_face.h"
 
 namespace halvane {
 namespace {
@@ -22,8 +25,12 @@ GradientPanel::GradientPanel(const QString& name, QWidget* parent) : QWidget(par
   setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
-void GradientPanel::paintEvent(QPaintEvent* /*event*/) {
-  QPainter painter(this);
+void GradientPanel::RoundCorners() {
+  round_ = true;
+  setAttribute(Qt::WA_OpaquePaintEvent, false);
+}
+
+void GradientPanel::PaintBoxes(QPainter& painter) const {
   const int bottom = height() + kBeyond;
   const int right = width() + kBeyond;
   const double step = -2 * kFullBlue / bottom;
@@ -34,6 +41,25 @@ void GradientPanel::paintEvent(QPaintEvent* /*event*/) {
     painter.fillRect(box, QColor(0, 0, static_cast<int>(std::nearbyint(std::max(blue, 0.0)))));
     blue += step;
   }
+}
+
+void GradientPanel::paintEvent(QPaintEvent* /*event*/) {
+  QPainter painter(this);
+  if (!round_) return PaintBoxes(painter);
+  // A shape that is filled has smooth edges; one that boxes are clipped to has not.
+  const double ratio = painter.device()->devicePixelRatio();
+  QImage boxes((QSizeF(size()) * ratio).toSize(), QImage::Format_RGB32);
+  boxes.setDevicePixelRatio(ratio);
+  QPainter ofBoxes(&boxes);
+  PaintBoxes(ofBoxes);
+  ofBoxes.end();
+  boxes.setDevicePixelRatio(1);
+  QBrush brush(boxes);
+  brush.setTransform(QTransform::fromScale(1 / ratio, 1 / ratio));
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(brush);
+  painter.drawRoundedRect(rect(), kCornerRadius, kCornerRadius);
 }
 
 }  // namespace halvane

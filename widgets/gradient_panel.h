@@ -10,8 +10,16 @@ class GradientPanel : public QWidget {
  public:
   explicit GradientPanel(const QString& name, QWidget* parent);
 
+  /// Gives the panel round corners, in which its ground is seen.
+  void RoundCorners();
+
  protected:
   void paintEvent(QPaintEvent* event) override;
+
+ private:
+  void PaintBoxes(QPainter& painter) const;
+
+  bool round_ = false;
 };
 
 }  // namespace halvane

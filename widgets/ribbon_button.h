@@ -42,6 +42,12 @@ class RibbonButton : public QAbstractButton {
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+  /// What lies behind picture and caption.
+  virtual void PaintGround(QPainter& painter) const;
+  virtual void PaintFocus(QPainter& painter) const;
+  /// Marks the one that is down, without a colour.
+  virtual void PaintTick(QPainter& painter) const;
+  [[nodiscard]] QColor Fill() const;
 
  private:
   /// What a caption needs in a font; a layout asks for it many times.
@@ -74,14 +80,10 @@ class RibbonButton : public QAbstractButton {
   /// The height that is kept for captions.
   [[nodiscard]] int CaptionRoom() const;
 
-  void PaintGround(QPainter& painter) const;
   /// Draws the picture in the inks that stand out on what it lies on.
   void PaintPicture(QPainter& painter, QPoint corner) const;
-  void PaintTick(QPainter& painter) const;
-  void PaintFocus(QPainter& painter) const;
   [[nodiscard]] QPalette::ColorGroup Group() const;
   [[nodiscard]] QColor TextColor() const;
-  [[nodiscard]] QColor Fill() const;
 
   QString picture_;  ///< asset name
   mutable Measured measured_;

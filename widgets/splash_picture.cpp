@@ -1,5 +1,6 @@
 #include "widgets/splash_picture.h"
 
+#include <QPaintEvent>
 #include <QPainter>
 #include <QRegion>
 #include <QResource>
@@ -8,6 +9,7 @@
 #include <vector>
 
 #include "platform/platform_x11.h"
+#include "widgets/raised_face.h"
 
 namespace halvane {
 namespace {
@@ -97,7 +99,17 @@ void SplashPicture::showEvent(QShowEvent* event) {
   QWidget::showEvent(event);
 }
 
-void SplashPicture::paintEvent(QPaintEvent* /*event*/) {
+void SplashPicture::PaintShadows(QPainter& painter, const QRect& part) const {
+  const QList<QWidget*> beside =
+      parentWidget()->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+  for (const QWidget* control : beside) {
+    if (control == this || control->isWindow() || !control->isVisible()) continue;
+    const QRect place(mapFromParent(control->pos()), control->size());
+    if (ShadowOf(place).intersects(part)) PaintSoftShadow(painter, place);
+  }
+}
+
+void SplashPicture::paintEvent(QPaintEvent* event) {
   // The window may have come to another screen.
   ShapeWindow();
   if (picture_.isNull()) {
@@ -110,6 +122,7 @@ void SplashPicture::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::SmoothPixmapTransform);
   painter.drawImage(rect(), picture_);
+  PaintShadows(painter, event->rect());
 }
 
 }  // namespace halvane

@@ -7,7 +7,7 @@ namespace halvane {
 
 /// A picture whose mask gives its window the outline. Both are bare pixels, so that a program that
 /// starts with them has nothing to decode, and come in two sizes, the second one for screens of
-/// more than one pixel a logical pixel.
+/// more than one pixel a logical pixel. Whatever lies on the picture casts a shadow on it.
 class SplashPicture : public QWidget {
   Q_OBJECT
  public:
@@ -24,6 +24,7 @@ class SplashPicture : public QWidget {
   [[nodiscard]] QImage Mask() const;
   /// The mask at so many pixels a logical pixel.
   [[nodiscard]] QImage MaskAt(double ratio) const;
+  void PaintShadows(QPainter& painter, const QRect& part) const;
   /// Gives the window the outline at the resolution of its screen, once for each resolution.
   void ShapeWindow();
 

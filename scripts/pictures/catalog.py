@@ -151,6 +151,8 @@ ICONS = [
     ("icon/hicolor/scalable/mimetypes/application-x-halvane-job", icon.job_file, (), "Job file"),
     *((f"icon/small/halvane-tools-{size}", icon.small, (size,), "Halvane Tools")
       for size in icon.SMALL),
+    *((f"icon/small/application-x-halvane-job-{size}", icon.small_job_file, (size,), "Job file")
+      for size in icon.SMALL_JOB),
 ]
 
 

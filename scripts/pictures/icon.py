@@ -1,10 +1,10 @@
 """The product's icon: the open hand, light on a tile of the accent colour.
 
 The large drawing serves from 48 pixels on. Below, fingers would run together, so that each smaller
-size has a drawing of its own whose edges stand on whole pixels.
+size has a drawing of its own whose edges stand on whole pixels. A job file is a page with the hand.
 """
 
-from pictures.open_hand import Finger, curve, hand_nodes
+from pictures.hand_outline import Finger, curve, hand_nodes
 from pictures.inks import EDGE, SIGN_FIGURE
 from pictures.svg import Drawing, Frame, capsule, number, polygon
 
@@ -107,4 +107,47 @@ def job_file(title):
     for element in large(title).contents():
         drawing.raw(element)
     drawing.raw("</g>")
+    return drawing
+
+
+# Size: left, top, right and bottom of the page, its border, its folded corner; left, top, right and
+# bottom of the tile; left, right and top of each finger, where they end; left, top and height of
+# the thumb; how far above the lower edge of the tile the palm narrows to the wrist.
+SMALL_JOB = {
+    16: ((2, 0, 14, 16), 1, 4, (3, 6, 13, 15),
+         [(5, 6, 9), (7, 8, 7), (9, 10, 8), (11, 12, 10)], 11, (4, 11, 2), 1),
+    22: ((3, 0, 19, 22), 1, 5, (4, 9, 18, 21),
+         [(6, 8, 12), (9, 11, 10), (12, 14, 11), (15, 17, 13)], 15, (5, 15, 3), 2),
+    24: ((3, 0, 21, 24), 1, 6, (4, 9, 20, 23),
+         [(7, 9, 13), (10, 12, 11), (13, 15, 12), (16, 18, 14)], 17, (5, 16, 4), 2),
+    32: ((4, 1, 28, 31), 2, 8, (6, 12, 26, 29),
+         [(10, 12, 16), (13, 15, 14), (16, 18, 15), (19, 21, 17)], 21, (8, 20, 5), 2),
+}
+
+
+def _box(left, top, right, bottom, fill):
+    return (f'<rect x="{left}" y="{top}" width="{right - left}" height="{bottom - top}" '
+            f'fill="{fill}"/>')
+
+
+def small_job_file(title, size):
+    """The page of one of the small sizes; the tile takes all its width."""
+    drawing = Drawing(title, size, size)
+    page, border, fold, tile, fingers, web, thumb, wrist = SMALL_JOB[size]
+    left, top, right, bottom = page
+    outer = [(left, top), (right - fold, top), (right, top + fold), (right, bottom),
+             (left, bottom)]
+    drawing.solid([polygon(outer)], SIGN_FIGURE, edge=0)
+    left, top, right, bottom = left + border, top + border, right - border, bottom - border
+    inner = [(left, top), (right - fold, top), (right - fold, top + fold), (right, top + fold),
+             (right, bottom), (left, bottom)]
+    drawing.solid([polygon(inner)], EDGE, edge=0)
+    drawing.raw("<defs>" + _gradient("tile", TILE_TOP, TILE_BOTTOM, size) + "</defs>")
+    drawing.raw(_box(*tile, "url(#tile)"))
+    for start, end, tip in fingers:
+        drawing.raw(_box(start, tip, end, web, HAND))
+    first, last, ground = fingers[0][0], fingers[-1][1], tile[3]
+    drawing.raw(_box(first, web, last, ground - wrist, HAND))
+    drawing.raw(_box(first + 1, ground - wrist, last - 1, ground, HAND))
+    drawing.raw(_box(thumb[0], thumb[1], first, thumb[1] + thumb[2], HAND))
     return drawing

@@ -7,6 +7,7 @@ import shutil
 import subprocess
 import sys
 from html import escape
+from pathlib import Path
 
 from pictures import inks, png
 from pictures.svg import PIXELS
@@ -20,6 +21,7 @@ SHEETS = {
     "reba": ["reba/*.svg"],
     "charts": ["ocra/*", "strain_index/*", "ctd/report.svg"],
 }
+TRAYS = {"icons": ["apps/halvane-tools.png", "mimetypes/application-x-halvane-job.png"]}
 KINDS = {".svg": "image/svg+xml", ".png": "image/png", ".jpg": "image/jpeg"}
 # Ground, ink of the words on it, whether it is a dark one.
 WHITE, BUTTON, DARK = (("#ffffff", "#202124", False), ("#efefef", "#202124", False),
@@ -30,6 +32,7 @@ MOST_BYTES = 500_000  # of a sheet
 
 WIDTH = 1080  # of a sheet at 100 %
 GAP, MARGIN = 10, 14
+TRAY = (16, 22, 24, 32, 48, 64, 128)  # sizes of an icon that stand side by side
 LINE = 11  # height of a line of a caption
 LETTERS = 18  # of a line of a caption
 LEAST = 104  # width of a cell
@@ -46,6 +49,23 @@ class Picture:
         data = base64.b64encode(self.data).decode()
         return (f'<image x="{x}" y="{y}" width="{self.width}" height="{self.height}" '
                 f'xlink:href="data:{self.kind};base64,{data}"/>')
+
+
+class Tray:
+    """One icon in many sizes beside each other, as panels and lists of files show it."""
+
+    def __init__(self, folder, icon):
+        self.name = f"{Path(icon).stem} in {', '.join(map(str, TRAY))}"
+        self.pictures = [Picture("", side, side, (folder / f"{side}x{side}" / icon).read_bytes(),
+                                 KINDS[".png"]) for side in TRAY]
+        self.width, self.height = sum(TRAY) + GAP * (len(TRAY) - 1), max(TRAY)
+
+    def element(self, x, y):
+        elements = []
+        for picture in self.pictures:
+            elements.append(picture.element(x, y + self.height - picture.height))
+            x += picture.width + GAP
+        return "".join(elements)
 
 
 def _size_of(path, data):
@@ -186,7 +206,8 @@ def make_sheets(assets, folder):
             grounds = (WHITE, BUTTON, DARK) if name in ON_BUTTONS else (WHITE, DARK)
             for ground, ink, dark in grounds:
                 pictures = list(_pictures(assets, patterns, scale, ground, dark))
-                block, height = _block(pictures, top, ground, ink)
+                trays = [Tray(assets / "icon/hicolor", icon) for icon in TRAYS.get(name, ())]
+                block, height = _block(trays + pictures, top, ground, ink)
                 elements += block
                 top += height
             _write(folder / f"sheet-{name}-{scale}00.png", elements, top, scale, comment)

@@ -70,6 +70,41 @@ TEST(IconFiles, FourFingersStandApartAtEverySize) {
   }
 }
 
+bool IsTile(QRgb pixel) { return qBlue(pixel) > qRed(pixel) + 60; }
+
+/// The most white stretches that one row of pixels has between two of the tile.
+int FingersOnTile(const QImage& icon) {
+  int most = 0;
+  for (int y = 0; y < icon.height(); ++y) {
+    int fingers = 0;
+    bool afterTile = false;
+    for (int x = 1; x < icon.width(); ++x) {
+      const bool ends = IsTile(icon.pixel(x, y)) && !IsTile(icon.pixel(x - 1, y));
+      fingers += ends && afterTile;
+      afterTile = afterTile || IsTile(icon.pixel(x, y));
+    }
+    most = std::max(most, fingers);
+  }
+  return most;
+}
+
+TEST(IconFiles, SmallJobFileHasTheHandOnWholePixels) {
+  for (const int side : {16, 22, 24, 32}) {
+    const QString name = QString("hicolor/%1x%1/mimetypes/application-x-halvane-job.png").arg(side);
+    const QImage icon = QImage(Icon(name)).convertToFormat(QImage::Format_ARGB32);
+    EXPECT_GE(FingersOnTile(icon), 4) << side;
+    int blended = 0;
+    for (int y = 0; y < side; ++y) {
+      for (int x = 0; x < side; ++x) {
+        const int alpha = qAlpha(icon.pixel(x, y));
+        if (alpha != 0 && alpha != 255) ++blended;
+      }
+    }
+    // Along the folded corner alone.
+    EXPECT_LE(blended, side / 4) << side;
+  }
+}
+
 TEST(IconFiles, DesktopProgramNamesEachSizeByItsAlias) {
   const QString list = QString::fromUtf8(ContentOf(SourceFile("assets/assets.qrc")));
   auto hits = QRegularExpression("alias=\"([^\"]+)\">([^<]+)<").globalMatch(list);

@@ -18,6 +18,8 @@ class MainWindowShape : public ShellTest {};
 class Gradient : public ShellTest {};
 
 constexpr int kLeastDistance = 6;
+/// The rounding of title strip and opening panel.
+constexpr int kCorner = 5;
 
 QImage Mask(const char* file) {
   return QImage(QString(":/assets/main_window/") + file).convertToFormat(QImage::Format_Grayscale8);
@@ -114,6 +116,39 @@ TEST_F(MainWindowShape, FingersAreThoseOfThePicture) {
     }
   }
   EXPECT_EQ(different, 0);
+}
+
+/// By how much the hand is darker as shown than in its picture.
+int Darker(const QImage& shown, QPoint place) {
+  const QImage picture(":/assets/main_window/hand.png");
+  return qGray(picture.pixel(place)) - qGray(shown.pixel(place));
+}
+
+TEST_F(MainWindowShape, WhateverLiesOnTheHandCastsOneShadowToTheLowerRight) {
+  FrmHandMain opening(MakeToolForm);
+  ShowActive(opening);
+  const auto window = IdleMainWindow();
+  const auto expectShadow = [](QWidget& of, const char* name) {
+    const QImage shown = of.grab().toImage();
+    const QRect place = Find<QWidget>(of, name).geometry();
+    EXPECT_GT(Darker(shown, {place.right() + 2, place.bottom() - 8}), 25) << name;
+    EXPECT_GT(Darker(shown, {place.center().x(), place.bottom() + 2}), 25) << name;
+    EXPECT_EQ(Darker(shown, {place.left() - 2, place.bottom() - 8}), 0) << name;
+  };
+  for (const char* name : {"Picture1", "Picture3"}) expectShadow(opening, name);
+  for (const char* name : {"Picture1", "SSCommand2(0)", "SSCommand2(4)", "SSRibbon1(0)"}) {
+    expectShadow(*window, name);
+  }
+}
+
+TEST_F(MainWindowShape, OpeningPanelTakesItsShadowAlong) {
+  FrmHandMain window(MakeToolForm);
+  ShowActive(window);
+  const QRect panel = Find<QWidget>(window, "Picture3").geometry();
+  const QPoint below(panel.left() + 10, panel.bottom() + 3);
+  EXPECT_GT(Darker(window.grab().toImage(), below), 25);
+  const auto idle = IdleMainWindow();
+  EXPECT_EQ(Darker(idle->grab().toImage(), below), 0);
 }
 
 TEST_F(MainWindowShape, EveryControlStandsWellInsideTheOutline) {
@@ -252,10 +287,14 @@ int LevelOfRow(int row, int panelHeight) {
   return level < 0 ? 0 : static_cast<int>(std::lround(level));
 }
 
-void ExpectGradient(const QImage& shown) {
+/// `corner` is the side of the squares at the corners that are left out.
+void ExpectGradient(const QImage& shown, int corner = 0) {
+  const QRect across = shown.rect().adjusted(corner, 0, -corner, 0);
+  const QRect down = shown.rect().adjusted(0, corner, 0, -corner);
   int different = 0;
   for (int y = 0; y < shown.height(); ++y) {
     for (int x = 0; x < shown.width(); ++x) {
+      if (!across.contains(x, y) && !down.contains(x, y)) continue;
       if (shown.pixel(x, y) != Blue(LevelOfRow(y, shown.height()))) ++different;
     }
   }
@@ -303,7 +342,21 @@ TEST_F(Gradient, IsOnTitleStripAndOpeningPanelUnderWhiteText) {
     auto& panel = Find<GradientPanel>(window, name);
     EXPECT_EQ(panel.palette().color(QPalette::WindowText), QColor(Qt::white)) << name;
     for (auto* child : panel.findChildren<QWidget*>()) child->hide();
-    ExpectGradient(panel.grab().toImage());
+    ExpectGradient(panel.grab().toImage(), kCorner);
+  }
+}
+
+TEST_F(Gradient, LeavesItsCornersToTheHand) {
+  FrmHandMain window(MakeToolForm);
+  ShowActive(window);
+  const QImage shown = window.grab().toImage();
+  for (const char* name : {"Picture1", "Picture3"}) {
+    const QRect place = Find<QWidget>(window, name).geometry();
+    for (const QPoint& corner :
+         {place.topLeft(), place.topRight(), place.bottomLeft(), place.bottomRight()}) {
+      // The hand has as much red as green, the gradient has none.
+      EXPECT_GT(qRed(shown.pixel(corner)), 40) << name;
+    }
   }
 }
 
