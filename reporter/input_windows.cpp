@@ -50,7 +50,7 @@ std::error_code InputBytes::Open(const std::string& path) {
   return {};
 }
 
-std::size_t InputBytes::Read(std::span<char> room, std::error_code& error) {
+std::size_t InputBytes::Read(std::span<char> room, std::error_code& error) const {
   auto* const input =
       isOpened_ ? reinterpret_cast<HANDLE>(handle_) : GetStdHandle(STD_INPUT_HANDLE);
   // No wait for input ends when the user presses Ctrl-C, so another thread waits for it. One that

@@ -55,6 +55,8 @@ std::size_t NamelessFile::ReadAt(std::uint64_t position, std::span<char> room) c
   }
 }
 
-std::string NamelessFile::pathOfOpenFile() const { return "/dev/fd/" + PlainText(static_cast<int>(handle_)); }
+std::string NamelessFile::pathOfOpenFile() const {
+  return "/dev/fd/" + PlainText(static_cast<int>(handle_));
+}
 
 }  // namespace halvane
