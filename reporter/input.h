@@ -25,7 +25,7 @@ class InputBytes {
 
   /// Waits for input and reads what there is, at most `room`; gives how much. 0 at its end, on an
   /// `error`, and when the user interrupts the waiting.
-  std::size_t Read(std::span<char> room, std::error_code& error);
+  std::size_t Read(std::span<char> room, std::error_code& error) const;
 
  private:
   std::intptr_t handle_ = 0;  ///< as the system calls what is open

@@ -45,7 +45,7 @@ std::error_code InputBytes::Open(const std::string& path) {
   return {};
 }
 
-std::size_t InputBytes::Read(std::span<char> room, std::error_code& error) {
+std::size_t InputBytes::Read(std::span<char> room, std::error_code& error) const {
   const int descriptor = static_cast<int>(handle_);
   // Ctrl-C comes through while the program waits and at no other moment. One that came just before
   // the waiting would else be noted when it is over.

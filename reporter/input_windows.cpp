@@ -27,7 +27,7 @@ struct Reading {
   Reading& operator=(const Reading&) = delete;
 };
 
-void Read(Reading& reading) {
+void ReadInto(Reading& reading) {
   const auto size = static_cast<DWORD>(reading.bytes.size());
   if (ReadFile(reading.input, reading.bytes.data(), size, &reading.count, nullptr) == 0) {
     reading.error = GetLastError();
@@ -50,13 +50,13 @@ std::error_code InputBytes::Open(const std::string& path) {
   return {};
 }
 
-std::size_t InputBytes::Read(std::span<char> room, std::error_code& error) {
+std::size_t InputBytes::Read(std::span<char> room, std::error_code& error) const {
   auto* const input =
       isOpened_ ? reinterpret_cast<HANDLE>(handle_) : GetStdHandle(STD_INPUT_HANDLE);
   // No wait for input ends when the user presses Ctrl-C, so another thread waits for it. One that
   // waits for ever ends with the program.
   const auto reading = std::make_shared<Reading>(input, room.size());
-  std::thread([reading] { Read(*reading); }).detach();
+  std::thread([reading] { ReadInto(*reading); }).detach();
   const std::array<HANDLE, 2> events{InterruptionEvent(), reading->done};
   const auto count = static_cast<DWORD>(events.size());
   if (WaitForMultipleObjects(count, events.data(), FALSE, INFINITE) == WAIT_OBJECT_0) return 0;

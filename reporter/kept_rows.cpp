@@ -79,7 +79,7 @@ void KeptRows::Read(Run& run, char* to, std::size_t size) const {
       run.position += run.buffer.size();
     }
     const std::size_t count = std::min(size, run.buffer.size() - run.used);
-    std::memcpy(to, run.buffer.data() + run.used, count);
+    std::copy_n(run.buffer.data() + run.used, count, to);
     run.used += count;
     to += count;
     size -= count;

@@ -4,6 +4,7 @@
 #include <cstdlib>
 
 #include "core/file_calls.h"
+#include "core/number_text.h"
 #include "reporter/nameless_file.h"
 
 namespace halvane {
@@ -54,6 +55,8 @@ std::size_t NamelessFile::ReadAt(std::uint64_t position, std::span<char> room) c
   }
 }
 
-std::string NamelessFile::pathOfOpenFile() const { return "/dev/fd/" + std::to_string(handle_); }
+std::string NamelessFile::pathOfOpenFile() const {
+  return "/dev/fd/" + PlainText(static_cast<int>(handle_));
+}
 
 }  // namespace halvane

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "core/file_calls.h"
 #include "core/file_calls_windows.h"
 #include "reporter/nameless_file.h"
 

@@ -2,7 +2,9 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
+#include <map>
 
+#include "reporter/near_name.h"
 #include "reporter/output.h"
 #include "reporter/piped_job.h"
 #include "reporter/printable_text.h"
@@ -56,35 +58,45 @@ const ToolRow* ToolNamed(std::span<const ToolRow> tools, std::string_view key) {
   return found == tools.end() ? nullptr : &*found;
 }
 
-/// "ocra, ctd, si": the keys of the tools.
-std::string KeysOf(std::span<const ToolRow> tools) {
-  std::string keys;
-  for (const ToolRow& row : tools) {
-    if (!keys.empty()) keys += ", ";
-    keys += row.key;
-  }
-  return keys;
+using Names = std::vector<std::string>;
+
+Names NamesOf(std::span<const ToolRow> tools) {
+  Names names;
+  for (const ToolRow& row : tools) names.emplace_back(row.key);
+  return names;
+}
+
+template <typename Value, std::size_t N>
+Names NamesOf(const std::array<Word<Value>, N>& words) {
+  Names names;
+  for (const auto& word : words) names.emplace_back(word.name);
+  return names;
 }
 
 std::string ToolHelp(std::span<const ToolRow> tools) {
-  return "Tool to report on; may be given more than once. One of: " + KeysOf(tools) +
+  std::string keys;
+  for (const std::string& name : NamesOf(tools)) keys += (keys.empty() ? "" : ", ") + name;
+  return "Tool to report on; may be given more than once. One of: " + keys +
          ". Without it: all of them.";
 }
 
 /// Why `key` names no tool to report on; empty when it does. For the parser's check of an option.
 std::string ToolComplaint(std::span<const ToolRow> tools, const std::string& key) {
   if (ToolNamed(tools, key) != nullptr) return {};
-  return "there is no tool \"" + WithoutGuard(key) + "\"";
+  return "there is no tool \"" + WithoutGuard(key) + "\"" +
+         HintFor(WithoutGuard(key), NamesOf(tools));
 }
 
 std::string FormatComplaint(const std::string& name) {
   if (WordNamed(kFormats, name) != nullptr) return {};
-  return "there is no format \"" + WithoutGuard(name) + "\"";
+  return "there is no format \"" + WithoutGuard(name) + "\"" +
+         HintFor(WithoutGuard(name), NamesOf(kFormats));
 }
 
 std::string UnitsComplaint(const std::string& name) {
   if (WordNamed(kUnits, name) != nullptr) return {};
-  return "there are no units \"" + WithoutGuard(name) + "\"";
+  return "there are no units \"" + WithoutGuard(name) + "\"" +
+         HintFor(WithoutGuard(name), NamesOf(kUnits));
 }
 
 /// The options as the parser leaves them.
@@ -166,18 +178,11 @@ std::string WrongUse(std::string_view complaint) {
          " --help\" for the options." + lineEnd;
 }
 
-}  // namespace
-
-std::variant<Options, Notice> ParseOptions(std::vector<std::string> arguments,
-                                           std::span<const ToolRow> tools) {
-  Given given;
-  CLI::App app(
-      "Prints the reports of the tools on job files, one line a job, or what is wrong with "
-      "the files.",
-      std::string(kProgramName));
+/// Tells the parser of the options.
+void Define(CLI::App& app, Given& given, std::span<const ToolRow> tools) {
   // A path from the root begins with a slash wherever the program runs.
   app.allow_windows_style_options(false);
-  app.set_version_flag("--version", std::string(kProgramName) + " " + HALVANE_VERSION);
+  app.set_version_flag("-V,--version", std::string(kProgramName) + " " + HALVANE_VERSION);
   const auto isTool = [tools](const std::string& key) { return ToolComplaint(tools, key); };
   app.add_option("--tool", given.tools, ToolHelp(tools))
       ->type_name("NAME")
@@ -185,13 +190,15 @@ std::variant<Options, Notice> ParseOptions(std::vector<std::string> arguments,
       ->allow_extra_args(false)
       ->check(isTool);
   app.add_flag("--summary", given.summary,
-               "One line a job with the headline of each tool instead of reports");
+               "One line a job with the headline of each tool instead of reports")
+      ->disable_flag_override();
   app.add_option("--sort", given.sort, "Summary: the jobs that are worst by this tool first")
       ->type_name("NAME")
       ->check(isTool);
   app.add_flag("--check", given.check,
                "Instead of reports, what the program would not take of the files and what of them "
-               "would surprise");
+               "would surprise")
+      ->disable_flag_override();
   app.add_option("--format", given.format,
                  "text (default), json (one object a line), html (one page) or, of a summary, csv")
       ->type_name("NAME")
@@ -205,7 +212,8 @@ std::variant<Options, Notice> ParseOptions(std::vector<std::string> arguments,
                  "then written as it is done; the format is json by default")
       ->type_name("LIST");
   app.add_flag("-0,--null", given.null,
-               "A zero byte ends each name: in LIST, and in the lines of a check as text");
+               "A zero byte ends each name: in LIST, and in the lines of a check as text")
+      ->disable_flag_override();
   app.add_option("FILE", given.files,
                  "Job file (.qjt), or a folder for all those in and below it; - is standard input")
       ->type_name("");
@@ -213,7 +221,46 @@ std::variant<Options, Notice> ParseOptions(std::vector<std::string> arguments,
       "Exit status: 0 all is done, 1 a file could not be read or not whole, a computation failed "
       "or the output could not be written, 2 wrong use, 130 ended by Ctrl-C, 143 by SIGTERM, 141 "
       "by the end of who reads the output.");
+}
 
+/// The names that may stand for an option, "-V" and "--version".
+Names NamesOf(const CLI::App& app) {
+  Names names;
+  for (const CLI::Option* option : app.get_options()) {
+    for (const std::string& name : option->get_lnames()) names.push_back("--" + name);
+  }
+  return names;
+}
+
+/// Why the parser takes no such arguments, in the words of this program where the parser's own tell
+/// of the parser.
+std::string ComplaintOf(const CLI::App& app, const CLI::ParseError& wrong) {
+  const Names unknown = app.remaining();
+  if (dynamic_cast<const CLI::ExtrasError*>(&wrong) != nullptr && !unknown.empty()) {
+    const std::string typed = WithoutGuard(unknown.front().substr(0, unknown.front().find('=')));
+    return "there is no option \"" + typed + "\"" + HintFor(typed, NamesOf(app));
+  }
+  for (const CLI::Option* option : app.get_options()) {
+    const bool isSingle = option->get_expected_max() == 1 && option->get_items_expected_max() == 1;
+    if (isSingle && !option->get_lnames().empty() && option->get_lnames().front() != "tool" &&
+        option->count() > 1) {
+      return option->get_name() + ": may be given once";
+    }
+  }
+  return wrong.what();
+}
+
+constexpr const char* kAbout =
+    "Prints the reports of the tools on job files, one line a job, or what is wrong with the "
+    "files.";
+
+}  // namespace
+
+std::variant<Options, Notice> ParseOptions(std::vector<std::string> arguments,
+                                           std::span<const ToolRow> tools) {
+  Given given;
+  CLI::App app(kAbout, std::string(kProgramName));
+  Define(app, given, tools);
   GuardBrackets(arguments);
   std::reverse(arguments.begin(), arguments.end());  // the order that the parser takes them in
   try {
@@ -223,11 +270,35 @@ std::variant<Options, Notice> ParseOptions(std::vector<std::string> arguments,
   } catch (const CLI::CallForVersion& version) {
     return Notice{false, std::string(version.what()).append(kLineEnd)};
   } catch (const CLI::ParseError& wrong) {
-    return Notice{true, WrongUse(wrong.what())};
+    return Notice{true, WrongUse(ComplaintOf(app, wrong))};
   }
   const std::string complaint = ComplaintOf(given);
   if (!complaint.empty()) return Notice{true, WrongUse(complaint)};
   return Collect(tools, std::move(given));
+}
+
+std::vector<OptionRow> OptionTable(std::span<const ToolRow> tools) {
+  Given given;
+  CLI::App app(kAbout, std::string(kProgramName));
+  Define(app, given, tools);
+  const std::map<std::string, Names> words{{"tool", NamesOf(tools)},
+                                           {"sort", NamesOf(tools)},
+                                           {"format", NamesOf(kFormats)},
+                                           {"units", NamesOf(kUnits)}};
+  std::vector<OptionRow> rows;
+  for (const CLI::Option* option : app.get_options()) {
+    if (option->get_lnames().empty()) continue;
+    OptionRow row;
+    row.name = option->get_lnames().front();
+    if (!option->get_snames().empty()) row.letter = option->get_snames().front();
+    row.help = option->get_description();
+    row.takesFile = row.name == "files-from";
+    row.repeats = row.name == "tool";
+    const auto found = words.find(row.name);
+    if (found != words.end()) row.words = found->second;
+    rows.push_back(std::move(row));
+  }
+  return rows;
 }
 
 }  // namespace halvane

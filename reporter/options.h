@@ -32,6 +32,18 @@ struct Options {
   bool namesEndInZero = false;  ///< names in the list, and in lines of a check
 };
 
+/// An option as shells complete it.
+struct OptionRow {
+  std::string name;    ///< without its hyphens
+  std::string letter;  ///< the same in one letter; empty: it has none
+  std::string help;
+  std::vector<std::string> words;  ///< of which it takes one
+  bool takesFile = false;
+  bool repeats = false;  ///< may be given more than once
+};
+/// All there are but the files; the one table that the parser, the help and the shells have.
+std::vector<OptionRow> OptionTable(std::span<const ToolRow> tools);
+
 /// The command line asks for no report: help, the version, or wrong use.
 struct Notice {
   bool isError;      ///< wrong use; the text is for standard error

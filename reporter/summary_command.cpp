@@ -12,10 +12,7 @@ constexpr int kRowsAtOnce = 100;
 
 SummaryCommand::SummaryCommand(SummaryTools tools, LengthUnit units, ReportFormat format,
                                const ToolRow* sortBy)
-    : tools_(std::move(tools)),
-      units_(units),
-      writer_(MakeSummaryWriter(format, tools_)),
-      keeps_(false) {
+    : tools_(std::move(tools)), units_(units), writer_(MakeSummaryWriter(format, tools_)) {
   const auto place = std::ranges::find(tools_, sortBy);
   if (place != tools_.end()) sortColumn_ = static_cast<std::size_t>(place - tools_.begin());
   keeps_ = sortColumn_ || !writer_->writesAsItGoes();

@@ -26,7 +26,7 @@ class SummaryCommand : public JobCommand {
   std::optional<std::size_t> sortColumn_;  ///< place of the tool
   std::unique_ptr<SummaryWriter> writer_;
   JobSummary summary_;  ///< of the job under way; a member, so that it keeps its memory
-  bool keeps_;
+  bool keeps_ = false;
   KeptRows kept_;
   bool isEnding_ = false;
 };

@@ -61,6 +61,9 @@ class InstalledProgram(unittest.TestCase):
         wanted.add("share/doc/halvane-tools/job-file.md")
         wanted.add("share/doc/halvane-tools/results.md")
         wanted.add("share/halvane-tools/halvane-report.schema.json")
+        wanted.update({"share/bash-completion/completions/halvane-report",
+                       "share/fish/vendor_completions.d/halvane-report.fish",
+                       "share/zsh/site-functions/_halvane-report"})
         wanted.update(f"share/doc/halvane-tools/samples/{name}.qjt"
                       for name in ("board-assembly", "packing-line", "parcel-sorting"))
         for icon in ICONS:

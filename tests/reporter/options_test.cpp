@@ -108,14 +108,25 @@ TEST(ReportOptions, WrongUseIsToldInOneLineAndAHint) {
       {"unknown tool", {"--tool", "nope", "a"}, "--tool: there is no tool \"nope\""},
       {"unknown format", {"--format", "pdf", "a"}, "--format: there is no format \"pdf\""},
       {"unknown units", {"--units", "feet", "a"}, "--units: there are no units \"feet\""},
-      {"tool in brackets", {"--tool", "[good]", "a"}, "--tool: there is no tool \"[good]\""},
+      {"tool in brackets",
+       {"--tool", "[good]", "a"},
+       "--tool: there is no tool \"[good]\"; did you mean \"good\"?"},
       {"steering the terminal",
        {"--tool", "\x1B[31m", "a"},
        "--tool: there is no tool \"\uFFFD[31m\""},
       {"format in brackets",
        {"--format", "[json]", "a"},
-       "--format: there is no format \"[json]\""},
-      {"unknown option", {"--colour", "a"}, "The following argument was not expected: --colour"},
+       "--format: there is no format \"[json]\"; did you mean \"json\"?"},
+      {"unknown option", {"--colour", "a"}, "there is no option \"--colour\""},
+      {"slip of an option",
+       {"--formatt=json", "a"},
+       "there is no option \"--formatt\"; did you mean \"--format\"?"},
+      {"slip of a tool",
+       {"--tool", "god", "a"},
+       "--tool: there is no tool \"god\"; did you mean \"good\"?"},
+      {"two formats", {"--format", "json", "--format", "text", "a"}, "--format: may be given once"},
+      {"two units", {"--units", "metric", "--units=english", "a"}, "--units: may be given once"},
+      {"two lists", {"--files-from", "a", "--files-from", "b"}, "--files-from: may be given once"},
       {"option without value", {"a", "--format"}, "--format: 1 required NAME missing"},
       {"zero bytes of nothing",
        {"--null", "a"},
@@ -178,6 +189,7 @@ TEST(ReportOptions, VersionIsNameAndNumber) {
   const Notice notice = Noticed({"--version"});
   EXPECT_FALSE(notice.isError);
   EXPECT_EQ(notice.text, "halvane-report " HALVANE_VERSION "\n");
+  EXPECT_EQ(Noticed({"-V"}).text, notice.text);
 }
 
 }  // namespace

@@ -1,0 +1,11 @@
+# Made by make_result_pages from the program's own options.
+complete -c halvane-report -s h -l help -d 'Print this help message and exit'
+complete -c halvane-report -s V -l version -d 'Display program version information and exit'
+complete -c halvane-report -l tool -x -a 'ocra ctd si reba rula hal' -d 'Tool to report on'
+complete -c halvane-report -l summary -d 'One line a job with the headline of each tool instead of reports'
+complete -c halvane-report -l sort -x -a 'ocra ctd si reba rula hal' -d 'Summary, the jobs that are worst by this tool first'
+complete -c halvane-report -l check -d 'Instead of reports, what the program would not take of the files and what of them would surprise'
+complete -c halvane-report -l format -x -a 'text json html csv' -d 'text default, json one object a line, html one page or, of a summary, csv'
+complete -c halvane-report -l units -x -a 'metric english' -d 'metric default or english, what the hand spans of the jobs are taken in'
+complete -c halvane-report -l files-from -r -d 'A file that names the files, one a line'
+complete -c halvane-report -s 0 -l null -d 'A zero byte ends each name, in LIST, and in the lines of a check as text'
