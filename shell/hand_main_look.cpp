@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "core/messages.h"
+#include "platform/platform.h"
 #include "shell/frm_hand_main.h"
 #include "widgets/font_share.h"
 #include "widgets/gradient_panel.h"
@@ -63,6 +64,12 @@ QLabel* AddLabel(QBoxLayout& layout, const QString& name, const QString& text, d
 void HandMainLook::Arrange(FrmHandMain& form) {
   form.setWindowFlags(Qt::Window | Qt::FramelessWindowHint | Qt::WindowMinimizeButtonHint);
   form.setFixedSize(kSize);
+  const QRect screen = ThePlatform().AvailableArea({});
+  if (screen.height() < kSize.height()) {
+    // The hand keeps its size: rather fingertips above the screen than buttons below it.
+    form.move(screen.left() + (screen.width() - kSize.width()) / 2,
+              screen.top() + screen.height() - kSize.height());
+  }
   // Only X11 can cut a window to its outline; elsewhere nothing is seen of what is not painted.
   form.setAttribute(Qt::WA_TranslucentBackground, QApplication::platformName() != "xcb");
   form.SSSplash1_ = new SplashPicture("SSSplash1", "hand", "hand_mask", kSize, &form);

@@ -1,5 +1,6 @@
 #include "tests/forms/place_checks.h"
 
+#include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QLabel>
 #include <QLayout>
@@ -157,6 +158,21 @@ void CheckWithin(const QWidget& widget, Findings& findings) {
   }
 }
 
+/// The hand has one size; of a screen that is too small for it the buttons have to be on it.
+Findings CheckButtonsOnScreen(const QWidget& hand, const QRect& available) {
+  Findings findings;
+  const bool fits = hand.size().boundedTo(available.size()) == hand.size();
+  for (const QAbstractButton* button : hand.findChildren<QAbstractButton*>()) {
+    // Where the window manager puts one that fits is its own affair.
+    if (fits || !button->isVisible()) continue;
+    const QRect place(button->mapToGlobal(QPoint()), button->size());
+    if (available.contains(place)) continue;
+    findings.push_back({NameOfControl(*button),
+                        "is not on the screen: " + Text(place) + " of " + Text(available)});
+  }
+  return findings;
+}
+
 }  // namespace
 
 QString NameOfControl(const QWidget& control) {
@@ -175,6 +191,8 @@ Findings CheckWindow(const QWidget& window, const QRect& available) {
       !window.windowFlags().testFlag(Qt::FramelessWindowHint) && window.windowType() != Qt::Popup;
   const QMargins frame = framed ? QMargins(kBorder, kTitleBar, kBorder, kBorder) : QMargins();
   const QRect place = window.geometry().marginsAdded(frame);
+  if (window.findChild<const SplashPicture*>() != nullptr)
+    return CheckButtonsOnScreen(window, available);
   // Where the window manager puts the others is its own affair.
   const bool fits = PlacesItself(window) ? available.contains(place)
                                          : place.size().boundedTo(available.size()) == place.size();

@@ -66,6 +66,22 @@ TEST_F(MainWindow, StartsWithTheEmptyJobUnchanged) {
   EXPECT_EQ(Module1.JobName.AsText(), "");
 }
 
+TEST_F(MainWindow, EveryButtonIsOnAScreenThatIsTooSmallForTheHand) {
+  // What is left of common screens at 200 %, a panel at the top of one.
+  for (const QRect& screen : {QRect(0, 0, 640, 360), QRect(0, 24, 512, 360)}) {
+    platform.SetAvailableArea(screen);
+    FrmHandMain window(MakeToolForm);
+    window.show();
+    window.Timer1_Timer();
+    for (const auto* button : window.findChildren<QAbstractButton*>()) {
+      if (!button->isVisible()) continue;
+      const QRect place(button->mapToGlobal(QPoint()), button->size());
+      EXPECT_TRUE(screen.contains(place)) << button->objectName().toStdString();
+    }
+    EXPECT_EQ(window.size(), QSize(306, 501));
+  }
+}
+
 TEST_F(MainWindow, OpeningPhaseShowsThePanelAndHidesEveryButton) {
   FrmHandMain window(MakeToolForm);
   ShowActive(window);
