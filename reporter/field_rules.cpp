@@ -48,11 +48,23 @@ std::vector<NumberField> Boxes() {
   return boxes;
 }
 
+/// The task whose fields stand for those of all.
+constexpr int kTask = 1;
+
+template <typename T>
+const void* PlaceOf(const T& field) {
+  return &field;
+}
+template <typename T>
+const void* PlaceOf(const TaskArray<T>& field) {
+  return &field.at(kTask);
+}
+
 /// Collects the names that fields at some places of a job have in the file.
 class BoxedFields {
  public:
   explicit BoxedFields(JobState& job) {
-    const auto placeOf = [&job](auto member) -> const void* { return PlaceIn(job.*member); };
+    const auto placeOf = [&job](auto member) -> const void* { return PlaceOf(job.*member); };
     for (const NumberField& box : Boxes()) places_.push_back(std::visit(placeOf, box));
     for (int slot = 0; slot < kCtdSlotCount; ++slot) {
       for (const CtdSlotBox& box : {kCtdLoad, kCtdDuration}) {
@@ -61,8 +73,6 @@ class BoxedFields {
     }
     VisitJobFields(job, *this);
   }
-
-  static constexpr int kTask = 1;
 
   void HeaderLine() {}
   template <typename... T>
@@ -73,15 +83,6 @@ class BoxedFields {
   [[nodiscard]] const std::vector<std::string_view>& names() const { return names_; }
 
  private:
-  template <typename T>
-  static const void* PlaceIn(const T& field) {
-    return &field;
-  }
-  template <typename T>
-  static const void* PlaceIn(const TaskArray<T>& field) {
-    return &field.at(kTask);
-  }
-
   void Collect(std::string_view name, const void* place) {
     if (std::ranges::count(places_, place) > 0) names_.push_back(name);
   }
@@ -94,7 +95,7 @@ const std::vector<std::string_view>& BoxedNames() {
   static const std::vector<std::string_view> names = [] {
     // The arrays of a job are sized in the one instance alone.
     JobState job = std::exchange(Module1, JobState{});
-    Module1.TaskCount = Integer{BoxedFields::kTask};
+    Module1.TaskCount = Integer{kTask};
     ResizeTaskArrays();
     std::swap(job, Module1);
     return BoxedFields(job).names();

@@ -24,7 +24,7 @@ WHEEL = 5
 MASKS = {1: "hand_mask.png", 2: "hand_mask@2x.png"}
 INTENSITY_30_TO_49_PERCENT = (87, 470)
 REPORT_TAB = (190, 42)
-OCRA_ADD_TASK = (86, 657)
+OCRA_ADD_TASK = (161, 543)
 OCRA_REPORT_TAB = (372, 72)
 CTD_REPORT_TAB = (572, 42)
 

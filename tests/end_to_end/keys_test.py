@@ -9,11 +9,11 @@ from desktop import wait_until
 from program import CTD, MAIN, MESSAGE, OCRA, REBA, RULA, SI, Job, Program, run, write_job
 
 OCRA_ANALYST = (207, 39)
-OCRA_ADD_TASK = (86, 657)
-OCRA_DURATION = (437, 271)
-OCRA_FREQUENCY = (799, 271)
+OCRA_ADD_TASK = (161, 543)
+OCRA_DURATION = (906, 257)
+OCRA_FREQUENCY = (906, 328)
 CTD_ADD_TASK = (51, 668)
-CTD_WORK_TIME = (1025, 162)
+CTD_WORK_TIME = (855, 162)
 FILE_MENU = (19, 9)
 SAVE_AS = (62, 76)
 

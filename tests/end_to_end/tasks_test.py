@@ -9,21 +9,21 @@ import time
 from desktop import WHEEL_DOWN, WHEEL_UP, wait_until
 from program import CTD, MESSAGE, OCRA, REBA, SI, Program, run
 
-OCRA_ADD_TASK = (86, 657)
-OCRA_DELETE_TASK = (198, 657)
-OCRA_EDIT_TASK = (311, 657)
-OCRA_FIRST_NODE = (80, 270)
+OCRA_ADD_TASK = (161, 543)
+OCRA_DELETE_TASK = (432, 543)
+OCRA_EDIT_TASK = (704, 543)
+OCRA_FIRST_NODE = (80, 257)
 NODE_HEIGHT = 18
-OCRA_DURATION = (437, 271)
-OCRA_RECOVERY = (700, 160)
-OCRA_RATING = (700, 340)
-OCRA_FREQUENCY = (799, 271)
-OCRA_SECOND_LIST = (278, 163)  # the first one has the focus when its tab opens
-OCRA_NINTH_LIST = (1007, 169)
+OCRA_DURATION = (906, 257)
+OCRA_RECOVERY = (700, 157)
+OCRA_RATING = (700, 608)
+OCRA_FREQUENCY = (906, 328)
+OCRA_SECOND_LIST = (274, 190)  # the first one has the focus when its tab opens
+OCRA_NINTH_LIST = (1000, 143)
 OCRA_ANALYST = (207, 39)
 CTD_ADD_TASK = (51, 668)
-CTD_JOB_NAME = (583, 88)
-REBA_LOAD = (590, 622)
+CTD_JOB_NAME = (583, 97)
+REBA_LOAD = (598, 630)
 
 # Longer than a click waits for a second one.
 RENAME_DELAY = 0.7

@@ -131,7 +131,6 @@ TEST_F(SpokenReportPane, TheCaretAndTheSelectionPassPicturesAtOneStep) {
 TEST_F(SpokenReportPane, NamesItsPicturesAndTellsWhereTheyAre) {
   ASSERT_EQ(face().childCount(), 2);
   const QRect paper(pane_.viewport()->mapToGlobal(QPoint(0, 0)), pane_.viewport()->size());
-  QRect before;
   for (const int i : {0, 1}) {
     QAccessibleInterface& picture = *face().child(i);
     EXPECT_EQ(picture.role(), QAccessible::Graphic);
