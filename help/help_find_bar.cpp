@@ -1,6 +1,5 @@
 #include "help/help_find_bar.h"
 
-#include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -8,19 +7,20 @@
 
 #include "help/help_browser.h"
 #include "widgets/layout.h"
+#include "widgets/wrap_row.h"
 
 namespace halvane {
 namespace {
 
 template <typename Handler>
-QToolButton* AddButton(QHBoxLayout& row, const QString& name, const QString& caption,
-                       HelpFindBar* bar, Handler handler) {
+QToolButton* AddButton(WrapRow& row, const QString& name, const QString& caption, HelpFindBar* bar,
+                       Handler handler) {
   auto* button = new QToolButton(bar);
   button->setObjectName(name);
   button->setText(caption);
   button->setFocusPolicy(Qt::StrongFocus);
   QObject::connect(button, &QToolButton::clicked, bar, handler);
-  row.addWidget(button);
+  row.Add(button, 0);
   return button;
 }
 
@@ -29,20 +29,19 @@ QToolButton* AddButton(QHBoxLayout& row, const QString& name, const QString& cap
 HelpFindBar::HelpFindBar(HelpBrowser& page, QWidget* parent)
     : QWidget(parent), page_(page), text_(new QLineEdit(this)), result_(new QLabel(this)) {
   setObjectName("HelpFindBar");
-  auto* row = new QHBoxLayout(this);
-  row->setContentsMargins(kMargin, kGap / 2, kMargin, kGap / 2);
-  row->setSpacing(kGap);
+  setContentsMargins(kMargin, kGap / 2, kMargin, kGap / 2);
+  auto* row = new WrapRow(2, this);
   auto* label = new QLabel(tr("F&ind:"), this);
   label->setBuddy(text_);
   text_->setObjectName("HelpFindText");
   text_->setAccessibleName(tr("Text to find in this page"));
   text_->setClearButtonEnabled(true);
   result_->setObjectName("HelpFindResult");
-  row->addWidget(label);
-  row->addWidget(text_, 1);
+  row->Add(label, 0);
+  row->Add(text_, 1);
   AddButton(*row, "HelpFindNext", tr("Next"), this, &HelpFindBar::FindNext);
   AddButton(*row, "HelpFindPrevious", tr("Previous"), this, &HelpFindBar::FindPrevious);
-  row->addWidget(result_, 1);
+  row->Add(result_, 1);
   AddButton(*row, "HelpFindClose", tr("Close"), this, &HelpFindBar::Close);
   connect(text_, &QLineEdit::textEdited, this, &HelpFindBar::FindWhileTyping);
   hide();

@@ -5,6 +5,8 @@
 #include <QIcon>
 #include <QLabel>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -24,7 +26,9 @@ constexpr double kTitleShare = 1.6;
 /// A line of the longer texts, in letters of a usual width; less on a narrow screen.
 constexpr int kLineLetters = 44;
 /// What stands beside those texts.
-constexpr int kBeside = 140;
+constexpr int kBeside = 160;
+/// Frame, margins and buttons above and below them.
+constexpr int kAround = 160;
 constexpr int kLargeIcon = 64;
 constexpr int kSmallIcon = 24;
 
@@ -67,6 +71,32 @@ void AddNotice(QBoxLayout& column, const QString& name, const QString& text) {
   column.addWidget(notice);
 }
 
+/// What is told, which scrolls on a screen that is too low for it.
+class NoticeArea : public QScrollArea {
+ public:
+  explicit NoticeArea(QWidget* texts) {
+    setFrameShape(QFrame::NoFrame);
+    setWidgetResizable(true);
+    setWidget(texts);
+  }
+
+  [[nodiscard]] QSize minimumSizeHint() const override {
+    const QSize size = widget()->minimumSizeHint();
+    const QRect screen = ThePlatform().AvailableArea(window()->geometry().center());
+    const int room = screen.height() - kAround;
+    if (size.height() <= room) return size;
+    return {size.width() + verticalScrollBar()->sizeHint().width(), room};
+  }
+  [[nodiscard]] QSize sizeHint() const override { return minimumSizeHint(); }
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override {
+    QScrollArea::resizeEvent(event);
+    const bool scrolls = widget()->minimumSizeHint().height() > viewport()->height();
+    setFocusPolicy(scrolls ? Qt::StrongFocus : Qt::NoFocus);
+  }
+};
+
 QLabel* MakeIcon(const QString& name, int size) {
   auto* label = new QLabel;
   label->setObjectName(name);
@@ -87,8 +117,10 @@ FrmAbout::FrmAbout(QWidget* parent) : QDialog(parent) {
   grid->setVerticalSpacing(kGap);
   grid->addWidget(MakeIcon("picIcon", kLargeIcon), 0, 0, Qt::AlignTop);
 
-  auto* names = new QVBoxLayout;
-  grid->addLayout(names, 0, 1);
+  auto* texts = new QWidget;
+  auto* names = new QVBoxLayout(texts);
+  names->setContentsMargins(0, 0, 0, 0);
+  grid->addWidget(new NoticeArea(texts), 0, 1);
   names->setSpacing(kGap / 2);
   auto* series = new QHBoxLayout;
   series->setSpacing(kGap);

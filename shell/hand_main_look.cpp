@@ -29,7 +29,7 @@ constexpr QSize kSize{306, 501};
 constexpr QRect kTitleStrip{78, 206, 200, 28};
 constexpr QRect kPalm{78, 240, 200, 200};
 constexpr QRect kLaunchButtons{78, 240, 200, 165};
-constexpr QRect kRibbons{100, 410, 156, 62};
+constexpr QRect kRibbons{100, 410, 156, 63};
 constexpr int kStripButton = 20;
 constexpr int kStripPicture = 16;
 constexpr int kStripGap = 4;
@@ -43,6 +43,7 @@ constexpr int kLargestLine = 34;
 constexpr int kCaptionMargin = 8;
 /// Above and below the caption of a launch button.
 constexpr int kButtonEdges = 6;
+
 QFont Bold(QFont font) {
   font.setBold(true);
   return font;

@@ -8,6 +8,7 @@ namespace halvane {
 namespace {
 
 constexpr int kSides = 16;
+constexpr int kEdges = 6;
 
 }  // namespace
 
@@ -18,7 +19,7 @@ RaisedButton::RaisedButton(const QString& name, QWidget* parent) : QPushButton(p
 
 QSize RaisedButton::sizeHint() const {
   if (text().isEmpty()) return iconSize();
-  return fontMetrics().size(Qt::TextSingleLine, text()) + QSize(kSides, kSides / 2);
+  return fontMetrics().size(Qt::TextSingleLine, text()) + QSize(kSides, kEdges);
 }
 
 void RaisedButton::paintEvent(QPaintEvent* /*event*/) {

@@ -2,6 +2,7 @@
 
 #include <QPainter>
 #include <QStyleOption>
+#include <array>
 
 #include "widgets/contrast.h"
 
@@ -21,11 +22,14 @@ struct Pair {
 
 /// Where the text gives way. A selection's ground does, so that its text stays the one that a
 /// picture or a tint on it has been chosen for.
-constexpr Pair kTexts[] = {
-    {QPalette::WindowText, QPalette::Window},       {QPalette::Text, QPalette::Base},
-    {QPalette::ButtonText, QPalette::Button},       {QPalette::Link, QPalette::Base},
-    {QPalette::LinkVisited, QPalette::Base},        {QPalette::PlaceholderText, QPalette::Base},
-    {QPalette::ToolTipText, QPalette::ToolTipBase},
+constexpr std::array kTexts{
+    Pair{QPalette::WindowText, QPalette::Window},
+    Pair{QPalette::Text, QPalette::Base},
+    Pair{QPalette::ButtonText, QPalette::Button},
+    Pair{QPalette::Link, QPalette::Base},
+    Pair{QPalette::LinkVisited, QPalette::Base},
+    Pair{QPalette::PlaceholderText, QPalette::Base},
+    Pair{QPalette::ToolTipText, QPalette::ToolTipBase},
 };
 
 QColor Mixed(const QColor& color, const QColor& ground) {

@@ -1,5 +1,7 @@
 #include "widgets/readout.h"
 
+#include <utility>
+
 #include "widgets/font_share.h"
 #include "widgets/layout.h"
 
@@ -10,7 +12,7 @@ constexpr double kShare = 1.8;
 
 }  // namespace
 
-Readout::Readout(const QString& widest, QWidget* parent) : QLabel(parent), widest_(widest) {
+Readout::Readout(QString widest, QWidget* parent) : QLabel(parent), widest_(std::move(widest)) {
   QFont bold = font();
   bold.setBold(true);
   setFont(bold);

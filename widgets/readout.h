@@ -8,7 +8,7 @@ namespace halvane {
 class Readout : public QLabel {
   Q_OBJECT
  public:
-  Readout(const QString& widest, QWidget* parent);
+  Readout(QString widest, QWidget* parent);
 
   [[nodiscard]] QSize sizeHint() const override;
   [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }

@@ -22,8 +22,9 @@ namespace {
 
 /// A title has so much beside it: icon and buttons.
 constexpr int kBesideTitle = 120;
-/// A report narrower than this cannot be read.
+/// A report narrower than this cannot be read, where the window has the room.
 constexpr int kLeastColumns = 40;
+constexpr double kLeastShare = 0.5;
 
 QString Text(const QSize& size) { return QString("%1x%2").arg(size.width()).arg(size.height()); }
 
@@ -86,7 +87,8 @@ Findings CheckInside(const QWidget& control) {
 /// The least size of a control in the width that it has.
 QSize Needed(const QWidget& control) {
   if (const auto* document = qobject_cast<const QTextEdit*>(&control)) {
-    return {kLeastColumns * document->fontMetrics().averageCharWidth(), 0};
+    const int columns = kLeastColumns * document->fontMetrics().averageCharWidth();
+    return {std::min(columns, qRound(kLeastShare * document->window()->width())), 0};
   }
   QSize needed = control.minimumSizeHint();
   if (control.hasHeightForWidth()) needed.setHeight(control.heightForWidth(control.width()));

@@ -190,7 +190,9 @@ Findings CheckEntries(const QComboBox& list) {
                                                    QStyle::SC_ComboBoxEditField, &list);
   Findings findings;
   for (int i = 0; i < list.count(); ++i) {
-    const int needed = list.fontMetrics().horizontalAdvance(list.itemText(i));
+    // Blanks at its end may go.
+    const QString entry = QString(list.itemText(i)).trimmed();
+    const int needed = list.fontMetrics().horizontalAdvance(entry);
     if (needed <= field.width()) continue;
     findings.push_back({NameOfControl(list), QString("cuts its entry \"%1\": %2 wide for %3")
                                                  .arg(list.itemText(i))

@@ -134,8 +134,8 @@ TEST_F(Fonts, AReadoutHasRoomForTheWidestNumberInEach) {
 TEST_F(Fonts, AWindowGrowsWithItsControlsAndKeepsToTheScreen) {
   SetPoints(9);
   platform.SetAvailableArea({0, 0, 800, 600});
-  QWidget window;
   LastPlace last;
+  QWidget window;
   new WindowPlace(
       window, {300, 200},
       [&window] {
