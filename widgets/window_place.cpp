@@ -33,10 +33,11 @@ QPoint NearOwner(const QWidget& window) {
 /// Has every layout in a window ask its controls anew, the innermost first: a page that is not on
 /// view would do it when it is.
 void LayOutAnew(const QWidget& window) {
-  const QList<QWidget*> controls = window.findChildren<QWidget*>();
-  for (auto control = controls.rbegin(); control != controls.rend(); ++control) {
-    if ((*control)->layout() != nullptr) (*control)->layout()->invalidate();
-    (*control)->updateGeometry();
+  QList<QWidget*> controls = window.findChildren<QWidget*>();
+  std::reverse(controls.begin(), controls.end());
+  for (QWidget* control : controls) {
+    if (control->layout() != nullptr) control->layout()->invalidate();
+    control->updateGeometry();
   }
 }
 
