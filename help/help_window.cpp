@@ -7,6 +7,7 @@
 #include <QToolBar>
 #include <QToolButton>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "core/silently.h"
 #include "help/help_browser.h"
@@ -23,6 +24,8 @@ namespace {
 constexpr auto kTitle = "Halvane Tools Help";
 constexpr QSize kDefaultSize{1120, 700};
 constexpr int kTreeWidth = 280;
+/// A narrower page is hard to read; the contents give way to it.
+constexpr int kLeastColumns = 40;
 constexpr int kPlainZoom = 100;
 
 /// The file's own title, told apart from those of the program's other windows.
@@ -69,6 +72,12 @@ HelpWindow::HelpWindow(LastPlace& lastPlace) : pages_(nullptr) {
 HelpWindow::~HelpWindow() {
   // The pane goes after the pages that it shows.
   page_->SetPages(nullptr);
+}
+
+void HelpWindow::resizeEvent(QResizeEvent* event) {
+  QMainWindow::resizeEvent(event);
+  const int columns = kLeastColumns * page_->fontMetrics().averageCharWidth();
+  page_->setMinimumWidth(std::min(columns, (width() + 1) / 2));
 }
 
 template <typename Handler>

@@ -30,6 +30,9 @@ class HelpWindow : public QMainWindow {
   /// Shows the contents of a help file, and its first page where none of it is on view.
   void ShowContents(const QString& file);
 
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+
  private:
   void MakeCommands();
   template <typename Handler>

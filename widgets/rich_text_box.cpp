@@ -79,6 +79,18 @@ void RichTextBox::OpenToTyping() {
   setUndoRedoEnabled(true);
 }
 
+void RichTextBox::SetLeast(int columns, int lines) {
+  leastColumns_ = columns;
+  leastLines_ = lines;
+  updateGeometry();
+}
+
+QSize RichTextBox::minimumSizeHint() const {
+  const QFontMetrics letters = fontMetrics();
+  return QTextEdit::minimumSizeHint().expandedTo(
+      {leastColumns_ * letters.averageCharWidth(), leastLines_ * letters.lineSpacing()});
+}
+
 void RichTextBox::ShowReport(const RichText& report) {
   // A report is nothing that the user could undo.
   setUndoRedoEnabled(false);

@@ -22,6 +22,10 @@ class RichTextBox : public QTextEdit {
   /// Opens the pane to typing; what is typed stands until the next report.
   void OpenToTyping();
 
+  /// Room for so many letters in a line and so many lines of the text, in any font.
+  void SetLeast(int columns, int lines);
+  [[nodiscard]] QSize minimumSizeHint() const override;
+
   /// Shows `report` with the caret at its start.
   void ShowReport(const RichText& report);
 
@@ -48,6 +52,8 @@ class RichTextBox : public QTextEdit {
   void ForgetNotes();
   void TellNews();
 
+  int leastColumns_ = 0;
+  int leastLines_ = 0;
   std::vector<ReportNote*> pictures_;
   ReportNote* news_ = nullptr;
   QTimer newsDelay_;

@@ -185,6 +185,12 @@ const WrapRow::Line* WrapRow::HighestShare(const std::vector<Line>& lines) {
   return best;
 }
 
+int WrapRow::GapFor(int lines, int missing) const {
+  if (missing <= 0 || lines < 2) return spacing();
+  const int gaps = lines - 1;
+  return std::max(0, spacing() - (missing + gaps - 1) / gaps);
+}
+
 void WrapRow::setGeometry(const QRect& place) {
   QLayout::setGeometry(place);
   const QRect inside = place.marginsRemoved(contentsMargins());
@@ -193,6 +199,7 @@ void WrapRow::setGeometry(const QRect& place) {
   const int needed = heightForWidth(place.width()) - Margins().height();
   int top = inside.top();
   const int rest = std::max(0, inside.height() - needed);
+  const int gap = GapFor(static_cast<int>(lines.size()), needed - inside.height());
   const Line* growing = HighestShare(lines);
   for (const Line& line : lines) {
     Level level;
@@ -212,7 +219,7 @@ void WrapRow::setGeometry(const QRect& place) {
       }
       left += widths[i] + spacing();
     }
-    top += height + spacing();
+    top += height + gap;
   }
 }
 

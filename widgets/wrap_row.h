@@ -45,6 +45,8 @@ class WrapRow : public QLayout {
   [[nodiscard]] std::vector<int> WidthsFor(const std::vector<Line>& lines, int width) const;
   /// The line that gets the height that is left over; null: none can use it.
   static const Line* HighestShare(const std::vector<Line>& lines);
+  /// Between lines; where height is missing they move together before one of them is cut.
+  [[nodiscard]] int GapFor(int lines, int missing) const;
   [[nodiscard]] QSize Margins() const;
 
   int columns_;

@@ -180,6 +180,18 @@ TEST_F(HalScreen, ReportStandsBesideTheInputsOrBelowThemWhereThatDoesNotFit) {
   EXPECT_GE(Level().width(), 300);
 }
 
+TEST_F(HalScreen, ReportHasRoomForItsColumnsWithALargeFont) {
+  platform.SetAvailableArea({0, 0, 1920, 1080});
+  const QFont usual = QApplication::font();
+  QFont large = usual;
+  large.setPointSize(20);
+  QApplication::setFont(large);
+  Open();
+  QCoreApplication::processEvents();
+  EXPECT_GE(Pane().width(), 55 * QFontMetrics(large).averageCharWidth());
+  QApplication::setFont(usual);
+}
+
 TEST_F(HalLoad, NewJobStandsAtZeroAndStaysClean) {
   Open();
   EXPECT_EQ(Shown(), "0|0|0|0|5.33|8.00");

@@ -264,6 +264,10 @@ TEST_F(LookChecks, FindAPictureWithAPartThatIsLost) {
   ribbon.SetPicture("ctd/deviation_neutral", 112);
   Show();
   EXPECT_EQ(Told(CheckPictures(window)), QStringList());
+  // The tint of a range that is open at one side fades out.
+  ribbon.SetPicture("reba/ssribbon4_1", 112);
+  EXPECT_EQ(Told(CheckPictures(window)), QStringList());
+  ribbon.SetPicture("ctd/deviation_neutral", 112);
   // The inks are for light grounds and for dark ones.
   QPalette grey;
   grey.setColor(QPalette::Button, QColor(150, 150, 150));

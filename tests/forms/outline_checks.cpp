@@ -151,12 +151,44 @@ QImage PictureOf(QAbstractButton& button) {
   return image.copy(image.rect().adjusted(edge, edge, -edge, -edge));
 }
 
-/// Tints that repeat what lines around or beside them show.
-bool IsTint(QRgb color) {
+/// The colour of a picture that covers most of it: what the figure stands on.
+QColor GroundOf(const QImage& picture) {
+  std::map<QRgb, int> counts;
+  for (int y = 0; y < picture.height(); ++y) {
+    for (int x = 0; x < picture.width(); ++x) ++counts[picture.pixel(x, y)];
+  }
+  const auto most =
+      std::max_element(counts.begin(), counts.end(),
+                       [](const auto& a, const auto& b) { return a.second < b.second; });
+  return QColor::fromRgb(most->first);
+}
+
+/// Whether a colour is `tint` at any strength before `ground`.
+bool IsStrengthOf(const QColor& tint, const QColor& ground, const QColor& color) {
+  constexpr int kRounding = 2;
+  const auto at = [&](int from, int to, double strength) {
+    return qRound(from + strength * (to - from));
+  };
+  for (int percent = 1; percent <= 100; ++percent) {
+    const double strength = percent / 100.0;
+    if (std::abs(color.red() - at(ground.red(), tint.red(), strength)) <= kRounding &&
+        std::abs(color.green() - at(ground.green(), tint.green(), strength)) <= kRounding &&
+        std::abs(color.blue() - at(ground.blue(), tint.blue(), strength)) <= kRounding) {
+      return true;
+    }
+  }
+  return false;
+}
+
+/// Tints that repeat what lines around or beside them show. That of an open range fades out.
+bool IsTint(QRgb color, const QColor& ground) {
+  const QColor shown = QColor::fromRgb(color);
+  if (shown == ground) return false;
   const auto inks = PictureInks();
-  return std::any_of(inks.begin(), inks.end(), [color](const PictureInk& ink) {
+  return std::any_of(inks.begin(), inks.end(), [&](const PictureInk& ink) {
     const bool isTint = QString(ink.name) == "range" || QString(ink.name) == "object";
-    return isTint && (color == QColor(ink.onLight).rgb() || color == QColor(ink.onDark).rgb());
+    return isTint && (IsStrengthOf(QColor(ink.onLight), ground, shown) ||
+                      IsStrengthOf(QColor(ink.onDark), ground, shown));
   });
 }
 
@@ -178,12 +210,13 @@ Findings CheckPictures(QWidget& window) {
   for (auto* button : window.findChildren<RibbonButton*>()) {
     if (!button->isVisible() || !button->isEnabled() || button->icon().isNull()) continue;
     const QImage picture = PictureOf(*button);
+    const QColor ground = GroundOf(picture);
     for (const auto& [colors, length] : BordersOf(picture, PartsOf(picture))) {
       const QColor one = QColor::fromRgb(colors.first);
       const QColor other = QColor::fromRgb(colors.second);
       const double contrast = Contrast(one, other);
       if (length < kLeastBorder || contrast >= kPartContrast) continue;
-      if (IsTint(colors.first) || IsTint(colors.second)) continue;
+      if (IsTint(colors.first, ground) || IsTint(colors.second, ground)) continue;
       // Where a picture fills its plate, it touches what is around that.
       const QRgb around = button->palette().color(QPalette::Highlight).rgb();
       if (colors.first == around || colors.second == around) continue;

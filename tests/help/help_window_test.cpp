@@ -11,6 +11,7 @@
 #include <QToolButton>
 #include <QTreeWidgetItemIterator>
 #include <QWheelEvent>
+#include <algorithm>
 
 #include "help/help_commands.h"
 #include "help/help_viewer.h"
@@ -63,6 +64,15 @@ TEST_F(HelpViewing, AMinimisedWindowComesBack) {
   Show("home.htm");
   EXPECT_FALSE(window().isMinimized());
   EXPECT_TRUE(window().isVisible());
+}
+
+TEST_F(HelpViewing, InANarrowWindowTheContentsGiveWayToThePage) {
+  platform.SetAvailableArea({0, 0, 440, 384});
+  Show("home.htm");
+  EXPECT_LE(window().width(), 440);
+  const int columns = 40 * page().fontMetrics().averageCharWidth();
+  EXPECT_GE(page().width(), std::min(columns, window().width() / 2));
+  EXPECT_GT(tree().width(), 100);
 }
 
 TEST_F(HelpViewing, TheTreeFollowsThePageAndItsAnchor) {

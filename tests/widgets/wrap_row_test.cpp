@@ -75,6 +75,17 @@ TEST_F(Lines, StandOneUnderAnotherWhereItIsNot) {
   EXPECT_GE(captions[1]->width(), captions[1]->minimumSizeHint().width());
 }
 
+TEST_F(Lines, MoveTogetherBeforeOneOfThemIsCut) {
+  const int width = row->RowWidth() - 1;
+  const int needed = row->heightForWidth(width);
+  // The row asks for no more than one line's height, so a window may give it less.
+  window.resize(width, needed - 3);
+  ShowActive(window);
+  EXPECT_EQ(boxes[1]->y() - boxes[0]->geometry().bottom() - 1, row->spacing() - 3);
+  EXPECT_EQ(boxes[0]->height(), boxes[0]->sizeHint().height());
+  EXPECT_TRUE(window.rect().contains(boxes[1]->geometry()));
+}
+
 TEST_F(Lines, NeedNoMoreThanTheWidestLine) {
   ShowAt(row->minimumSize().width());
   EXPECT_LT(window.width(), row->RowWidth());

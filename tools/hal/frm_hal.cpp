@@ -36,7 +36,8 @@ constexpr IdentificationNames kNames{
 constexpr int kInputsShare = 5;
 constexpr int kReportShare = 6;
 /// Room for the headings of the report, and for some lines of it where it stands below the inputs.
-constexpr QSize kLeastReport{380, 240};
+constexpr int kReportColumns = 55;
+constexpr int kReportLines = 14;
 constexpr int kLevelPage = 2;
 constexpr int kDutyPage = 5;
 constexpr double kNoteShare = 0.9;
@@ -79,7 +80,7 @@ QWidget* FrmHAL::MakePage() {
   auto* parts = new QWidget(page);
   auto* row = new WrapRow(1, parts);
   row->Add(MakeInputs(), kInputsShare);
-  RichTextBox1().setMinimumSize(kLeastReport);
+  RichTextBox1().SetLeast(kReportColumns, kReportLines);
   row->Add(&RichTextBox1(), kReportShare);
   column->addWidget(parts, 1);
   return page;
