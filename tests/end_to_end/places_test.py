@@ -14,12 +14,13 @@ SMALL = {"small": (1024, 768), "flat": (1280, 720), "smallest": (800, 600)}
 
 
 def measure(desktop, window):
-    """(x, y, width, height) of a window on the screen, and the same with its frame."""
+    """(x, y, width, height) of a window on the screen, and the same with its frame; None once it is gone."""
     said = desktop.output("xwininfo", "-id", window)
-    x, y, width, height = (
-        int(re.search(rf"{name}:\s+(-?\d+)", said).group(1))
-        for name in ("Absolute upper-left X", "Absolute upper-left Y", "Width", "Height")
-    )
+    names = ("Absolute upper-left X", "Absolute upper-left Y", "Width", "Height")
+    found = [re.search(rf"{name}:\s+(-?\d+)", said) for name in names]
+    if not all(found):
+        return None
+    x, y, width, height = (int(match.group(1)) for match in found)
     borders = re.findall(r"\d+", desktop.output("xprop", "-id", window, "_NET_FRAME_EXTENTS").split("=")[-1])
     left, right, top, bottom = map(int, borders)
     return (x, y, width, height), (x - left, y - top, width + left + right, height + top + bottom)
@@ -35,6 +36,20 @@ def settled(desktop, window):
 
     wait_until(at_rest, "a window at rest")
     return seen[-1]
+
+
+def settled_again(desktop, title):
+    """The window with this title, which New and Open put in place of the one before, and its measures."""
+    seen = []
+
+    def at_rest():
+        active = desktop.active(title)
+        seen.append((active, active and measure(desktop, active[1])))
+        return len(seen) >= SETTLED and seen[-1][1] and len(set(seen[-SETTLED:])) == 1
+
+    wait_until(at_rest, f"the window '{title}' at rest")
+    (_, window), measures = seen[-1]
+    return window, measures
 
 
 def assert_on_screen(desktop, title, framed):
@@ -99,8 +114,7 @@ def reopened(desktop, program):
             desktop.window(MESSAGE)
             desktop.keys("n")
             desktop.gone(MESSAGE)
-            window = desktop.window(RULA.title)
-            again = settled(desktop, window)[0]
+            window, (again, _) = settled_again(desktop, RULA.title)
             assert again == before, f"after New at {again} and not at {before}"
         saved = os.path.join(desktop.folder, f"moved by {by[0]}.qjt")
         run_.save_as(saved)
@@ -115,8 +129,7 @@ def reopened(desktop, program):
             desktop.type(saved)
             desktop.keys("Return")
             desktop.gone("Open")
-            window = desktop.window(RULA.title)
-            again = settled(desktop, window)[0]
+            window, (again, _) = settled_again(desktop, RULA.title)
             assert again == before, f"after Open at {again} and not at {before}"
     run_.leave()
     assert desktop.window(MAIN)
