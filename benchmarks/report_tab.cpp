@@ -9,6 +9,7 @@
 
 #include "app/tool_forms.h"
 #include "benchmarks/benchmark_jobs.h"
+#include "benchmarks/paint_watch.h"
 #include "shell/halvane_application.h"
 #include "shell/tool_form.h"
 #include "tools/tool_table.h"
@@ -20,28 +21,6 @@ namespace {
 constexpr int kTasks = 40;
 constexpr int kWarmUp = 3;
 constexpr int kTurns = 41;
-
-/// Tells when a widget has been painted.
-class PaintWatch : public QObject {
- public:
-  explicit PaintWatch(QWidget& widget) { widget.installEventFilter(this); }
-
-  void WaitForPaint() {
-    painted_ = false;
-    while (!painted_) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-    // What is painted reaches the screen at the end of the turn.
-    QCoreApplication::processEvents();
-  }
-
- protected:
-  bool eventFilter(QObject* watched, QEvent* event) override {
-    if (event->type() == QEvent::Paint) painted_ = true;
-    return QObject::eventFilter(watched, event);
-  }
-
- private:
-  bool painted_ = false;
-};
 
 void Click(QTabBar& bar, int tab) {
   const QPointF place = bar.tabRect(tab).center();

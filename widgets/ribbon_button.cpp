@@ -5,6 +5,7 @@
 #include <QPalette>
 #include <algorithm>
 
+#include "widgets/late_icon.h"
 #include "widgets/picture_inks.h"
 
 namespace halvane {
@@ -37,7 +38,7 @@ RibbonButton::RibbonButton(const QString& name, const QString& caption, QWidget*
 
 void RibbonButton::SetPicture(const QString& assetName, int size) {
   picture_ = assetName;
-  setIcon(QIcon(":/assets/" + assetName + ".svg"));
+  setIcon(LateIcon(":/assets/" + assetName + ".svg"));
   setIconSize({size, size});
   measured_ = {};
   setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
@@ -107,9 +108,7 @@ int RibbonButton::PictureRoom() const {
 
 int RibbonButton::LeastWidth() const {
   const int caption = CaptionWidth();
-  const QRect box =
-      fontMetrics().boundingRect(0, 0, caption, QWIDGETSIZE_MAX, CaptionFlags(), ShownText());
-  return std::max({caption, box.width(), PictureRoom()}) + 2 * SideRoom();
+  return std::max({caption, CaptionSize(caption).width(), PictureRoom()}) + 2 * SideRoom();
 }
 
 QSize RibbonButton::CaptionSize(int width) const {

@@ -42,7 +42,7 @@ bool RibbonPage::event(QEvent* event) {
   const bool handled = QWidget::event(event);
   // Measuring asks for a new layout itself, which changes nothing.
   const bool mayChange = event->type() == QEvent::LayoutRequest && isVisible();
-  if (mayChange && Measure(width()) != NeedWith(size_, width())) FitAnew();
+  if (mayChange && Measure(width()) != fitted_) FitAnew();
   return handled;
 }
 
@@ -72,14 +72,16 @@ void RibbonPage::Fit() {
   int size = size_;
   while (size < RibbonButton::kLargestPicture && HasRoomFor(size + kStep)) size += kStep;
   while (size > RibbonButton::kLeastPicture && !HasRoomFor(size)) size -= kStep;
-  if (size == size_) return;
-  size_ = size;
-  SetPictures(size);
-  if (layout() != nullptr) layout()->activate();
+  if (size != size_) {
+    size_ = size;
+    SetPictures(size);
+    if (layout() != nullptr) layout()->activate();
+  }
+  fitted_ = Measure(width());
 }
 
 bool RibbonPage::HasRoomFor(int size) const {
-  const Need& need = NeedWith(size, width());
+  const Need need = NeedWith(size, width());
   return need.least.width() <= width() && need.height <= height();
 }
 
@@ -97,7 +99,9 @@ RibbonPage::Need RibbonPage::Measure(int width) const {
   return {least, wraps ? layout()->totalMinimumHeightForWidth(width) : least.height()};
 }
 
-const RibbonPage::Need& RibbonPage::NeedWith(int size, int width) const {
+RibbonPage::Need RibbonPage::NeedWith(int size, int width) const {
+  // The layout itself knows it, and what changes on a page.
+  if (size == size_) return Measure(width);
   // A hidden page is not told of what changes on it.
   if (!isVisible()) needs_.clear();
   const auto key = std::pair(size, width);

@@ -40,9 +40,10 @@ class RibbonPage : public QWidget {
   /// What the page needs as it is.
   [[nodiscard]] Need Measure(int width) const;
   /// What it needs with pictures of a size; known until something changes.
-  [[nodiscard]] const Need& NeedWith(int size, int width) const;
+  [[nodiscard]] Need NeedWith(int size, int width) const;
 
   int size_;
+  Need fitted_;  ///< with the pictures that it has, when they were chosen
   mutable std::map<std::pair<int, int>, Need> needs_;  ///< by size of the pictures and width
 };
 

@@ -19,9 +19,17 @@ int HeightOfLines(int lines, const QFontMetrics& font) {
 
 int WidthForLines(const QString& text, int lines, const QFontMetrics& font) {
   const int height = HeightOfLines(lines, font);
+  const auto isHigher = [&](int width) { return BoxOf(text, width, font).height() > height; };
   int width = BoxOf(text, 0, font).width();  // of the widest word
-  while (BoxOf(text, width, font).height() > height) ++width;
-  return width;
+  if (!isHigher(width)) return width;
+  // A wider text is never higher.
+  int enough = 2 * width;
+  while (isHigher(enough)) enough *= 2;
+  while (enough - width > 1) {
+    const int middle = (width + enough) / 2;
+    (isHigher(middle) ? width : enough) = middle;
+  }
+  return enough;
 }
 
 }  // namespace halvane

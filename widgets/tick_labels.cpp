@@ -30,9 +30,16 @@ void TickLabels::StretchWords(int position) {
 }
 
 QSize TickLabels::WordsSize(int position) const {
-  const QString& text = words_[position];
-  const int width = WidthForLines(text, kMostLines, fontMetrics());
-  return fontMetrics().boundingRect(0, 0, width, QWIDGETSIZE_MAX, Qt::TextWordWrap, text).size();
+  if (measured_.sizes.empty() || measured_.font != font()) {
+    measured_ = {font(), std::vector<QSize>(static_cast<std::size_t>(words_.size()))};
+  }
+  QSize& size = measured_.sizes[static_cast<std::size_t>(position)];
+  if (size.isEmpty()) {
+    const QString& text = words_[position];
+    const int width = WidthForLines(text, kMostLines, fontMetrics());
+    size = fontMetrics().boundingRect(0, 0, width, QWIDGETSIZE_MAX, Qt::TextWordWrap, text).size();
+  }
+  return size;
 }
 
 int TickLabels::Inset() const {

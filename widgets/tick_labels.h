@@ -48,6 +48,12 @@ class TickLabels : public QWidget {
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  /// What the words need in a font; a layout asks for it many times.
+  struct Measured {
+    QFont font;
+    std::vector<QSize> sizes{};  ///< empty: not yet known
+  };
+
   [[nodiscard]] int Inset() const;
   [[nodiscard]] QSize WordsSize(int position) const;
   [[nodiscard]] int Last() const { return static_cast<int>(numbers_.size()) - 1; }
@@ -55,6 +61,7 @@ class TickLabels : public QWidget {
   QStringList numbers_;
   QStringList words_;
   int stretched_ = -1;
+  mutable Measured measured_;
 };
 
 }  // namespace halvane

@@ -55,7 +55,7 @@ class NameEditing : public QStyledItemDelegate {
 
 }  // namespace
 
-TaskTree::TaskTree(QWidget* parent) : QTreeWidget(parent) {
+TaskTree::TaskTree(QWidget* parent) : QTreeWidget(parent), icon_(":/assets/ctd/task.svg") {
   setObjectName("TreeView1");
   setAccessibleName(tr("Tasks"));
   SetUpFocusFrame(*this);
@@ -64,6 +64,8 @@ TaskTree::TaskTree(QWidget* parent) : QTreeWidget(parent) {
   setColumnCount(1);
   setEditTriggers(QAbstractItemView::EditKeyPressed);
   setTabKeyNavigation(false);
+  // Of a long list only what is in view is measured.
+  setUniformRowHeights(true);
   // The wheel scrolls and leaves the focus where it is.
   setFocusPolicy(Qt::StrongFocus);
   setItemDelegate(new NameEditing(this));
@@ -93,7 +95,7 @@ void TaskTree::AddNode(int task) {
   auto* node = new QTreeWidgetItem(this);
   node->setText(0, QString::fromStdString(Module1.TaskNames.at(task)));
   node->setData(0, kKeyRole, QString::fromStdString(TaskKey(task)));
-  node->setIcon(0, QIcon(":/assets/ctd/task.svg"));
+  node->setIcon(0, icon_);
   node->setFlags(node->flags() | Qt::ItemIsEditable);
   SpeakHint();
 }

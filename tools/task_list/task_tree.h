@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QIcon>
 #include <QTimer>
 #include <QTreeWidget>
 
@@ -59,6 +60,7 @@ class TaskTree : public QTreeWidget {
   void SpeakHint();
   [[nodiscard]] static int TaskOf(const QTreeWidgetItem& node);
 
+  QIcon icon_;  ///< of all nodes
   // A click on the selected node starts to edit its name once it can be no double click any more,
   // if nothing has changed until then. The toolkit's own way would open the editor whatever the
   // user has gone on to do, and put the next keys into it.
