@@ -271,9 +271,10 @@ def measure_windows(build, table):
         for key, name in (*TOOLS, ("hal", "Hand Activity Level")):
             opening = [build / "benchmarks/tool_opening", key]
             output = wall_time(opening, env=environment, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL)[1]
-            first, median, _ = map(float, output.split())
+            first, later, _, step, _ = map(float, output.split())
             table.add(f"{name}, processor time of the first opening", first, "two frames", 2 * FRAME, goal=1)
-            table.add(f"{name}, of a later one", median, "12 ms", 0.012, goal=1)
+            table.add(f"{name}, of a later one", later, "12 ms", 0.012, goal=1)
+            table.add(f"{name}, of a step of the window's edge", step, "a frame of 60 Hz", FRAME, goal=1)
         ours, empty = alternating(lambda: run("main_window"), lambda: run("empty_window"))
     (our_time, our_peak), (empty_time, empty_peak) = (
         [statistics.median(column) for column in zip(*results)] for results in (ours, empty)
