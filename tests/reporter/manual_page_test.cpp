@@ -48,7 +48,7 @@ TEST(ManualPage, ExampleOfABatchEngineSumsUpEveryJobInOrder) {
   const bool isThere =
       RunProgram("sh", {"-c", "parallel --version | grep -q 'GNU parallel'"}).status == 0;
   if (!isThere) GTEST_SKIP() << "there is no GNU parallel";
-  const std::string command = ExampleWith("parallel --pipe");
+  const std::string command = ExampleWith("parallel --pipe -N 500 --keep-order halvane-report");
   const TemporaryFolder folder;
   std::filesystem::create_directories(folder.File("jobs/line 4"));
   const std::string bytes = BytesOf(SourcePath("docs/samples/packing-line.qjt"));
@@ -58,17 +58,27 @@ TEST(ManualPage, ExampleOfABatchEngineSumsUpEveryJobInOrder) {
   }
   const std::string path = std::filesystem::path(HALVANE_REPORT).parent_path().string();
   // At once, and in pieces so small that there are several calls.
-  for (const std::string options : {"", "--block 100"}) {
+  for (const std::string count : {"500", "5"}) {
+    std::string asked = command;
+    asked.replace(asked.find("500"), 3, count);
     const ProgramRun run = RunProgram("env",
-                                      {"HOME=" + folder.path(), "PARALLEL=" + options, "LC_ALL=C",
-                                       "sh", "-c", "PATH=\"$1:$PATH\"; " + command, "sh", path},
+                                      {"HOME=" + folder.path(), "PARALLEL=", "LC_ALL=C", "sh", "-c",
+                                       "PATH=\"$1:$PATH\"; " + asked, "sh", path},
                                       folder.path());
     EXPECT_EQ(run.status, 0) << run.error;
     const ProgramRun alone =
         RunProgram(HALVANE_REPORT, {"--summary", "--format", "json", "jobs"}, folder.path());
-    EXPECT_EQ(BytesOf(folder.File("summary.jsonl")), alone.output) << options;
+    EXPECT_EQ(BytesOf(folder.File("summary.jsonl")), alone.output) << count;
     EXPECT_EQ(std::count(alone.output.begin(), alone.output.end(), '\n'), 26);
   }
+}
+
+TEST(ManualPage, ExampleOfManyMachinesIsThatOfTheirPage) {
+  std::string command = ExampleWith("--sshloginfile");
+  command.erase(std::remove(command.begin(), command.end(), ' '), command.end());
+  std::string page = BytesOf(SourcePath("docs/many-machines.md"));
+  std::erase_if(page, [](char c) { return c == ' ' || c == '\\' || c == '\n'; });
+  EXPECT_NE(page.find(command), std::string::npos) << command;
 }
 
 TEST(ManualPage, NamesEveryTool) {
