@@ -15,9 +15,10 @@ constexpr std::string_view kStyle =
     R"html(body { margin: 18pt; background: var(--paper); }
 caption { padding: 4pt 0 10pt; color: var(--quiet); text-align: left; }
 th, td { padding: 3pt 8pt; border-bottom: 1px solid var(--line); }
-thead th { position: sticky; top: 0; background: var(--ground); }
+tbody th, td { overflow-wrap: anywhere; }
+thead th { position: sticky; top: 0; min-width: 60pt; background: var(--ground); }
 small { display: block; color: var(--quiet); font-weight: normal; }
-.bar { display: block; min-width: 60pt; margin-top: 2pt; background: var(--ground); }
+.bar { display: block; margin-top: 2pt; background: var(--ground); }
 .bar span { display: block; box-sizing: border-box; height: 5pt; border-right: 1px solid var(--ink);
   background: #9aa5b1; print-color-adjust: exact; -webkit-print-color-adjust: exact; }
 .green .bar span { background: #9fd3b4; }
@@ -32,9 +33,12 @@ small { display: block; color: var(--quiet); font-weight: normal; }
   th, td { padding: 2pt 4pt; }
 }
 )html";
+// What a column takes at least and what is beside them all, in points.
+constexpr int kLeastColumn = 60 + 2 * 8;
+constexpr int kBesideColumns = 2 * 18 + 12;
 // On a narrow screen a job is a block; its head, which stays for screen readers, is not seen.
 constexpr std::string_view kNarrowStyle =
-    R"html(@media screen and (max-width: 480pt) {
+    R"html(
   body { margin: 9pt; }
   table, caption, tbody, tr, th, td { display: block; }
   thead { position: absolute; width: 1px; height: 1px; overflow: hidden; clip-path: inset(50%); }
@@ -42,6 +46,7 @@ constexpr std::string_view kNarrowStyle =
   tbody th, td { padding: 1pt 0; border: 0; }
   tbody th { font-weight: bold; }
   td::before { color: var(--quiet); }
+  .bar { max-width: 300pt; }
 )html";
 constexpr std::string_view kNarrowStyleEnd = "  td[colspan]::before { content: none; }\n}\n";
 constexpr std::string_view kTableStart =
@@ -107,7 +112,10 @@ void AppendCell(std::string& out, const SummaryCell& cell, const ToolHeadline& t
 
 /// What heads the columns stands in front of each value here, silent since its head is spoken.
 std::string NarrowStyle(const SummaryTools& tools) {
-  std::string style(kNarrowStyle);
+  const auto columns = static_cast<int>(1 + kTextHeadings.size() + tools.size());
+  std::string style = "@media screen and (max-width: ";
+  style += PlainText(columns * kLeastColumn + kBesideColumns) + "pt) {";
+  style += kNarrowStyle;
   int column = 1;
   const auto label = [&](std::string_view heading) {
     style += "  td:nth-child(" + PlainText(++column) + ")::before { content: \"";

@@ -48,6 +48,8 @@ TEST(SummaryHtml, HeadingsTellWhatFillsABar) {
 
 TEST(SummaryHtml, NarrowScreensHaveTheHeadingInFrontOfAValue) {
   const std::string page = PageOf({});
+  // Six columns of 76 points, and 48 beside them.
+  EXPECT_NE(page.find("@media screen and (max-width: 504pt) {\n"), std::string::npos) << page;
   EXPECT_NE(page.find("  td:nth-child(2)::before { content: \"Analyst: \" / \"\"; }\n"
                       "  td:nth-child(3)::before { content: \"Job: \" / \"\"; }\n"
                       "  td:nth-child(4)::before { content: \"Workstation: \" / \"\"; }\n"

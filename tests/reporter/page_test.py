@@ -6,6 +6,7 @@ Usage: page_test.py HALVANE_REPORT SAMPLES. Ends with 77 where a program is miss
 
 import base64
 import os
+import re
 import shutil
 import subprocess
 import sys
@@ -19,6 +20,7 @@ A4 = {"paperWidth": 8.27, "paperHeight": 11.69}
 LEAST_CONTRAST = 4.5
 SAMPLE_NAME = b"Carton packing, end of line"
 SAMPLE_TASK = b"Load jars into carton"
+LONG_NAME = "survey_2026_" * 15 + ".qjt"
 
 SI_CHART = (
     "Strain Index score and risk: up to 3, Low risk, probably safe. Above 3, below 5, Low risk. 5 to "
@@ -182,14 +184,19 @@ class Pages:
         return path
 
     def paper(self, browser):
-        """The text of each sheet that the open page is printed on."""
-        path = os.path.join(self._folder, "page.pdf")
+        """Prints the open page and gives the text of each sheet."""
         printed = browser.ask("Page.printToPDF", preferCSSPageSize=True, **A4)
-        with open(path, "wb") as file:
+        with open(os.path.join(self._folder, "page.pdf"), "wb") as file:
             file.write(base64.b64decode(printed["data"]))
-        text = subprocess.run(["pdftotext", path, "-"], check=True, timeout=60,
-                              stdout=subprocess.PIPE).stdout.decode()
-        return text.split("\f")[:-1]
+        return self._text_of_paper().split("\f")[:-1]
+
+    def boxes(self):
+        """Where each word stands of what was printed last."""
+        return self._text_of_paper("-bbox")
+
+    def _text_of_paper(self, *options):
+        command = ["pdftotext", *options, os.path.join(self._folder, "page.pdf"), "-"]
+        return subprocess.run(command, check=True, timeout=60, stdout=subprocess.PIPE).stdout.decode()
 
 
 def see(browser, scheme, width=WIDE, media=""):
@@ -245,14 +252,14 @@ def summaries_are_tables_at_every_width(browser, pages):
         expect([role for role, _ in grid[3]], ["rowheader", "cell"], "a file that is not there")
 
 
-def nothing_is_wider_than_a_narrow_screen(browser, pages):
-    pages.write("long.qjt", pages.sample.replace(SAMPLE_NAME, b"x" * 300))
-    for arguments in (["packing-line.qjt"], ["--summary", "packing-line.qjt"],
-                      ["long.qjt"], ["--summary", "long.qjt"]):
-        browser.open(pages.make(*arguments))
-        see(browser, "light", NARROW)
-        widest = browser.run("document.documentElement.scrollWidth")
-        assert widest <= NARROW, (arguments, widest)
+def nothing_is_wider_than_its_screen(browser, pages):
+    pages.write(LONG_NAME, pages.sample.replace(SAMPLE_NAME, b"x" * 300))
+    for arguments in ([], ["--summary"], ["--summary", "--tool", "si"]):
+        browser.open(pages.make(*arguments, LONG_NAME, *["gap.qjt"] * (40 if arguments else 1)))
+        for width in (NARROW, 520, 700, 900, 1060, 1078, WIDE, 1400):
+            see(browser, "light", width)
+            widest = browser.run("document.documentElement.scrollWidth")
+            assert widest <= width, (arguments, width, widest)
 
 
 def hidden_characters_and_markup_are_text(browser, pages):
@@ -312,14 +319,15 @@ def reports_are_not_cut_on_paper(browser, pages):
         names.append(f"j{lines}.qjt")
         pages.write(names[-1], pages.sample.replace(SAMPLE_TASK, " ".join(task).encode()).replace(
             SAMPLE_NAME, b"long " * 18 * lines))
-    for tool, chart in (("ctd", ["two factors to", "hours each"]),
-                        ("si", ["Strain Index score and", "probably hazardous\n"]),
-                        ("ocra", ["of the OCRA index", "Between 3.9 and 4.0"]),
-                        ("ocra", ["and recovery multipliers", "without adequate recovery\n"])):
+    for tool, *charts in (("ctd", ["two factors to", "hours each"]),
+                          ("si", ["Strain Index score and", "probably hazardous\n"]),
+                          ("ocra", ["of the OCRA index", "Between 3.9 and 4.0"],
+                           ["and recovery multipliers", "without adequate recovery\n"])):
         browser.open(pages.make("--tool", tool, *names))
         sheets = pages.paper(browser)
         assert len(names) < len(sheets) < 4 * len(names), len(sheets)
-        expect(expect_uncut(sheets, chart), len(names), "charts")
+        for chart in charts:
+            expect(expect_uncut(sheets, chart), len(names), "charts")
         if tool != "si":
             assert expect_uncut(sheets, task) >= len(names), tool
 
@@ -331,6 +339,18 @@ def every_report_begins_a_sheet(browser, pages):
     # A report goes on where its chart found no room.
     heads = [[line for line in sheet.splitlines() if line in titles] for sheet in sheets]
     expect([head for head in heads if head], [[title] for title in titles], "titles on each sheet")
+
+
+def nothing_is_wider_than_paper(browser, pages):
+    pages.write(LONG_NAME, pages.sample.replace(SAMPLE_NAME, b"x" * 300))
+    for arguments in ([], ["--summary"]):
+        browser.open(pages.make(*arguments, "packing-line.qjt", LONG_NAME))
+        pages.paper(browser)
+        boxes = pages.boxes()
+        edges = [float(edge) for edge in re.findall(r' xMax="([\d.]+)"', boxes)]
+        widths = {float(width) for width in re.findall(r'<page width="([\d.]+)"', boxes)}
+        assert len(edges) > 30 and len(widths) == 1, (len(edges), widths)
+        assert max(edges) < widths.pop() - 20, (arguments, max(edges))
 
 
 def rows_of_a_summary_are_not_cut_on_paper(browser, pages):
@@ -352,12 +372,13 @@ def rows_of_a_summary_are_not_cut_on_paper(browser, pages):
 CASES = (
     reports_have_headings_tables_and_words_for_pictures,
     summaries_are_tables_at_every_width,
-    nothing_is_wider_than_a_narrow_screen,
+    nothing_is_wider_than_its_screen,
     hidden_characters_and_markup_are_text,
     texts_stand_out_in_light_and_dark,
     paper_is_white_with_black_letters,
     every_report_begins_a_sheet,
     reports_are_not_cut_on_paper,
+    nothing_is_wider_than_paper,
     rows_of_a_summary_are_not_cut_on_paper,
 )
 
