@@ -1,6 +1,7 @@
 #include "reporter/html_summary.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 #include "core/number_text.h"
@@ -11,31 +12,50 @@ namespace {
 
 // The colours are those of the charts that end the reports.
 constexpr std::string_view kStyle =
-    R"html(body { margin: 18pt; background: #fff; color: #1f2933; font: 10pt/1.3 sans-serif; }
-table { border-collapse: collapse; }
-th, td { padding: 3pt 8pt; border-bottom: 1px solid #cfd8dc; text-align: left;
-  vertical-align: top; overflow-wrap: break-word; }
-thead th { position: sticky; top: 0; background: #eceff1; }
-small { display: block; color: #52606d; font-weight: normal; }
-tbody th { font-weight: normal; }
-td.failure { color: #9b1c1c; }
-.bar { display: block; width: 90pt; margin-top: 2pt; background: #eceff1; }
-.bar span { display: block; height: 5pt; background: #9aa5b1; print-color-adjust: exact;
-  -webkit-print-color-adjust: exact; }
+    R"html(body { margin: 18pt; background: var(--paper); }
+caption { padding: 4pt 0 10pt; color: var(--quiet); text-align: left; }
+th, td { padding: 3pt 8pt; border-bottom: 1px solid var(--line); }
+tbody th, td { overflow-wrap: anywhere; }
+thead th { position: sticky; top: 0; min-width: 60pt; background: var(--ground); }
+small { display: block; color: var(--quiet); font-weight: normal; }
+.bar { display: block; margin-top: 2pt; background: var(--ground); }
+.bar span { display: block; box-sizing: border-box; height: 5pt; border-right: 1px solid var(--ink);
+  background: #9aa5b1; print-color-adjust: exact; -webkit-print-color-adjust: exact; }
 .green .bar span { background: #9fd3b4; }
 .yellowgreen .bar span { background: #d5e3a0; }
 .yellow .bar span { background: #f3e28a; }
 .orange .bar span { background: #f3c58a; }
 .red .bar span { background: #e99c91; }
 @media print {
-  body { margin: 0; }
-  tr { break-inside: avoid; }
+  @page { size: landscape; }
+  body { margin: 0; font-size: 8pt; }
+  thead th { position: static; }
+  th, td { padding: 2pt 4pt; }
 }
 )html";
-constexpr std::string_view kTableHead = R"html(<table>
+// What a column takes at least and what is beside them all, in points.
+constexpr int kLeastColumn = 60 + 2 * 8;
+constexpr int kBesideColumns = 2 * 18 + 12;
+// On a narrow screen a job is a block; its head, which stays for screen readers, is not seen.
+constexpr std::string_view kNarrowStyle =
+    R"html(
+  body { margin: 9pt; }
+  table, caption, tbody, tr, th, td { display: block; }
+  thead { position: absolute; width: 1px; height: 1px; overflow: hidden; clip-path: inset(50%); }
+  tbody tr { padding: 6pt 0; border-bottom: 1px solid var(--line); }
+  tbody th, td { padding: 1pt 0; border: 0; }
+  tbody th { font-weight: bold; }
+  td::before { color: var(--quiet); }
+  .bar { max-width: 300pt; }
+)html";
+constexpr std::string_view kNarrowStyleEnd = "  td[colspan]::before { content: none; }\n}\n";
+constexpr std::string_view kTableStart =
+    R"html(<table>
+<caption>One line a job. A bar shows the first value of a tool in the colour of its zone.</caption>
 <thead>
-<tr><th scope="col">File</th><th scope="col">Analyst</th><th scope="col">Job</th>)html"
-                                        R"html(<th scope="col">Workstation</th>)html";
+<tr>)html";
+constexpr std::string_view kFileHeading = "File";
+constexpr std::array<std::string_view, 3> kTextHeadings{"Analyst", "Job", "Workstation"};
 
 std::string_view ClassOf(ZoneColour colour) {
   switch (colour) {
@@ -90,26 +110,49 @@ void AppendCell(std::string& out, const SummaryCell& cell, const ToolHeadline& t
   out += "%\"></span></span></td>";
 }
 
+/// What heads the columns stands in front of each value here, silent since its head is spoken.
+std::string NarrowStyle(const SummaryTools& tools) {
+  const auto columns = static_cast<int>(1 + kTextHeadings.size() + tools.size());
+  std::string style = "@media screen and (max-width: ";
+  style += PlainText(columns * kLeastColumn + kBesideColumns) + "pt) {";
+  style += kNarrowStyle;
+  int column = 1;
+  const auto label = [&](std::string_view heading) {
+    style += "  td:nth-child(" + PlainText(++column) + ")::before { content: \"";
+    style.append(heading) += ": \" / \"\"; }\n";
+  };
+  for (const std::string_view heading : kTextHeadings) label(heading);
+  for (const ToolRow* tool : tools) label(tool->headline->columns.front().heading);
+  return style.append(kNarrowStyleEnd);
+}
+
+void AppendHead(std::string& out, std::string_view heading, std::string_view below = {}) {
+  out += "<th scope=\"col\">";
+  AppendHtml(out, heading);
+  if (!below.empty()) out.append("<small>").append(below).append("</small>");
+  out += "</th>";
+}
+
 }  // namespace
 
 void HtmlSummary::Begin(std::string& out) {
-  AppendPageHead(out, "Halvane Tools job summary", kStyle);
-  out += kTableHead;
+  AppendPageHead(out, "Halvane Tools job summary", std::string(kStyle) + NarrowStyle(tools_));
+  out += kTableStart;
+  AppendHead(out, kFileHeading);
+  for (const std::string_view heading : kTextHeadings) AppendHead(out, heading);
   for (const ToolRow* tool : tools_) {
-    out += "<th scope=\"col\">";
-    AppendHtml(out, tool->headline->columns.front().heading);
-    out += "<small>bar: 0 to " + PlainText(tool->headline->fullBar) + "</small></th>";
+    AppendHead(out, tool->headline->columns.front().heading,
+               "bar: 0 to " + PlainText(tool->headline->fullBar));
   }
   out += "</tr>\n</thead>\n<tbody>\n";
 }
 
 void HtmlSummary::Row(std::string& out, const JobSummary& summary) {
-  constexpr std::size_t kTexts = 3;
   out += "<tr><th scope=\"row\">";
   AppendHtml(out, summary.file);
   out += "</th>";
   if (summary.failure) {
-    AppendFailure(out, *summary.failure, kTexts + tools_.size());
+    AppendFailure(out, *summary.failure, kTextHeadings.size() + tools_.size());
   } else {
     for (const std::string* text : {&summary.analyst, &summary.job, &summary.workstation}) {
       out += "<td>";

@@ -4,11 +4,12 @@
 
 namespace halvane {
 
-/// Reports as one page that needs nothing else: pictures inline, no script, a sheet of paper for
-/// each report when printed.
+/// Reports as one page that needs nothing else: pictures inline, no script, a heading for each job
+/// and below it one for each report, which begins a sheet of paper when printed.
 class HtmlWriter : public ReportWriter {
  public:
   void Begin(std::string& out) override;
+  void BeginJob(std::string& out, std::string_view file) override;
   void Report(std::string& out, std::string_view file, const ToolRow& tool, const RichText& report,
               const std::vector<WorkingValue>& results) override;
   void NoReport(std::string& out, std::string_view file, const ToolRow& tool,
@@ -17,6 +18,7 @@ class HtmlWriter : public ReportWriter {
                   const ReportFailure& failure) override;
   void FileFailed(std::string& out, std::string_view file, std::span<const ToolRow* const> tools,
                   const ReportFailure& failure) override;
+  void EndJob(std::string& out) override;
   void End(std::string& out) override;
 };
 

@@ -13,6 +13,7 @@ std::vector<std::string> AppendReports(std::string& out, ReportWriter& writer, c
     writer.FileFailed(out, job.name, tools, *failure);
     return {Complaint(job.name, *failure)};
   }
+  writer.BeginJob(out, job.name);
   std::vector<std::string> complaints;
   ForEachTool(tools, [&](const ToolRow& tool, std::size_t /*place*/) {
     RichText report;
@@ -36,6 +37,7 @@ std::vector<std::string> AppendReports(std::string& out, ReportWriter& writer, c
       writer.Report(out, job.name, tool, report, tool.workingValues());
     }
   });
+  writer.EndJob(out);
   return complaints;
 }
 

@@ -30,6 +30,8 @@ class ReportWriter {
 
   /// Before the first report.
   virtual void Begin(std::string& /*out*/) {}
+  /// Before the reports on the job in `file`, which was read.
+  virtual void BeginJob(std::string& /*out*/, std::string_view /*file*/) {}
   /// A tool's report on the job in `file`, and the working values that it left.
   virtual void Report(std::string& out, std::string_view file, const ToolRow& tool,
                       const RichText& report, const std::vector<WorkingValue>& results) = 0;
@@ -42,6 +44,8 @@ class ReportWriter {
   /// A file could not be read, so none of the tools has a report.
   virtual void FileFailed(std::string& out, std::string_view file,
                           std::span<const ToolRow* const> tools, const ReportFailure& failure) = 0;
+  /// Behind the reports on a job.
+  virtual void EndJob(std::string& /*out*/) {}
   /// Behind the last report.
   virtual void End(std::string& /*out*/) {}
 };

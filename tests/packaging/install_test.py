@@ -59,6 +59,7 @@ class InstalledProgram(unittest.TestCase):
                   "share/mime/packages/halvane-tools.xml"}
         # The help pages send their readers there.
         wanted.add("share/doc/halvane-tools/job-file.md")
+        wanted.add("share/doc/halvane-tools/many-machines.md")
         wanted.add("share/doc/halvane-tools/results.md")
         wanted.add("share/halvane-tools/halvane-report.schema.json")
         wanted.update({"share/bash-completion/completions/halvane-report",

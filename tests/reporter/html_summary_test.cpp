@@ -41,8 +41,30 @@ TEST(SummaryHtml, HeadingsTellWhatFillsABar) {
                       "<th scope=\"col\">Grade<small>bar: 0 to 10</small></th></tr>\n"),
             std::string::npos)
       << page;
+  EXPECT_NE(page.find("<main>\n<table>\n<caption>"), std::string::npos) << page;
   EXPECT_TRUE(page.starts_with("<!DOCTYPE html>\n"));
-  EXPECT_TRUE(page.ends_with("<tbody>\n</tbody>\n</table>\n</body>\n</html>\n"));
+  EXPECT_TRUE(page.ends_with("<tbody>\n</tbody>\n</table>\n</main>\n</body>\n</html>\n"));
+}
+
+TEST(SummaryHtml, NarrowScreensHaveTheHeadingInFrontOfAValue) {
+  const std::string page = PageOf({});
+  // Six columns of 76 points, and 48 beside them.
+  EXPECT_NE(page.find("@media screen and (max-width: 504pt) {\n"), std::string::npos) << page;
+  EXPECT_NE(page.find("  td:nth-child(2)::before { content: \"Analyst: \" / \"\"; }\n"
+                      "  td:nth-child(3)::before { content: \"Job: \" / \"\"; }\n"
+                      "  td:nth-child(4)::before { content: \"Workstation: \" / \"\"; }\n"
+                      "  td:nth-child(5)::before { content: \"Index: \" / \"\"; }\n"
+                      "  td:nth-child(6)::before { content: \"Grade: \" / \"\"; }\n"),
+            std::string::npos)
+      << page;
+}
+
+/// What stands in quotes of a style sheet as it is.
+TEST(SummaryHtml, HeadingsOfTheToolsNeedNoEscape) {
+  for (const ToolRow& tool : Tools()) {
+    const std::string_view heading = tool.headline->columns.front().heading;
+    EXPECT_EQ(heading.find_first_of("\"\\<\n"), std::string_view::npos) << heading;
+  }
 }
 
 struct BarRow {

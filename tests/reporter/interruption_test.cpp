@@ -22,7 +22,7 @@ TEST(Interruption, WhatIsDoneIsWrittenAndCounted) {
   program.Interrupt();
   const ProgramRun run = program.End();
   EXPECT_EQ(run.status, kEndedByCtrlC);
-  EXPECT_EQ(run.output, "</tbody>\n</table>\n</body>\n</html>\n");
+  EXPECT_EQ(run.output, "</tbody>\n</table>\n</main>\n</body>\n</html>\n");
   EXPECT_EQ(run.error, "halvane-report: interrupted; done so far: 2 jobs\n");
 }
 
@@ -35,7 +35,7 @@ TEST(Interruption, EndThatASystemAsksForCompletesThePageToo) {
   program.Interrupt(SIGTERM);
   const ProgramRun run = program.End();
   EXPECT_EQ(run.status, 128 + SIGTERM);
-  EXPECT_EQ(run.output, "</tbody>\n</table>\n</body>\n</html>\n");
+  EXPECT_EQ(run.output, "</tbody>\n</table>\n</main>\n</body>\n</html>\n");
   EXPECT_EQ(run.error, "halvane-report: terminated; done so far: 1 job\n");
 }
 

@@ -39,10 +39,17 @@ class LogWriter : public ReportWriter {
            failure.message + "\n";
   }
 
- private:
+ protected:
   static std::string Name(std::string_view file) {
     return std::string(file.substr(file.rfind('/') + 1));
   }
+};
+
+/// One that shows where a job begins and ends besides.
+class BracketWriter : public LogWriter {
+ public:
+  void BeginJob(std::string& out, std::string_view file) override { out += Name(file) + " (\n"; }
+  void EndJob(std::string& out) override { out += ")\n"; }
 };
 
 class JobReports : public testing::Test {
@@ -77,6 +84,22 @@ TEST_F(JobReports, NothingOfAnotherFileOrToolComesThrough) {
             "b.qjt good: Job: second, SiDutyRating 1\n"
             "b.qjt failing failed: DivisionByZero\n"
             "b.qjt good: Job: second, SiDutyRating 1\n");
+}
+
+TEST_F(JobReports, ReportsOnAJobThatWasReadAreBetweenItsBeginAndEnd) {
+  const std::vector<const ToolRow*> tools{&kFailingTool, &kSilentTool};
+  BracketWriter writer;
+  for (const std::string& path :
+       {Write("a.qjt", EmptyJobWith(4, "\"\",\"first\",\"\",0,8")), Write("b.qjt", "")}) {
+    AppendReports(log_, writer, path, LengthUnit::Metric, tools);
+  }
+  EXPECT_TRUE(
+      log_.starts_with("a.qjt (\n"
+                       "a.qjt failing failed: DivisionByZero\n"
+                       "a.qjt silent: "))
+      << log_;
+  EXPECT_NE(log_.find("\n)\nb.qjt failed for 2: "), std::string::npos) << log_;
+  EXPECT_FALSE(log_.ends_with(")\n")) << log_;
 }
 
 TEST_F(JobReports, LongNameIsThereForEachTool) {

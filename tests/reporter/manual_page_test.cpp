@@ -31,10 +31,11 @@ TEST(ManualPage, NamesEveryOption) {
   EXPECT_GE(options, 9);
 }
 
-/// The command of the page that has `part`.
+/// The command that has `part`, as a reader of the page sees it and copies it.
 std::string ExampleWith(const std::string& part) {
-  const std::string page = BytesOf(SourcePath(kPage));
-  const std::string mark = "\n.Dl $ ";
+  const std::string page =
+      RunProgram("mandoc", {"-T", "ascii", "-O", "width=1000", SourcePath(kPage)}).output;
+  const std::string mark = " $ ";
   for (std::size_t at = page.find(mark); at != std::string::npos; at = page.find(mark, at + 1)) {
     const std::size_t start = at + mark.size();
     std::string command = page.substr(start, page.find('\n', start) - start);
@@ -47,8 +48,8 @@ std::string ExampleWith(const std::string& part) {
 TEST(ManualPage, ExampleOfABatchEngineSumsUpEveryJobInOrder) {
   const bool isThere =
       RunProgram("sh", {"-c", "parallel --version | grep -q 'GNU parallel'"}).status == 0;
-  if (!isThere) GTEST_SKIP() << "there is no GNU parallel";
-  const std::string command = ExampleWith("parallel --pipe");
+  if (!isThere || !HasProgram("mandoc")) GTEST_SKIP() << "there is no GNU parallel or no mandoc";
+  const std::string command = ExampleWith("parallel --pipe -N 500 --keep-order halvane-report");
   const TemporaryFolder folder;
   std::filesystem::create_directories(folder.File("jobs/line 4"));
   const std::string bytes = BytesOf(SourcePath("docs/samples/packing-line.qjt"));
@@ -58,17 +59,31 @@ TEST(ManualPage, ExampleOfABatchEngineSumsUpEveryJobInOrder) {
   }
   const std::string path = std::filesystem::path(HALVANE_REPORT).parent_path().string();
   // At once, and in pieces so small that there are several calls.
-  for (const std::string options : {"", "--block 100"}) {
+  for (const std::string count : {"500", "5"}) {
+    std::string asked = command;
+    asked.replace(asked.find("500"), 3, count);
     const ProgramRun run = RunProgram("env",
-                                      {"HOME=" + folder.path(), "PARALLEL=" + options, "LC_ALL=C",
-                                       "sh", "-c", "PATH=\"$1:$PATH\"; " + command, "sh", path},
+                                      {"HOME=" + folder.path(), "PARALLEL=", "LC_ALL=C", "sh", "-c",
+                                       "PATH=\"$1:$PATH\"; " + asked, "sh", path},
                                       folder.path());
     EXPECT_EQ(run.status, 0) << run.error;
     const ProgramRun alone =
         RunProgram(HALVANE_REPORT, {"--summary", "--format", "json", "jobs"}, folder.path());
-    EXPECT_EQ(BytesOf(folder.File("summary.jsonl")), alone.output) << options;
+    EXPECT_EQ(BytesOf(folder.File("summary.jsonl")), alone.output) << count;
     EXPECT_EQ(std::count(alone.output.begin(), alone.output.end(), '\n'), 26);
   }
+}
+
+TEST(ManualPage, ExampleOfManyMachinesIsThatOfTheirPage) {
+  if (!HasProgram("mandoc")) GTEST_SKIP() << "there is no mandoc";
+  // There it stands in three lines.
+  std::string page = BytesOf(SourcePath("docs/many-machines.md"));
+  for (const std::string lineEnd : {"|\n  ", "\\\n    "}) {
+    const std::size_t at = page.find(lineEnd);
+    ASSERT_NE(at, std::string::npos) << lineEnd;
+    page.replace(at, lineEnd.size(), lineEnd[0] == '|' ? "| " : "");
+  }
+  EXPECT_NE(page.find("\n" + ExampleWith("--sshloginfile") + "\n"), std::string::npos) << page;
 }
 
 TEST(ManualPage, NamesEveryTool) {

@@ -134,9 +134,10 @@ TEST(ReportProgram, BadFileHasNoReportInText) {
 TEST(ReportProgram, BadFileIsASectionOfThePage) {
   const ProgramRun run = RunReport({"--tool", "si", "--format", "html", "gone.qjt"});
   EXPECT_EQ(run.status, 1);
-  EXPECT_NE(run.output.find("<h2>gone.qjt</h2>\n<p class=\"failure\">File error: gone.qjt: "
-                            "No such file or directory</p>\n"),
-            std::string::npos)
+  EXPECT_NE(
+      run.output.find("<h2>gone.qjt</h2>\n<section>\n<p class=\"failure\">File error: gone.qjt: "
+                      "No such file or directory</p>\n"),
+      std::string::npos)
       << run.output;
   EXPECT_TRUE(run.output.ends_with("</body>\n</html>\n"));
 }
