@@ -290,6 +290,29 @@ std::string ComplaintOf(const CLI::App& app, const CLI::ParseError& wrong) {
   return InOwnWords(wrong.what());
 }
 
+/// Whether the argument behind this one is its value.
+bool TakesNext(const CLI::App& app, std::string_view argument) {
+  return std::ranges::any_of(app.get_options(), [argument](const CLI::Option* option) {
+    return option->get_items_expected_min() > 0 && option->nonpositional() &&
+           argument == "--" + option->get_lnames().front();
+  });
+}
+
+/// An argument of letters and a hyphen, "-0--summary", of whose end the parser would make an
+/// argument that nobody gave; empty where there is none.
+std::string LettersWithHyphen(const CLI::App& app, const std::vector<std::string>& arguments) {
+  for (std::size_t i = 0; i < arguments.size() && arguments[i] != "--"; ++i) {
+    const std::string_view argument = arguments[i];
+    if (TakesNext(app, argument)) {
+      ++i;
+    } else if (argument.size() > 2 && argument[0] == '-' && argument[1] != '-' &&
+               argument.find('-', 2) != std::string_view::npos) {
+      return std::string(argument);
+    }
+  }
+  return {};
+}
+
 constexpr const char* kAbout =
     "Prints the reports of the tools on job files, one line a job, or what is wrong with the "
     "files.";
@@ -301,6 +324,8 @@ std::variant<Options, Notice> ParseOptions(std::vector<std::string> arguments,
   Given given;
   CLI::App app(kAbout, std::string(kProgramName));
   Define(app, given, tools);
+  const std::string letters = LettersWithHyphen(app, arguments);
+  if (!letters.empty()) return Notice{true, WrongUse("there is no option \"" + letters + "\"")};
   GuardBrackets(arguments);
   std::reverse(arguments.begin(), arguments.end());  // the order that the parser takes them in
   try {

@@ -59,6 +59,11 @@ TEST(ReportOptions, FileNamesAreTakenAsTheyAre) {
   EXPECT_EQ(Parsed(names).files, names);
 }
 
+TEST(ReportOptions, NamesWithHyphensAreNoLetters) {
+  EXPECT_EQ(Parsed({"--files-from", "-a-b"}).list, "-a-b");
+  EXPECT_EQ(Parsed({"a-b", "--", "-0-b"}).files, (std::vector<std::string>{"a-b", "-0-b"}));
+}
+
 TEST(ReportOptions, BehindTwoHyphensEverythingIsAFile) {
   EXPECT_EQ(Parsed({"--", "--tool", "-x"}).files, (std::vector<std::string>{"--tool", "-x"}));
 }
@@ -141,6 +146,8 @@ TEST(ReportOptions, WrongUseIsToldInOneLineAndAHint) {
        {"-0", "--check", "--format", "json", "a"},
        "--null: is for --files-from and for --check as text"},
       {"a flag with a value", {"--summary=no", "a"}, "--summary: takes no value"},
+      {"letters and an option", {"-0--summary", "a"}, "there is no option \"-0--summary\""},
+      {"letters and two hyphens", {"-0-", "a"}, "there is no option \"-0-\""},
       {"no job at once", {"--jobs", "0", "a"}, "--jobs: \"0\" is no number from 1 to 256"},
       {"fewer than none", {"--jobs", "-1", "a"}, "--jobs: \"-1\" is no number from 1 to 256"},
       {"a letter of jobs", {"--jobs", "x", "a"}, "--jobs: \"x\" is no number from 1 to 256"},
