@@ -19,6 +19,19 @@ class FieldCounter {
   std::size_t count_ = 0;
 };
 
+/// How many fields stand before the first task, and in each.
+struct FieldCounts {
+  FieldCounts() {
+    JobState job;
+    VisitJobFields(job, head);
+    // All tasks have the same fields, and slot 0 is always there.
+    VisitTaskFields(job, task, 0);
+  }
+
+  FieldCounter head;
+  FieldCounter task;
+};
+
 }  // namespace
 
 std::string FieldName::text() const {
@@ -30,14 +43,9 @@ std::string FieldName::text() const {
 }
 
 std::size_t CountJobFields(double taskCount) {
-  JobState job;
-  FieldCounter head;
-  VisitJobFields(job, head);
-  FieldCounter task;
-  // All tasks have the same fields, and slot 0 is always there.
-  VisitTaskFields(job, task, 0);
+  static const FieldCounts counts;
   const double tasks = std::clamp(taskCount, 0.0, kHighestTask + 1.0);
-  return head.count() + static_cast<std::size_t>(tasks) * task.count();
+  return counts.head.count() + static_cast<std::size_t>(tasks) * counts.task.count();
 }
 
 }  // namespace halvane

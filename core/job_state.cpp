@@ -48,7 +48,7 @@ void ForEachTaskArray(JobState& job, const Action& action) {
 
 }  // namespace
 
-JobState Module1;
+thread_local JobState Module1;
 
 FixedArray<Integer, 14> JobState::AllThree() {
   FixedArray<Integer, 14> choices;

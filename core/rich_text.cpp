@@ -34,7 +34,7 @@ std::size_t LineLength(std::string_view text) {
 
 }  // namespace
 
-RichText::RichText() { Clear(); }
+RichText::RichText(Appended appended) : drops_(appended == Appended::Dropped) { Clear(); }
 
 void RichText::Clear() {
   font_ = {};
@@ -47,6 +47,7 @@ void RichText::SetTab(int stop, int twips) {
 }
 
 void RichText::Append(std::string_view text) {
+  if (drops_) return;
   while (!text.empty()) {
     const std::size_t lineLength = LineLength(text);
     AppendToLine(text.substr(0, lineLength));
@@ -82,6 +83,7 @@ void RichText::EndParagraph(std::string_view lineEnd) {
 }
 
 void RichText::AppendPicture(std::string_view assetName, std::string_view sense) {
+  if (drops_) return;
   Paragraph& paragraph = paragraphs_.back();
   paragraph.format = inForce_;
   paragraph.runs.push_back(

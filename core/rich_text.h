@@ -59,7 +59,11 @@ struct Paragraph {
 /// leave that line alone, and stops set between the columns of a line all count for it.
 class RichText {
  public:
-  RichText();
+  /// What becomes of what is appended. A pane that drops it is for who runs a report to see whether
+  /// it fails.
+  enum class Appended { Kept, Dropped };
+
+  explicit RichText(Appended appended = Appended::Kept);
 
   /// Empties the pane and puts the format in force back to plain, left, size 10, no tab stops.
   void Clear();
@@ -110,6 +114,7 @@ class RichText {
   CharacterFormat font_;
   ParagraphFormat inForce_;
   bool locked_ = false;
+  bool drops_;
 };
 
 }  // namespace halvane

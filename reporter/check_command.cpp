@@ -2,6 +2,7 @@
 
 #include "core/job_text_reader.h"
 #include "core/number_text.h"
+#include "reporter/beside_job.h"
 #include "reporter/json_text.h"
 #include "reporter/output.h"
 #include "reporter/printable_text.h"
@@ -29,6 +30,31 @@ void AppendProblem(std::string& out, const JobProblem& problem) {
   AppendJsonString(out, problem.message);
   out += '}';
 }
+
+class CheckWorker : public JobWorker {
+ public:
+  CheckWorker(ReportFormat format, const std::string& stateFolder, NameEnd nameEnd)
+      : format_(format), nameEnd_(nameEnd), besideJob_(stateFolder) {}
+
+  JobResult Do(const JobSource& job) override {
+    JobCheck check = CheckJobFile(job.path);
+    if (!job.isPiped()) besideJob_.AppendTo(check.problems, job.name);
+    JobResult result;
+    if (format_ == ReportFormat::Json) {
+      AppendCheckJson(result.text, job.name, check);
+    } else {
+      AppendCheckText(result.text, job.name, check, nameEnd_);
+    }
+    result.outcome.failed = check.verdict != JobVerdict::Good;
+    if (check.failure) result.outcome.complaints.push_back(Complaint(job.name, *check.failure));
+    return result;
+  }
+
+ private:
+  ReportFormat format_;
+  NameEnd nameEnd_;
+  BesideJob besideJob_;
+};
 
 }  // namespace
 
@@ -70,17 +96,8 @@ void AppendCheckJson(std::string& out, std::string_view file, const JobCheck& ch
   out += "}\n";
 }
 
-JobOutcome CheckCommand::Do(std::string& out, const JobSource& job) {
-  JobCheck check = CheckJobFile(job.path);
-  if (!job.isPiped()) besideJob_.AppendTo(check.problems, job.name);
-  if (format_ == ReportFormat::Json) {
-    AppendCheckJson(out, job.name, check);
-  } else {
-    AppendCheckText(out, job.name, check, nameEnd_);
-  }
-  JobOutcome outcome{check.verdict != JobVerdict::Good, {}};
-  if (check.failure) outcome.complaints.push_back(Complaint(job.name, *check.failure));
-  return outcome;
+std::unique_ptr<JobWorker> CheckCommand::MakeWorker() const {
+  return std::make_unique<CheckWorker>(format_, stateFolder_, nameEnd_);
 }
 
 }  // namespace halvane

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "reporter/beside_job.h"
 #include "reporter/job_check.h"
 #include "reporter/job_command.h"
 #include "reporter/report_writer.h"
@@ -18,14 +17,14 @@ class CheckCommand : public JobCommand {
   /// `stateFolder` is where the program keeps what it needs to go on after its end, empty for none.
   explicit CheckCommand(ReportFormat format, std::string stateFolder = {},
                         NameEnd nameEnd = NameEnd::Colon)
-      : format_(format), nameEnd_(nameEnd), besideJob_(std::move(stateFolder)) {}
+      : format_(format), nameEnd_(nameEnd), stateFolder_(std::move(stateFolder)) {}
 
-  JobOutcome Do(std::string& out, const JobSource& job) override;
+  [[nodiscard]] std::unique_ptr<JobWorker> MakeWorker() const override;
 
  private:
   ReportFormat format_;
   NameEnd nameEnd_;
-  BesideJob besideJob_;
+  std::string stateFolder_;
 };
 
 /// The lines of a check, each with its end.

@@ -1,7 +1,9 @@
 #include "reporter/choices.h"
 
+#include <array>
 #include <numeric>
 #include <span>
+#include <unordered_map>
 
 #include "tools/ctd/ctd_controls.h"
 #include "tools/hal/hal_controls.h"
@@ -45,6 +47,7 @@ std::vector<double> CodesOf(CtdGroup group) {
 struct ChoiceRow {
   std::string_view field;
   std::vector<double> (*choices)(int element);
+  int elements = 1;  ///< that have choices of their own; 1: all have the same
 };
 
 template <CtdGroup group>
@@ -68,9 +71,11 @@ constexpr std::array kRows{
     ChoiceRow{"Hand", [](int) { return UpTo(kHandOptions - 1); }},
     ChoiceRow{"HalActivityLevel", [](int) { return UpTo(kHalHighestLevel); }},
     ChoiceRow{"RulaControlState",
-              [](int element) { return UpTo(HighestState(kRulaControls, element)); }},
+              [](int element) { return UpTo(HighestState(kRulaControls, element)); },
+              decltype(JobState::RulaControlState)::size()},
     ChoiceRow{"RebaControlState",
-              [](int element) { return UpTo(HighestState(kRebaControls, element)); }},
+              [](int element) { return UpTo(HighestState(kRebaControls, element)); },
+              decltype(JobState::RebaControlState)::size()},
     ChoiceRow{"SiIntensityPick", Ribbons<SiRibbonArray::SSRibbon1>},
     ChoiceRow{"SiPosturePick", Ribbons<SiRibbonArray::SSRibbon2>},
     ChoiceRow{"SiSpeedPick", Ribbons<SiRibbonArray::SSRibbon3>},
@@ -96,13 +101,35 @@ constexpr std::array kRows{
     ChoiceRow{"CtdNeckFlexion", Categories<7>},
 };
 
+/// The lists of all rows, made once: they are asked for with each field of each job.
+class ChoiceLists {
+ public:
+  ChoiceLists() {
+    for (const ChoiceRow& row : kRows) {
+      std::vector<std::vector<double>>& lists = lists_[row.field];
+      for (int element = 0; element < row.elements; ++element) {
+        lists.push_back(row.choices(element));
+      }
+    }
+  }
+
+  [[nodiscard]] const std::vector<double>& Of(const FieldName& name) const {
+    const auto found = lists_.find(name.field);
+    if (found == lists_.end()) return none_;
+    const auto& lists = found->second;
+    return lists.size() == 1 ? lists.front() : lists.at(static_cast<std::size_t>(name.first));
+  }
+
+ private:
+  std::unordered_map<std::string_view, std::vector<std::vector<double>>> lists_;
+  std::vector<double> none_;
+};
+
 }  // namespace
 
-std::vector<double> ChoicesOf(const FieldName& name) {
-  for (const ChoiceRow& row : kRows) {
-    if (row.field == name.field) return row.choices(name.first);
-  }
-  return {};
+const std::vector<double>& ChoicesOf(const FieldName& name) {
+  static const ChoiceLists all;
+  return all.Of(name);
 }
 
 }  // namespace halvane

@@ -8,6 +8,6 @@ namespace halvane {
 
 /// The values that the controls of the tools store in a field, in rising order; empty for a field
 /// that is no choice.
-std::vector<double> ChoicesOf(const FieldName& name);
+const std::vector<double>& ChoicesOf(const FieldName& name);
 
 }  // namespace halvane

@@ -98,6 +98,17 @@ std::optional<FieldNote> NoteOf(const std::string& file, const FieldName& name) 
   return found;
 }
 
+/// The number of tasks, where it is what a tool fails on: a job without any field but this one does
+/// not fail once it has no task.
+std::optional<FieldValue> TaskCountThatFails(const JobState& job,
+                                             const std::function<bool()>& fails) {
+  Module1 = JobState{};
+  Module1.Units = job.Units;
+  ResizeTaskArrays();
+  if (fails()) return std::nullopt;
+  return FieldValue{{"TaskCount"}, job.TaskCount};
+}
+
 struct KindReason {
   FailureKind kind;
   std::string_view text;
@@ -119,7 +130,8 @@ std::optional<FieldValue> FieldThatFails(const JobState& job, const std::functio
   };
   std::size_t good = 0;
   std::size_t bad = part.size();
-  if (failsWith(good) || !failsWith(bad)) return std::nullopt;
+  if (!failsWith(bad)) return std::nullopt;
+  if (failsWith(good)) return TaskCountThatFails(job, fails);
   while (bad - good > 1) {
     const std::size_t middle = good + (bad - good) / 2;
     (failsWith(middle) ? bad : good) = middle;

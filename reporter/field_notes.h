@@ -16,6 +16,7 @@ namespace halvane {
 /// One field of a job file as it stands there.
 struct FieldNote {
   FieldName name;
+  const void* place;   ///< in the job; copies of a field have one
   int line;            ///< where it begins, counted from 1
   TaggedField value;   ///< what was read, as a number where its place holds one
   std::string number;  ///< the text of a field that was read as a number, as it stands
@@ -33,7 +34,9 @@ struct FieldNote {
 class FieldNotes {
  public:
   /// `reader` stands in front of the first field; its text has to outlive the notes.
-  explicit FieldNotes(JobTextReader reader) : reader_(std::move(reader)) {}
+  explicit FieldNotes(JobTextReader reader) : reader_(std::move(reader)) {
+    notes_.reserve(CountJobFields(Module1.TaskCount.AsDouble()));
+  }
 
   void HeaderLine() { reader_.HeaderLine(); }
 
@@ -66,7 +69,7 @@ class FieldNotes {
     const bool isMoved =
         text != nullptr && text->size() > kLongestName && field.name.field != "TaskCount";
     TaggedField value = isMoved ? TaggedField(std::move(field.value)) : TaggedField(field.value);
-    notes_.push_back({field.name, Line(lines_), std::move(value), std::move(number)});
+    notes_.push_back({field.name, &field.value, Line(lines_), std::move(value), std::move(number)});
   }
 
   static int Line(std::int64_t linesBefore) {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <optional>
+#include <unordered_set>
 #include <variant>
 #include <vector>
 
@@ -91,19 +92,22 @@ class BoxedFields {
   std::vector<std::string_view> names_;
 };
 
-const std::vector<std::string_view>& BoxedNames() {
-  static const std::vector<std::string_view> names = [] {
+using NameSet = std::unordered_set<std::string_view>;
+
+const NameSet& BoxedNames() {
+  static const NameSet names = [] {
     // The arrays of a job are sized in the one instance alone.
     JobState job = std::exchange(Module1, JobState{});
     Module1.TaskCount = Integer{kTask};
     ResizeTaskArrays();
     std::swap(job, Module1);
-    return BoxedFields(job).names();
+    const BoxedFields fields(job);
+    return NameSet(fields.names().begin(), fields.names().end());
   }();
   return names;
 }
 
-bool IsBoxed(const FieldName& name) { return std::ranges::count(BoxedNames(), name.field) > 0; }
+bool IsBoxed(const FieldName& name) { return BoxedNames().contains(name.field); }
 
 /// "0 to 4", "0 to 5 in steps of 0.5", "0, 2, 3, 4".
 std::string RangeText(const std::vector<double>& choices) {
@@ -160,8 +164,7 @@ std::string_view WhyWithoutRule(std::string_view field) {
 }
 
 std::optional<WrongValue> WrongWith(const FieldName& name, const TaggedField& value) {
-  // Asked for once: this is most of the work on a good file.
-  const std::vector<double> choices = ChoicesOf(name);
+  const std::vector<double>& choices = ChoicesOf(name);
   if (choices.empty() && !IsBoxed(name)) return std::nullopt;
   try {
     const std::optional<double> number = NumberOf(value);

@@ -28,6 +28,9 @@ constexpr std::array kHidden{
     Range{0xE0000, 0xE007F},  // tags
 };
 
+/// Nearly all fields are numbers.
+bool IsAscii(char c) { return static_cast<unsigned char>(c) < 0x80; }
+
 char32_t CodePointOf(std::string_view character) {
   const auto byte = [&character](std::size_t i) {
     return static_cast<unsigned char>(character[i]);
@@ -67,6 +70,7 @@ std::string EscapeOfCharacter(std::string_view character) {
 
 std::string HiddenCharactersIn(std::string_view text) {
   std::string names;
+  if (std::ranges::all_of(text, IsAscii)) return names;
   while (!text.empty()) {
     const std::string_view character =
         text.substr(0, LengthByLead(static_cast<unsigned char>(text[0])));

@@ -42,7 +42,7 @@ InputLines::Line InputLines::Read(std::vector<std::string>& complaints) {
       line.atEnd = count == 0;
       if (line.atEnd) return line;
     }
-    const std::size_t end = rest_.find(end_ == End::Line ? '\n' : '\0');
+    const std::size_t end = rest_.find(endOfName());
     line.text += rest_.substr(0, end);
     line.isTooLong = line.isTooLong || line.text.size() > kLongestName;
     if (line.isTooLong) line.text.clear();
@@ -50,6 +50,10 @@ InputLines::Line InputLines::Read(std::vector<std::string>& complaints) {
     rest_.remove_prefix(isWhole ? end + 1 : rest_.size());
     if (isWhole) return line;
   }
+}
+
+bool InputLines::IsAtHand() const {
+  return rest_.find(endOfName()) != std::string_view::npos || bytes_->IsReady();
 }
 
 std::optional<std::string> InputLines::Next(std::vector<std::string>& complaints) {

@@ -26,6 +26,8 @@ class InputBytes {
   /// Waits for input and reads what there is, at most `room`; gives how much. 0 at its end, on an
   /// `error`, and when the user interrupts the waiting.
   std::size_t Read(std::span<char> room, std::error_code& error) const;
+  /// Whether `Read` would give something, or the end, at once.
+  [[nodiscard]] bool IsReady() const;
 
  private:
   std::intptr_t handle_ = 0;  ///< as the system calls what is open
@@ -49,6 +51,8 @@ class InputLines {
   /// an interruption. What can be no file's name, and an input that cannot be read, come as
   /// sentences in `complaints`.
   std::optional<std::string> Next(std::vector<std::string>& complaints);
+  /// Whether there is something to read without waiting for who writes it.
+  [[nodiscard]] bool IsAtHand() const;
 
  private:
   struct Line {
@@ -59,6 +63,7 @@ class InputLines {
 
   Line Read(std::vector<std::string>& complaints);
   void TakeMarks(std::string& text);
+  [[nodiscard]] char endOfName() const { return end_ == End::Line ? '\n' : '\0'; }
 
   End end_;
   std::string name_ = "standard input";  ///< as complaints call it

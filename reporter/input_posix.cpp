@@ -3,36 +3,12 @@
 #include <unistd.h>
 
 #include <cerrno>
-#include <csignal>
 
 #include "reporter/input.h"
 #include "reporter/interruption.h"
+#include "reporter/interruptions_held_posix.h"
 
 namespace halvane {
-namespace {
-
-/// While it lives, Ctrl-C and whatever else asks for the end have to wait.
-class InterruptionsHeld {
- public:
-  InterruptionsHeld() {
-    sigset_t held;
-    sigemptyset(&held);
-    sigaddset(&held, SIGINT);
-    sigaddset(&held, SIGTERM);
-    sigprocmask(SIG_BLOCK, &held, &before_);
-  }
-  ~InterruptionsHeld() { sigprocmask(SIG_SETMASK, &before_, nullptr); }
-  InterruptionsHeld(const InterruptionsHeld&) = delete;
-  InterruptionsHeld& operator=(const InterruptionsHeld&) = delete;
-
-  [[nodiscard]] const sigset_t& before() const { return before_; }
-
- private:
-  sigset_t before_{};
-};
-
-}  // namespace
-
 InputBytes::~InputBytes() {
   if (isOpened_) close(static_cast<int>(handle_));
 }
@@ -60,6 +36,11 @@ std::size_t InputBytes::Read(std::span<char> room, std::error_code& error) const
     return 0;
   }
   return 0;
+}
+
+bool InputBytes::IsReady() const {
+  pollfd input{static_cast<int>(handle_), POLLIN, 0};
+  return poll(&input, 1, 0) > 0;
 }
 
 }  // namespace halvane

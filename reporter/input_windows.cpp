@@ -35,6 +35,10 @@ void ReadInto(Reading& reading) {
   SetEvent(reading.done);
 }
 
+HANDLE HandleOf(std::intptr_t handle, bool isOpened) {
+  return isOpened ? reinterpret_cast<HANDLE>(handle) : GetStdHandle(STD_INPUT_HANDLE);
+}
+
 }  // namespace
 
 InputBytes::~InputBytes() {
@@ -51,8 +55,7 @@ std::error_code InputBytes::Open(const std::string& path) {
 }
 
 std::size_t InputBytes::Read(std::span<char> room, std::error_code& error) const {
-  auto* const input =
-      isOpened_ ? reinterpret_cast<HANDLE>(handle_) : GetStdHandle(STD_INPUT_HANDLE);
+  auto* const input = HandleOf(handle_, isOpened_);
   // No wait for input ends when the user presses Ctrl-C, so another thread waits for it. One that
   // waits for ever ends with the program.
   const auto reading = std::make_shared<Reading>(input, room.size());
@@ -66,6 +69,14 @@ std::size_t InputBytes::Read(std::span<char> room, std::error_code& error) const
   }
   std::copy_n(reading->bytes.begin(), reading->count, room.begin());
   return reading->count;
+}
+
+bool InputBytes::IsReady() const {
+  auto* const input = HandleOf(handle_, isOpened_);
+  if (GetFileType(input) == FILE_TYPE_DISK) return true;
+  // Of a console nobody knows, and a pipe tells its end as an error.
+  DWORD count = 0;
+  return PeekNamedPipe(input, nullptr, 0, nullptr, &count, nullptr) != 0 && count > 0;
 }
 
 }  // namespace halvane

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <functional>
 #include <string_view>
+#include <thread>
 
 namespace halvane {
 
@@ -8,6 +10,10 @@ namespace halvane {
 /// so that what is done can be written; a second one ends the program at once. A program that was
 /// started to ignore one goes on ignoring it.
 void WatchForInterruption();
+
+/// Starts a thread that what asks for the end does not come to: it is for the one that may be
+/// waiting for input. Throws as `std::thread` does.
+std::thread StartUninterrupted(std::function<void()> work);
 
 /// Whether the program is asked to end.
 bool IsInterrupted();

@@ -1,6 +1,8 @@
 #include <csignal>
+#include <utility>
 
 #include "reporter/interruption.h"
+#include "reporter/interruptions_held_posix.h"
 
 namespace halvane {
 namespace {
@@ -25,6 +27,11 @@ void Watch(int signal) {
 
 void WatchForInterruption() {
   for (const int signal : {SIGINT, SIGTERM}) Watch(signal);
+}
+
+std::thread StartUninterrupted(std::function<void()> work) {
+  const InterruptionsHeld held;
+  return std::thread(std::move(work));
 }
 
 bool IsInterrupted() { return interruption != 0; }

@@ -1,5 +1,7 @@
 #include "reporter/interruption_windows.h"
 
+#include <utility>
+
 #include "reporter/interruption.h"
 
 namespace halvane {
@@ -24,6 +26,11 @@ void WatchForInterruption() {
   InterruptionEvent();
   // A program that was started to ignore Ctrl-C is never asked.
   SetConsoleCtrlHandler(NoteInterruption, TRUE);
+}
+
+std::thread StartUninterrupted(std::function<void()> work) {
+  // The system has a thread of its own for what asks for the end.
+  return std::thread(std::move(work));
 }
 
 bool IsInterrupted() { return WaitForSingleObject(InterruptionEvent(), 0) == WAIT_OBJECT_0; }

@@ -41,6 +41,10 @@ std::optional<std::string> JobList::NextName(std::vector<std::string>& complaint
   return list_ ? list_->Next(complaints) : std::nullopt;
 }
 
+bool JobList::isNextAtHand() const {
+  return folder_ || nextName_ < names_.size() || !list_ || list_->IsAtHand();
+}
+
 std::optional<std::size_t> JobList::CountLeft() const {
   if (list_) return std::nullopt;
   std::vector<std::string> ignored;

@@ -22,6 +22,9 @@ class JobList {
   /// comes as a sentence in `complaints`.
   std::optional<std::string> Next(std::vector<std::string>& complaints);
 
+  /// Whether asking for the next one does not wait for who writes the list.
+  [[nodiscard]] bool isNextAtHand() const;
+
   /// Whether the job that came last is standard input.
   [[nodiscard]] bool isStandardInput() const { return isStandardInput_; }
 

@@ -1,5 +1,6 @@
 #include "reporter/job_reports.h"
 
+#include <algorithm>
 #include <optional>
 
 #include "reporter/failure_cause.h"
@@ -41,14 +42,54 @@ std::vector<std::string> AppendReports(std::string& out, ReportWriter& writer, c
   return complaints;
 }
 
+namespace {
+
+class ReportWorker : public JobWorker {
+ public:
+  ReportWorker(std::span<const ToolRow* const> tools, LengthUnit units, ReportFormat format,
+               bool several)
+      : tools_(tools), units_(units), format_(format), several_(several) {}
+
+  JobResult Do(const JobSource& job) override {
+    JobResult result;
+    // Jobs are much alike, and room that grows as it is filled costs time.
+    result.text.reserve(std::min(lastSize_, kMostRoom));
+    const auto writer = MakeReportWriter(format_, several_);
+    result.outcome.complaints = AppendReports(result.text, *writer, job, units_, tools_);
+    result.outcome.failed = !result.outcome.complaints.empty();
+    lastSize_ = result.text.size();
+    return result;
+  }
+
+ private:
+  static constexpr std::size_t kMostRoom = std::size_t{1} << 16;  ///< that a long job leaves behind
+
+  std::span<const ToolRow* const> tools_;
+  LengthUnit units_;
+  ReportFormat format_;
+  bool several_;
+  std::size_t lastSize_ = 0;  ///< of the text of a job
+};
+
+}  // namespace
+
 ReportCommand::ReportCommand(std::vector<const ToolRow*> tools, LengthUnit units,
                              ReportFormat format, bool several)
-    : tools_(std::move(tools)), units_(units), writer_(MakeReportWriter(format, several)) {}
+    : tools_(std::move(tools)),
+      units_(units),
+      format_(format),
+      several_(several),
+      writer_(MakeReportWriter(format, several)) {}
 
-JobOutcome ReportCommand::Do(std::string& out, const JobSource& job) {
-  auto complaints = AppendReports(out, *writer_, job, units_, tools_);
-  const bool failed = !complaints.empty();
-  return {failed, std::move(complaints)};
+std::unique_ptr<JobWorker> ReportCommand::MakeWorker() const {
+  return std::make_unique<ReportWorker>(tools_, units_, format_, several_);
+}
+
+void ReportCommand::Take(std::string& out, JobResult& result) {
+  if (result.text.empty()) return;
+  if (hasReports_) out += writer_->betweenJobs();
+  hasReports_ = true;
+  out += result.text;
 }
 
 }  // namespace halvane

@@ -29,7 +29,8 @@ class ReportCommand : public JobCommand {
                 bool several);
 
   void Begin(std::string& out) override { writer_->Begin(out); }
-  JobOutcome Do(std::string& out, const JobSource& job) override;
+  [[nodiscard]] std::unique_ptr<JobWorker> MakeWorker() const override;
+  void Take(std::string& out, JobResult& result) override;
   bool End(std::string& out) override {
     writer_->End(out);
     return false;
@@ -38,7 +39,10 @@ class ReportCommand : public JobCommand {
  private:
   std::vector<const ToolRow*> tools_;
   LengthUnit units_;
-  std::unique_ptr<ReportWriter> writer_;
+  ReportFormat format_;
+  bool several_;
+  std::unique_ptr<ReportWriter> writer_;  ///< of what stands around the jobs
+  bool hasReports_ = false;               ///< of a job before
 };
 
 }  // namespace halvane

@@ -1,8 +1,8 @@
 #include "reporter/job_warnings.h"
 
 #include <algorithm>
-#include <map>
-#include <tuple>
+#include <functional>
+#include <utility>
 
 #include "reporter/field_notes.h"
 #include "reporter/field_rules.h"
@@ -28,15 +28,23 @@ bool IsSame(const TaggedField& a, const TaggedField& b) {
 }
 
 void WarnOfCopies(std::vector<JobProblem>& warnings, const FieldNotes& notes) {
-  std::map<std::tuple<std::string_view, int, int>, const FieldNote*> seen;
-  for (const FieldNote& note : notes.notes()) {
-    const FieldNote*& before = seen[{note.name.field, note.name.first, note.name.second}];
-    if (before != nullptr && !IsSame(before->value, note.value)) {
-      warnings.push_back(Warning(note, "differs from the copy on line " + PlainText(before->line) +
-                                           ", \"" + ShownField(before->found()) +
-                                           "\"; the later copy counts"));
-    }
-    before = &note;
+  std::vector<const FieldNote*> copies;
+  copies.reserve(notes.notes().size());
+  for (const FieldNote& note : notes.notes()) copies.push_back(&note);
+  // Those of one field come to stand side by side, and stay in the order of the file.
+  std::ranges::stable_sort(copies, std::less<>(), &FieldNote::place);
+  std::vector<std::pair<const FieldNote*, const FieldNote*>> differing;
+  for (std::size_t i = 1; i < copies.size(); ++i) {
+    const FieldNote* const before = copies[i - 1];
+    const FieldNote* const note = copies[i];
+    const bool isCopy = before->place == note->place;
+    if (isCopy && !IsSame(before->value, note->value)) differing.emplace_back(note, before);
+  }
+  std::ranges::sort(differing);
+  for (const auto& [note, before] : differing) {
+    warnings.push_back(Warning(*note, "differs from the copy on line " + PlainText(before->line) +
+                                          ", \"" + ShownField(before->found()) +
+                                          "\"; the later copy counts"));
   }
 }
 

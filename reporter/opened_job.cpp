@@ -58,7 +58,7 @@ void LongNames::PutBack() {
 
 JobState& OpenedState() {
   // Lives on, so that the arrays keep their memory from job to job.
-  static JobState opened;
+  static thread_local JobState opened;
   return opened;
 }
 

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <map>
 
+#include "core/number_text.h"
 #include "reporter/near_name.h"
 #include "reporter/output.h"
 #include "reporter/piped_job.h"
@@ -99,6 +100,21 @@ std::string UnitsComplaint(const std::string& name) {
          HintFor(WithoutGuard(name), NamesOf(kUnits));
 }
 
+/// The number that `text` is, of jobs done at once; nothing for any other text.
+std::optional<int> JobsAtOnceIn(const std::string& text) {
+  constexpr std::size_t kMostDigits = 3;
+  const bool isShort = !text.empty() && text.size() <= kMostDigits;
+  if (!isShort || text.find_first_not_of("0123456789") != std::string::npos) return std::nullopt;
+  const int number = static_cast<int>(*WholeTextAsNumber(text));
+  if (number < 1 || number > kMostJobsAtOnce) return std::nullopt;
+  return number;
+}
+
+std::string JobsComplaint(const std::string& text) {
+  if (JobsAtOnceIn(text)) return {};
+  return "\"" + WithoutGuard(text) + "\" is no number from 1 to " + PlainText(kMostJobsAtOnce);
+}
+
 /// The options as the parser leaves them.
 struct Given {
   std::vector<std::string> tools;
@@ -109,6 +125,7 @@ struct Given {
   std::string units;
   std::string filesFrom;
   bool null = false;
+  std::string jobs;
   std::vector<std::string> files;
 };
 
@@ -166,6 +183,7 @@ Options Collect(std::span<const ToolRow> tools, Given given) {
   if (!given.units.empty()) options.units = WordNamed(kUnits, given.units)->value;
   if (!given.filesFrom.empty()) options.list = WithoutGuard(given.filesFrom);
   options.namesEndInZero = given.null;
+  if (!given.jobs.empty()) options.jobsAtOnce = JobsAtOnceIn(given.jobs);
   options.files = std::move(given.files);
   for (std::string& file : options.files) file = WithoutGuard(std::move(file));
   return options;
@@ -214,6 +232,11 @@ void Define(CLI::App& app, Given& given, std::span<const ToolRow> tools) {
   app.add_flag("-0,--null", given.null,
                "A zero byte ends each name: in LIST, and in the lines of a check as text")
       ->disable_flag_override();
+  app.add_option("--jobs", given.jobs,
+                 "How many jobs are done at once, 1 to " + PlainText(kMostJobsAtOnce) +
+                     "; without it: as many as there are cores. The output is the same")
+      ->type_name("N")
+      ->check(JobsComplaint);
   app.add_option("FILE", given.files,
                  "Job file (.qjt), or a folder for all those in and below it; - is standard input")
       ->type_name("");
@@ -232,6 +255,23 @@ Names NamesOf(const CLI::App& app) {
   return names;
 }
 
+/// What the parser says of an option without its value, and of a value where none is expected.
+std::string InOwnWords(std::string_view said) {
+  constexpr std::string_view kMissing = ": 1 required ";
+  constexpr std::string_view kOverride = " was given a disallowed flag override";
+  if (said.ends_with(kOverride)) {
+    said.remove_suffix(kOverride.size());
+    return std::string("--").append(said).append(": takes no value");
+  }
+  const std::size_t option = said.find(kMissing);
+  if (option == std::string_view::npos) return std::string(said);
+  const std::string_view value = said.substr(option + kMissing.size());
+  return std::string(said.substr(0, option))
+      .append(": its ")
+      .append(value.substr(0, value.find(' ')))
+      .append(" is missing");
+}
+
 /// Why the parser takes no such arguments, in the words of this program where the parser's own tell
 /// of the parser.
 std::string ComplaintOf(const CLI::App& app, const CLI::ParseError& wrong) {
@@ -247,7 +287,30 @@ std::string ComplaintOf(const CLI::App& app, const CLI::ParseError& wrong) {
       return option->get_name() + ": may be given once";
     }
   }
-  return wrong.what();
+  return InOwnWords(wrong.what());
+}
+
+/// Whether the argument behind this one is its value.
+bool TakesNext(const CLI::App& app, std::string_view argument) {
+  return std::ranges::any_of(app.get_options(), [argument](const CLI::Option* option) {
+    return option->get_items_expected_min() > 0 && option->nonpositional() &&
+           argument == "--" + option->get_lnames().front();
+  });
+}
+
+/// An argument of letters and a hyphen, "-0--summary", of whose end the parser would make an
+/// argument that nobody gave; empty where there is none.
+std::string LettersWithHyphen(const CLI::App& app, const std::vector<std::string>& arguments) {
+  for (std::size_t i = 0; i < arguments.size() && arguments[i] != "--"; ++i) {
+    const std::string_view argument = arguments[i];
+    if (TakesNext(app, argument)) {
+      ++i;
+    } else if (argument.size() > 2 && argument[0] == '-' && argument[1] != '-' &&
+               argument.find('-', 2) != std::string_view::npos) {
+      return std::string(argument);
+    }
+  }
+  return {};
 }
 
 constexpr const char* kAbout =
@@ -261,6 +324,8 @@ std::variant<Options, Notice> ParseOptions(std::vector<std::string> arguments,
   Given given;
   CLI::App app(kAbout, std::string(kProgramName));
   Define(app, given, tools);
+  const std::string letters = LettersWithHyphen(app, arguments);
+  if (!letters.empty()) return Notice{true, WrongUse("there is no option \"" + letters + "\"")};
   GuardBrackets(arguments);
   std::reverse(arguments.begin(), arguments.end());  // the order that the parser takes them in
   try {

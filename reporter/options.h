@@ -16,6 +16,9 @@ namespace halvane {
 /// What messages of the program begin with.
 inline constexpr std::string_view kProgramName = "halvane-report";
 
+/// The most jobs that may be done at once.
+inline constexpr int kMostJobsAtOnce = 256;
+
 /// What is to be done with the jobs.
 enum class Wish { Reports, Summary, Check };
 
@@ -29,7 +32,8 @@ struct Options {
   std::vector<std::string> files;         ///< and folders
   /// Of the file that names the files, "-" for standard input; `files` is empty then.
   std::optional<std::string> list;
-  bool namesEndInZero = false;  ///< names in the list, and in lines of a check
+  bool namesEndInZero = false;    ///< names in the list, and in lines of a check
+  std::optional<int> jobsAtOnce;  ///< nothing: as many as there are cores
 };
 
 /// An option as shells complete it.

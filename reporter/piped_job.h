@@ -16,6 +16,9 @@ inline constexpr const char* kStandardInput = "-";
 /// /dev/fd/63; one that lies in a folder is no job file.
 class PipedJob {
  public:
+  /// Whether a job of this name comes through a pipe.
+  static bool IsPiped(const std::string& name, bool isStandardInput);
+
   /// Where the job of this name is to be read from, until the next one is asked for. Throws
   /// `FileError` where the pipe cannot be read or is longer than any job.
   JobSource SourceOf(const std::string& name, bool isStandardInput);

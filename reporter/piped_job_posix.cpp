@@ -38,9 +38,13 @@ void Copy(InputBytes& from, NamelessFile& to, const std::string& name) {
 
 }  // namespace
 
+bool PipedJob::IsPiped(const std::string& name, bool isStandardInput) {
+  return isStandardInput || IsPipeOfTheProgram(name);
+}
+
 JobSource PipedJob::SourceOf(const std::string& name, bool isStandardInput) {
   copy_.reset();
-  if (!isStandardInput && !IsPipeOfTheProgram(name)) return name;
+  if (!IsPiped(name, isStandardInput)) return name;
   InputBytes input;
   if (!isStandardInput) {
     if (const auto error = input.Open(name)) files::Fail(name, error);

@@ -20,7 +20,8 @@ enum class ReportFormat {
   Csv,  ///< of summaries alone
 };
 
-/// Puts reports into one format. Each function appends to `out`, in the order of the calls.
+/// Puts the reports of a job into one format. Each function appends to `out`, in the order of the
+/// calls.
 class ReportWriter {
  public:
   ReportWriter() = default;
@@ -46,6 +47,8 @@ class ReportWriter {
                           std::span<const ToolRow* const> tools, const ReportFailure& failure) = 0;
   /// Behind the reports on a job.
   virtual void EndJob(std::string& /*out*/) {}
+  /// What stands between the reports of one job and those of the next.
+  [[nodiscard]] virtual std::string_view betweenJobs() const { return {}; }
   /// Behind the last report.
   virtual void End(std::string& /*out*/) {}
 };

@@ -8,27 +8,56 @@ namespace {
 /// Of those that were kept, to be written in pieces.
 constexpr int kRowsAtOnce = 100;
 
+class SummaryWorker : public JobWorker {
+ public:
+  SummaryWorker(const SummaryTools& tools, LengthUnit units, ReportFormat format,
+                std::optional<std::size_t> sortColumn)
+      : tools_(tools),
+        units_(units),
+        sortColumn_(sortColumn),
+        writer_(MakeSummaryWriter(format, tools)) {}
+
+  JobResult Do(const JobSource& job) override {
+    JobResult result;
+    result.outcome.complaints = Summarise(summary_, job, units_, tools_);
+    result.outcome.failed = !result.outcome.complaints.empty();
+    if (sortColumn_) result.rank = RankOf(summary_, *sortColumn_);
+    writer_->Row(result.text, summary_);
+    return result;
+  }
+
+ private:
+  const SummaryTools& tools_;
+  LengthUnit units_;
+  std::optional<std::size_t> sortColumn_;
+  std::unique_ptr<SummaryWriter> writer_;
+  JobSummary summary_;  ///< of the job under way; a member, so that it keeps its memory
+};
+
 }  // namespace
 
 SummaryCommand::SummaryCommand(SummaryTools tools, LengthUnit units, ReportFormat format,
                                const ToolRow* sortBy)
-    : tools_(std::move(tools)), units_(units), writer_(MakeSummaryWriter(format, tools_)) {
+    : tools_(std::move(tools)),
+      units_(units),
+      format_(format),
+      writer_(MakeSummaryWriter(format, tools_)) {
   const auto place = std::ranges::find(tools_, sortBy);
   if (place != tools_.end()) sortColumn_ = static_cast<std::size_t>(place - tools_.begin());
   keeps_ = sortColumn_ || !writer_->writesAsItGoes();
 }
 
-JobOutcome SummaryCommand::Do(std::string& out, const JobSource& job) {
-  auto complaints = Summarise(summary_, job, units_, tools_);
-  if (keeps_) {
-    std::string row;
-    writer_->Row(row, summary_);
-    kept_.Add(sortColumn_ ? RankOf(summary_, *sortColumn_) : std::nullopt, std::move(row));
-  } else {
-    writer_->Row(out, summary_);
+std::unique_ptr<JobWorker> SummaryCommand::MakeWorker() const {
+  return std::make_unique<SummaryWorker>(tools_, units_, format_, sortColumn_);
+}
+
+void SummaryCommand::Take(std::string& out, JobResult& result) {
+  if (!keeps_) {
+    out += result.text;
+    return;
   }
-  const bool failed = !complaints.empty();
-  return {failed, std::move(complaints)};
+  writer_->Keep(result.text);
+  kept_.Add(result.rank, std::move(result.text));
 }
 
 bool SummaryCommand::End(std::string& out) {

@@ -16,16 +16,17 @@ class SummaryCommand : public JobCommand {
   SummaryCommand(SummaryTools tools, LengthUnit units, ReportFormat format, const ToolRow* sortBy);
 
   void Begin(std::string& out) override { writer_->Begin(out); }
-  JobOutcome Do(std::string& out, const JobSource& job) override;
+  [[nodiscard]] std::unique_ptr<JobWorker> MakeWorker() const override;
+  void Take(std::string& out, JobResult& result) override;
   bool End(std::string& out) override;
   [[nodiscard]] bool writesAsItGoes() const override { return !keeps_; }
 
  private:
   SummaryTools tools_;
   LengthUnit units_;
+  ReportFormat format_;
   std::optional<std::size_t> sortColumn_;  ///< place of the tool
   std::unique_ptr<SummaryWriter> writer_;
-  JobSummary summary_;  ///< of the job under way; a member, so that it keeps its memory
   bool keeps_ = false;
   KeptRows kept_;
   bool isEnding_ = false;

@@ -24,8 +24,10 @@ class SummaryWriter {
   /// Behind the last job.
   virtual void End(std::string& /*out*/) {}
 
-  // What is kept until the last row is there.
+  // What is kept until the last row is there. `Row` may be that of other writers like this one.
 
+  /// Looks at a row that is to be kept.
+  virtual void Keep(std::string_view /*row*/) {}
   /// Before the first kept row is written.
   virtual void BeginKept(std::string& /*out*/) {}
   /// A row that `Row` has made before, in whatever order they are wanted.

@@ -46,7 +46,6 @@ void TextSummary::Row(std::string& out, const JobSummary& summary) {
   Cells cells{{PrintableText(summary.file)}};
   if (summary.failure) {
     cells.push_back({PrintableText(summary.failure->message)});
-    Widen(cells);
     AppendKept(out, cells);
     return;
   }
@@ -66,9 +65,10 @@ void TextSummary::Row(std::string& out, const JobSummary& summary) {
       }
     }
   }
-  Widen(cells);
   AppendKept(out, cells);
 }
+
+void TextSummary::Keep(std::string_view row) { Widen(CellsOf(row)); }
 
 TextSummary::Cells TextSummary::Headings() const {
   Cells headings{{"File"}, {"Analyst"}, {"Job"}, {"Workstation"}};
@@ -78,6 +78,16 @@ TextSummary::Cells TextSummary::Headings() const {
     }
   }
   return headings;
+}
+
+TextSummary::Cells TextSummary::CellsOf(std::string_view keptRow) {
+  Cells cells;
+  while (!keptRow.empty()) {
+    const std::size_t end = keptRow.find(kCellEnd);
+    cells.push_back({std::string(keptRow.substr(1, end - 1)), keptRow.front() == kNumberMark});
+    keptRow.remove_prefix(end + 1);
+  }
+  return cells;
 }
 
 void TextSummary::Widen(const Cells& cells) {
@@ -107,14 +117,6 @@ void TextSummary::BeginKept(std::string& out) {
   AppendLine(out, headings);
 }
 
-void TextSummary::Kept(std::string& out, std::string_view row) {
-  Cells cells;
-  while (!row.empty()) {
-    const std::size_t end = row.find(kCellEnd);
-    cells.push_back({std::string(row.substr(1, end - 1)), row.front() == kNumberMark});
-    row.remove_prefix(end + 1);
-  }
-  AppendLine(out, cells);
-}
+void TextSummary::Kept(std::string& out, std::string_view row) { AppendLine(out, CellsOf(row)); }
 
 }  // namespace halvane

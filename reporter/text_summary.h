@@ -12,6 +12,7 @@ class TextSummary : public SummaryWriter {
 
   /// Appends the cells of the row as they are kept.
   void Row(std::string& out, const JobSummary& summary) override;
+  void Keep(std::string_view row) override;
   void BeginKept(std::string& out) override;
   void Kept(std::string& out, std::string_view row) override;
   [[nodiscard]] bool writesAsItGoes() const override { return false; }
@@ -27,6 +28,7 @@ class TextSummary : public SummaryWriter {
     bool isNumber = false;  ///< one of its cells at least is
   };
 
+  static Cells CellsOf(std::string_view keptRow);
   [[nodiscard]] Cells Headings() const;
   void Widen(const Cells& cells);
   void AppendLine(std::string& out, const Cells& cells) const;

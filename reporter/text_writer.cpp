@@ -130,6 +130,8 @@ void TextWriter::AppendHeading(std::string& out, std::string_view file, const To
   out += kLineEnd;
 }
 
+std::string_view TextWriter::betweenJobs() const { return withHeadings_ ? kLineEnd : ""; }
+
 void TextWriter::Report(std::string& out, std::string_view file, const ToolRow& tool,
                         const RichText& report, const std::vector<WorkingValue>& /*results*/) {
   AppendHeading(out, file, tool);

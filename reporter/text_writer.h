@@ -20,6 +20,7 @@ class TextWriter : public ReportWriter {
   void FileFailed(std::string& /*out*/, std::string_view /*file*/,
                   std::span<const ToolRow* const> /*tools*/,
                   const ReportFailure& /*failure*/) override {}
+  [[nodiscard]] std::string_view betweenJobs() const override;
 
  private:
   void AppendHeading(std::string& out, std::string_view file, const ToolRow& tool);

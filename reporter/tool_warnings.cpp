@@ -7,6 +7,8 @@
 #include "core/units.h"
 #include "reporter/failure_cause.h"
 #include "reporter/opened_job.h"
+#include "tools/ctd/ctd_input.h"
+#include "tools/ctd/ctd_score.h"
 
 namespace halvane {
 namespace {
@@ -32,13 +34,14 @@ class ToolWarnings {
   ToolWarnings(std::vector<JobProblem>& warnings, const FieldNotes& notes)
       : warnings_(warnings), notes_(notes) {}
 
-  /// Runs a tool on `Module1`, which is `opened`.
-  void Try(const ToolRow& tool, const JobState& opened) {
-    const auto failure = FailureOf(tool);
+  /// Runs a tool on `Module1`, which is `opened`; `compute` is what it computes.
+  template <typename Compute>
+  void Try(const ToolRow& tool, const JobState& opened, const Compute& compute) {
+    const auto failure = FailureOf(compute);
     if (!failure || !failed_.insert(tool.tool).second) return;
     const auto gap = GapMet(tool);
     const auto field = FieldThatFails(opened, [&] {
-      const auto stopped = FailureOf(tool);
+      const auto stopped = FailureOf(compute);
       return stopped && stopped->kind == failure->kind;
     });
     if (!field) return;
@@ -53,9 +56,10 @@ class ToolWarnings {
   }
 
  private:
-  static std::optional<ReportFailure> FailureOf(const ToolRow& tool) {
-    return halvane::Try([&tool]() -> std::optional<ReportFailure> {
-      tool.headline->compute();
+  template <typename Compute>
+  static std::optional<ReportFailure> FailureOf(const Compute& compute) {
+    return halvane::Try([&compute]() -> std::optional<ReportFailure> {
+      compute();
       return std::nullopt;
     });
   }
@@ -78,18 +82,19 @@ class ToolWarnings {
 void WarnOfFailures(std::vector<JobProblem>& warnings, const FieldNotes& notes) {
   std::vector<const ToolRow*> all;
   for (const ToolRow& tool : Tools()) all.push_back(&tool);
-  std::vector<const ToolRow*> spans{&RowOf(Tool::Ctd)};
   ToolWarnings told(warnings, notes);
   JobState job = Module1;
-  // Files do not say what their hand spans are taken in, and only one tool asks.
-  for (const auto& [units, tools] :
-       {std::pair{LengthUnit::Metric, &all}, std::pair{LengthUnit::English, &spans}}) {
-    Module1 = job;
-    Module1.Units = static_cast<Integer>(units);
-    ForEachTool(*tools, [&told](const ToolRow& tool, std::size_t /*place*/) {
-      told.Try(tool, OpenedState());
-    });
-  }
+  Module1.Units = static_cast<Integer>(LengthUnit::Metric);
+  ForEachTool(all, [&told](const ToolRow& tool, std::size_t /*place*/) {
+    told.Try(tool, OpenedState(), [&tool] { tool.headline->compute(); });
+  });
+  // Files do not say what their hand spans are taken in, and only one computation asks.
+  Module1 = job;
+  Module1.Units = static_cast<Integer>(LengthUnit::English);
+  const JobState english = Module1;
+  told.Try(RowOf(Tool::Ctd), english, [] {
+    if (CtdOpen()) CTDcalculate();
+  });
   Module1 = std::move(job);
 }
 

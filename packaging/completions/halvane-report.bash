@@ -24,7 +24,7 @@ _halvane_report() {
     --files-from) return ;;
   esac
   if [[ $current == -* ]]; then
-    mapfile -t COMPREPLY < <(compgen -W "-h --help -V --version --tool --summary --sort --check --format --units --files-from -0 --null" -- "$current")
+    mapfile -t COMPREPLY < <(compgen -W "-h --help -V --version --tool --summary --sort --check --format --units --files-from -0 --null --jobs" -- "$current")
   fi
 }
 complete -o default -F _halvane_report halvane-report

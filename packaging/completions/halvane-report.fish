@@ -9,3 +9,4 @@ complete -c halvane-report -l format -x -a 'text json html csv' -d 'text default
 complete -c halvane-report -l units -x -a 'metric english' -d 'metric default or english, what the hand spans of the jobs are taken in'
 complete -c halvane-report -l files-from -r -d 'A file that names the files, one a line'
 complete -c halvane-report -s 0 -l null -d 'A zero byte ends each name, in LIST, and in the lines of a check as text'
+complete -c halvane-report -l jobs -d 'How many jobs are done at once, 1 to 256'

@@ -155,5 +155,19 @@ TEST(RichText, ClearingTakesTextAndFormatAwayAndKeepsTheLock) {
   EXPECT_EQ(pane.paragraphs()[1], Paragraph{});
 }
 
+TEST(RichText, DropsWhatIsAppendedWhereNobodyReadsIt) {
+  RichText pane(RichText::Appended::Dropped);
+  pane.SetTabCount(1);
+  pane.Append("a", kTab, "b", kNewLine);
+  pane.AppendPicture("ctd/report");
+  EXPECT_EQ(pane.text(), "");
+  EXPECT_TRUE(pane.pictures().empty());
+  // What fails in a report does so all the same.
+  EXPECT_THROW(pane.SetTab(1, 100), RuntimeFailure);
+  pane.Clear();
+  pane.Append("c");
+  EXPECT_EQ(pane.text(), "");
+}
+
 }  // namespace
 }  // namespace halvane

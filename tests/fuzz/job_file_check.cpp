@@ -1,9 +1,5 @@
 #include "tests/fuzz/job_file_check.h"
 
-#include <sys/mman.h>
-#include <unistd.h>
-
-#include <cstdlib>
 #include <variant>
 
 #include "core/job_fields.h"
@@ -11,30 +7,10 @@
 #include "core/job_text.h"
 #include "core/job_text_encoding.h"
 #include "core/runtime_failure.h"
+#include "tests/fuzz/memory_file.h"
 
 namespace halvane {
 namespace {
-
-/// A file without a folder, which the reader opens by its path like any other.
-class MemoryFile {
- public:
-  explicit MemoryFile(std::string_view bytes) : descriptor_(memfd_create("job", MFD_CLOEXEC)) {
-    if (descriptor_ < 0) std::abort();
-    while (!bytes.empty()) {
-      const ssize_t written = write(descriptor_, bytes.data(), bytes.size());
-      if (written <= 0) std::abort();
-      bytes.remove_prefix(static_cast<std::size_t>(written));
-    }
-  }
-  ~MemoryFile() { close(descriptor_); }
-  MemoryFile(const MemoryFile&) = delete;
-  MemoryFile& operator=(const MemoryFile&) = delete;
-
-  [[nodiscard]] std::string path() const { return "/proc/self/fd/" + std::to_string(descriptor_); }
-
- private:
-  int descriptor_;
-};
 
 /// Looks at every text of a job.
 class TextScan {

@@ -41,6 +41,12 @@ TEST(FailureCause, IsTheFirstFieldWithWhichTheToolFails) {
   EXPECT_EQ(FieldOf(Opened(folder, twice), Tool::Reba), "none");
 }
 
+TEST(FailureCause, IsTheNumberOfTasksWhereNoTaskCanBeMeant) {
+  const TemporaryFolder folder;
+  EXPECT_EQ(FieldOf(Opened(folder, EmptyJobText("-0.001")), Tool::Ctd), "TaskCount -0.001");
+  EXPECT_EQ(FieldOf(Opened(folder, EmptyJobText("0")), Tool::Ctd), "none");
+}
+
 TEST(FailureCause, OfTwoFactorsIsTheOneThatComesLast) {
   const TemporaryFolder folder;
   std::string task = UntouchedTaskText(1);

@@ -59,6 +59,11 @@ TEST(ReportOptions, FileNamesAreTakenAsTheyAre) {
   EXPECT_EQ(Parsed(names).files, names);
 }
 
+TEST(ReportOptions, NamesWithHyphensAreNoLetters) {
+  EXPECT_EQ(Parsed({"--files-from", "-a-b"}).list, "-a-b");
+  EXPECT_EQ(Parsed({"a-b", "--", "-0-b"}).files, (std::vector<std::string>{"a-b", "-0-b"}));
+}
+
 TEST(ReportOptions, BehindTwoHyphensEverythingIsAFile) {
   EXPECT_EQ(Parsed({"--", "--tool", "-x"}).files, (std::vector<std::string>{"--tool", "-x"}));
 }
@@ -88,6 +93,12 @@ TEST(ReportOptions, InputNamesTheFilesInJsonUnlessAskedOtherwise) {
   EXPECT_TRUE(options.files.empty());
   EXPECT_EQ(options.format, ReportFormat::Json);
   EXPECT_EQ(Parsed({"--files-from=-", "--format", "text"}).format, ReportFormat::Text);
+}
+
+TEST(ReportOptions, JobsAtOnceAreANumber) {
+  EXPECT_FALSE(Parsed({"a"}).jobsAtOnce);
+  EXPECT_EQ(Parsed({"--jobs", "1", "a"}).jobsAtOnce, 1);
+  EXPECT_EQ(Parsed({"--jobs=256", "--check", "a"}).jobsAtOnce, 256);
 }
 
 TEST(ReportOptions, CheckIsTextOrJson) {
@@ -127,13 +138,30 @@ TEST(ReportOptions, WrongUseIsToldInOneLineAndAHint) {
       {"two formats", {"--format", "json", "--format", "text", "a"}, "--format: may be given once"},
       {"two units", {"--units", "metric", "--units=english", "a"}, "--units: may be given once"},
       {"two lists", {"--files-from", "a", "--files-from", "b"}, "--files-from: may be given once"},
-      {"option without value", {"a", "--format"}, "--format: 1 required NAME missing"},
+      {"option without value", {"a", "--format"}, "--format: its NAME is missing"},
       {"zero bytes of nothing",
        {"--null", "a"},
        "--null: is for --files-from and for --check as text"},
       {"zero bytes in objects",
        {"-0", "--check", "--format", "json", "a"},
        "--null: is for --files-from and for --check as text"},
+      {"a flag with a value", {"--summary=no", "a"}, "--summary: takes no value"},
+      {"letters and an option", {"-0--summary", "a"}, "there is no option \"-0--summary\""},
+      {"letters and two hyphens", {"-0-", "a"}, "there is no option \"-0-\""},
+      {"no job at once", {"--jobs", "0", "a"}, "--jobs: \"0\" is no number from 1 to 256"},
+      {"fewer than none", {"--jobs", "-1", "a"}, "--jobs: \"-1\" is no number from 1 to 256"},
+      {"a letter of jobs", {"--jobs", "x", "a"}, "--jobs: \"x\" is no number from 1 to 256"},
+      {"too many jobs", {"--jobs", "257", "a"}, "--jobs: \"257\" is no number from 1 to 256"},
+      {"far too many jobs",
+       {"--jobs", "99999999999999999999", "a"},
+       "--jobs: \"99999999999999999999\" is no number from 1 to 256"},
+      {"half a job", {"--jobs", "1.5", "a"}, "--jobs: \"1.5\" is no number from 1 to 256"},
+      {"a number and more", {"--jobs", "2x", "a"}, "--jobs: \"2x\" is no number from 1 to 256"},
+      {"a plus", {"--jobs", "+2", "a"}, "--jobs: \"+2\" is no number from 1 to 256"},
+      {"no number of jobs", {"--jobs", "", "a"}, "--jobs: \"\" is no number from 1 to 256"},
+      {"blanks", {"--jobs", " 2", "a"}, "--jobs: \" 2\" is no number from 1 to 256"},
+      {"jobs without a number", {"a", "--jobs"}, "--jobs: its N is missing"},
+      {"two numbers of jobs", {"--jobs", "2", "--jobs=2", "a"}, "--jobs: may be given once"},
       {"standard input twice", {"-", "a", "-"}, "-: may be given once"},
       {"files from input and a file",
        {"--files-from", "-", "a"},

@@ -70,6 +70,7 @@ std::string Written(SummaryWriter& writer, const std::vector<JobSummary>& summar
   } else {
     std::vector<std::string> rows(summaries.size());
     for (std::size_t i = 0; i < rows.size(); ++i) writer.Row(rows[i], summaries[i]);
+    for (const std::string& row : rows) writer.Keep(row);
     writer.BeginKept(out);
     for (const std::string& row : rows) writer.Kept(out, row);
   }

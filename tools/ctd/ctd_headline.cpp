@@ -16,7 +16,7 @@ constexpr double kFullBar = 20;
 bool Compute() {
   if (!CtdOpen()) return false;
   // The report fails at a code without a caption, which the computation does not look at.
-  RichText page;
+  RichText page(RichText::Appended::Dropped);
   CtdComputeAndReport(page);
   return true;
 }
