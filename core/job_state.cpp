@@ -1,6 +1,7 @@
 #include "core/job_state.h"
 
 #include <cmath>
+#include <thread>
 
 namespace halvane {
 namespace {
@@ -46,9 +47,20 @@ void ForEachTaskArray(JobState& job, const Action& action) {
   action(job.CtdTaskPostureScore);
 }
 
+// What is of a thread is gone before what was registered for the program's end is called, so the
+// job of the first thread is no such thing.
+JobState firstJob;
+const std::thread::id kFirstThread = std::this_thread::get_id();
+
+JobState& JobOfThisThread() {
+  if (std::this_thread::get_id() == kFirstThread) return firstJob;
+  static thread_local JobState job;
+  return job;
+}
+
 }  // namespace
 
-thread_local JobState Module1;
+thread_local JobState& Module1 = JobOfThisThread();
 
 FixedArray<Integer, 14> JobState::AllThree() {
   FixedArray<Integer, 14> choices;

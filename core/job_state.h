@@ -205,8 +205,10 @@ struct JobState {
   static FixedArray<Integer, 14> AllThree();
 };
 
-/// The one instance. A program that computes in several threads has one in each of them.
-extern thread_local JobState Module1;
+/// The one instance. A program that computes in several threads has one in each of them; that of
+/// the thread that starts the program lives until its very end, so that what is registered for the
+/// end can still save it.
+extern thread_local JobState& Module1;
 
 /// Makes the job the empty job. `JobDirty`, `Units`, `CurrentTask`, `JobFileFlag` and all working
 /// values stay, so a job that was changed still counts as changed.
