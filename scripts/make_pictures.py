@@ -6,6 +6,7 @@ Usage: make_pictures.py [FOLDER]      the folder is "assets" if not given
 The table of pictures is pictures/catalog.py; the same table always gives the same bytes.
 """
 
+import argparse
 import sys
 from pathlib import Path
 
@@ -16,7 +17,9 @@ from pictures.catalog import pictures  # noqa: E402
 
 
 def main():
-    folder = Path(sys.argv[1] if len(sys.argv) > 1 else "assets")
+    parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
+    parser.add_argument("folder", metavar="FOLDER", nargs="?", type=Path, default=Path("assets"))
+    folder = parser.parse_args().folder
     for asset, document in pictures():
         path = folder / f"{asset}.svg"
         path.parent.mkdir(parents=True, exist_ok=True)

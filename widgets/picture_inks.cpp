@@ -17,8 +17,8 @@ constexpr std::array kInks{
     PictureInk{"figure", "#797d85", "#757a83"},
     PictureInk{"accent", "#082a84", "#cae0ff"},
     PictureInk{"guide",  "#14171c", "#ffffff"},
-    PictureInk{"range",  "#b9cdf5", "#27406f"},
-    PictureInk{"object", "#e3e6ea", "#3f444c"},
+    PictureInk{"range",  "#b9cdf5", "#36599b"},
+    PictureInk{"object", "#e3e6ea", "#565c66"},
 };
 // clang-format on
 /// What parts limbs from each other in the files.

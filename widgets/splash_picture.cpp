@@ -4,6 +4,8 @@
 #include <QPainter>
 #include <QRegion>
 #include <QResource>
+#include <algorithm>
+#include <bit>
 #include <cmath>
 #include <utility>
 #include <vector>
@@ -23,22 +25,19 @@ QRegion RegionOf(const QImage& mask) {
   for (int y = 0; y < mask.height(); ++y) {
     const uchar* row = mask.constScanLine(y);
     int left = -1;
-    for (int x = 0; x < width; ++x) {
-      const unsigned byte = row[x / 8] ^ turn;
-      // Eight pixels at a time where none of them ends a span.
-      const unsigned same = left < 0 ? 0 : 0xFFU;
-      if (x % 8 == 0 && byte == same && x + 8 <= width) {
-        x += 7;
-        continue;
+    unsigned before = 0;
+    for (int x = 0; x < width; x += 8) {
+      // Bits behind the last pixel are outside.
+      const unsigned padding = (1U << std::max(0, x + 8 - width)) - 1;
+      const unsigned byte = (row[x / 8] ^ turn) & ~padding;
+      // A set bit for each pixel that is not what the pixel before it is.
+      auto ends = static_cast<uchar>(byte ^ (byte >> 1 | before << 7));
+      for (; ends != 0; ends &= static_cast<uchar>(0x7FU >> std::countl_zero(ends))) {
+        const int edge = x + std::countl_zero(ends);
+        if (left >= 0) spans.emplace_back(left, y, edge - left, 1);
+        left = left < 0 ? edge : -1;
       }
-      const bool inside = (byte >> (7 - x % 8) & 1U) != 0;
-      if (inside == (left >= 0)) continue;
-      if (inside) {
-        left = x;
-      } else {
-        spans.emplace_back(left, y, x - left, 1);
-        left = -1;
-      }
+      before = byte & 1;
     }
     if (left >= 0) spans.emplace_back(left, y, width - left, 1);
   }

@@ -8,10 +8,11 @@ import math
 from dataclasses import dataclass, field
 
 from pictures import body
-from pictures.inks import ACCENT, FIGURE
+from pictures.inks import ACCENT, EDGE, FIGURE
 from pictures.svg import Frame, disc, polar, polyline, smooth
 
-LIFT = 24  # degrees to the side, of a leg that is off the ground
+APART = 6  # degrees to the side, of legs from the front
+CHIN = 0.4  # width of the hairline between a head and its neck
 LOWER = 55.4  # height in the picture where what goes on is cut off
 
 
@@ -24,10 +25,10 @@ class View:
 
 
 # One view a joint: its pictures share scale and ground in all tools.
-ARM_SIDE = View(0.72, (24.2, 41))
+ARM_SIDE = View(0.72, (23, 41))
 ELBOW_SIDE = View(0.82, (19, 44.4))
-TRUNK_SIDE = View(0.56, (21.2, 35.4))
-NECK_SIDE = View(1.34, (22, 81.6))
+TRUNK_SIDE = View(0.6, (20.8, 36.6))
+NECK_SIDE = View(1.42, (22, 84.2))
 LEGS = View(0.82, (24, 10.6))
 LEGS_FRONT = View(0.82, (28, 10.6))
 ARM_FRONT = View(0.68, (40, 40.2))
@@ -95,8 +96,8 @@ class SideFigure:
         bend = Frame(self.neck, self.view.scale, self.pose.trunk + self.pose.neck / 2)
         forward = min(1, max(0, self.pose.neck / 70))
         back = [low + (high - low) * forward for low, high in zip(body.OCCIPUT, body.CREST)]
-        return smooth([torso.at(*body.NAPE), bend.at(-4.2, -4.6), head.at(*back),
-                       head.at(0, -12), head.at(*body.JAW), bend.at(3.4, -2.6 + 2.4 * forward),
+        return smooth([torso.at(*body.NAPE), bend.at(-4.2 + 0.9 * forward, -4.6), head.at(*back),
+                       head.at(0, -10.4), head.at(*body.JAW), bend.at(3.4, -2.2 + 2.4 * forward),
                        torso.at(*body.THROAT), torso.at(-1, -28)])
 
     def head_paths(self):
@@ -125,6 +126,7 @@ class SideFigure:
         moving = self.pose.moving
         drawing.solid([*self.leg_paths(), *self.pelvis_paths(), *self.trunk_paths(),
                        *self.head_paths()], FIGURE)
+        self.draw_face(drawing, FIGURE)
         parts = {"upper_arm": self.arm.upper_paths, "forearm": self.arm.lower_paths}
         still = [path for name, paths in parts.items() if name not in moving for path in paths]
         if still:
@@ -137,10 +139,17 @@ class SideFigure:
         """Standing legs, the far arm and the head in grey, the trunk in the accent colour."""
         drawing.solid(self.leg_paths(3.2), FIGURE)
         drawing.solid([*self.arm.upper_paths, *self.arm.lower_paths], FIGURE)
-        drawing.solid(self.head_paths(), FIGURE)
         between()
+        drawing.solid(self.head_paths(), FIGURE)
+        self.draw_face(drawing, FIGURE)
         drawing.solid(self.trunk_paths(), ACCENT)
         drawing.solid([*self.leg_paths(), *self.pelvis_paths()], FIGURE)
+
+    def draw_face(self, drawing, colour):
+        """A hairline under jaw and skull, so that a bent head stays a head, the ear and an eye."""
+        drawing.solid(self.head_paths()[:1], colour, edge=CHIN)
+        drawing.line(polyline(self.head.all(body.SIDE_EYE)), EDGE, 0.9)
+        drawing.line(smooth(self.head.all(body.SIDE_EAR), closed=False), EDGE, 0.7)
 
     def draw_neck(self, drawing, between=lambda: None):
         """Trunk and arm in grey, neck and head in the accent colour."""
@@ -149,6 +158,7 @@ class SideFigure:
                       FIGURE)
         between()
         drawing.solid(self.head_paths(), ACCENT)
+        self.draw_face(drawing, ACCENT)
         # Shoulder and arm come before the root of the neck.
         drawing.solid([cut(Frame(self.shoulder, s), body.SIDE_UPPER_ARM),
                        cut(Frame(self.arm.elbow, s), body.SIDE_FOREARM)], FIGURE)
@@ -180,10 +190,10 @@ class KneesFigure:
         lean = Frame(self.hip, self.scale, self.thigh * 0.5)
         trunk = smooth([(x, max(y, 0.6)) for x, y in Frame(lean.at(0, -4), self.scale, lean.turn)
                         .all(body.SIDE_TRUNK)], tension=8)
-        drawing.solid(self.leg_paths(3.4), FIGURE)
+        drawing.solid(self.leg_paths(-8), FIGURE)
+        drawing.solid([trunk, outline(lean, body.SIDE_PELVIS)], FIGURE)
         between()
-        drawing.solid([*self.leg_paths(), outline(lean, body.SIDE_PELVIS)], ACCENT)
-        drawing.solid([trunk], FIGURE)
+        drawing.solid(self.leg_paths(), ACCENT)
 
 
 def front_half(frame, corners, side):
@@ -227,31 +237,29 @@ class FrontArm:
         return self.upper_paths + self.lower_paths
 
 
-def front_body(drawing, view, colour=FIGURE):
-    """Head, trunk and legs of the figure that faces the reader; `colour` is of trunk and neck."""
+def front_body(drawing, view):
+    """Head, trunk and legs of the figure that faces the reader."""
     s, torso = view.scale, Frame(view.hip, view.scale)
     legs = [cut(torso, [(side * x, y) for x, y in body.FRONT_LEG]) for side in (-1, 1)]
     root = Frame(torso.at(0, -31), s)
     trunk = [front_whole(torso, body.FRONT_TRUNK), front_whole(root, body.FRONT_NECK)]
     head = front_whole(root, body.FRONT_HEAD)
-    if colour == FIGURE:
-        drawing.solid([*legs, *trunk, head], FIGURE)
-    else:
-        drawing.solid(legs, FIGURE)
-        drawing.solid(trunk, colour)
-        drawing.solid([head], FIGURE)
+    drawing.solid([*legs, *trunk, head], FIGURE)
+    drawing.solid([head], FIGURE, edge=CHIN)
 
 
 def front_legs(drawing, view, lifted):
-    """Pelvis and legs from the front; the weight is on the legs in the accent colour."""
+    """Pelvis and legs from the front, a little apart; the accent is on those that bear weight."""
     torso = Frame(view.hip, view.scale)
     trunk = smooth([(x, max(y, 0.6)) for x, y in _whole(torso, body.FRONT_TRUNK)], tension=8)
-    right = smooth(front_half(torso, body.FRONT_LEG, -1))
-    raised = Frame(view.hip, view.scale, -LIFT if lifted else 0)
-    left = smooth(front_half(raised, body.FRONT_LEG, 1))
+    right, left = (Frame(view.hip, view.scale, side * APART) for side in (1, -1))
     drawing.solid([trunk], FIGURE)
-    drawing.solid([left], FIGURE if lifted else ACCENT)
-    drawing.solid([right], ACCENT)
+    if lifted:
+        for part in (body.FRONT_RAISED_SHANK, body.FRONT_RAISED_THIGH):
+            drawing.solid([smooth(front_half(left, part, 1))], FIGURE)
+    else:
+        drawing.solid([smooth(front_half(left, body.FRONT_LEG, 1))], ACCENT)
+    drawing.solid([smooth(front_half(right, body.FRONT_LEG, -1))], ACCENT)
 
 
 def _whole(frame, half):

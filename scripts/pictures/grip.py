@@ -7,7 +7,7 @@ over the roots of its fingers, so that they grow from it.
 import math
 
 from pictures.inks import ACCENT, EDGE, FIGURE, GUIDE, OBJECT
-from pictures.svg import Drawing, capsule, disc, limb, polar, polygon, polyline, smooth
+from pictures.svg import Drawing, capsule, curl, disc, limb, polar, polygon, polyline, smooth
 
 THUMB = [4.4, 3.9, 3.2, 2.4]
 CREASE = 0.62  # of a finger's thickness
@@ -90,41 +90,59 @@ def lateral_pinch(title):
     return drawing
 
 
-# The open hand of the pinches: back of the hand and forearm, from which fingers go to the left.
+# The hand of the other pinches, from its thumb's side, from which fingers go to the left.
 BACK = [
-    (37.4, 15.4), (41.4, 14.4), (45.6, 17.4), (50.4, 24.4), (52.6, 33), (51.4, 42), (46, 46.4),
-    (41.4, 45), (40.6, 40.4), (42.4, 34), (40.6, 27), (36.4, 21),
+    (48, 26.6), (42, 23.6), (36.4, 20.2), (32.4, 19.2), (29.8, 22), (29.6, 26.4), (32.6, 29.8),
+    (35.6, 34.6), (38, 42), (42, 44), (48, 41.6),
 ]
-BACK_FOREARM = [(50, 24), (55.4, 30), (55.4, 52), (45, 46.2)]
+BACK_FOREARM = [(46, 26.4), (55.4, 28.4), (55.4, 43), (46, 41.8)]
+PINCHING_THUMB = [4.4, 4, 3.2, 2.2]
+PINCHING_FINGER = [4, 3.4, 2.8, 2.1]
 
 
 def _back(drawing):
     drawing.solid([smooth(BACK), polygon(BACK_FOREARM)], FIGURE)
 
 
+def _soft(drawing, joints, radii, colour=ACCENT):
+    """A finger or thumb with straight bones, round joints and a crease on each one's inner side."""
+    spine, widths = [joints[0]], [radii[0]]
+    for (start, end), (thick, thin) in zip(zip(joints, joints[1:]), zip(radii, radii[1:])):
+        for share in (0.3, 0.7, 1):
+            spine.append(tuple(a + (b - a) * share for a, b in zip(start, end)))
+            widths.append(thick + (thin - thick) * share)
+    drawing.solid([curl(spine, widths)], colour, edge=0.8)
+    for before, at, after, radius in zip(joints, joints[1:], joints[2:], radii[1:]):
+        inner = math.degrees(math.atan2((before[0] + after[0]) / 2 - at[0],
+                                        at[1] - (before[1] + after[1]) / 2))
+        drawing.line(polyline([polar(at, radius * share, inner) for share in (0.1, 0.9)]),
+                     EDGE, 0.6)
+
+
 def two_point_pinch(title):
-    """A small ball between the pads of thumb and index finger."""
+    """A small ball between the pads of thumb and index finger; the others keep away."""
     drawing = Drawing(title)
     for joints, radii in (
-            ([(47, 24), (51, 15.4), (51.4, 8.6)], [2.7, 2.3, 1.7]),
-            ([(44.4, 22), (46, 11.4), (44.6, 3.8)], [3, 2.6, 1.9]),
-            ([(40.6, 21), (38, 9.6), (34.4, 3.4)], [3.2, 2.7, 2])):
-        _bent(drawing, joints, radii, FIGURE)
-    _object(drawing, [disc((12.4, 28.6), 3.6)])
-    _bent(drawing, [(40.4, 20.6), (26.6, 12.6), (17.4, 16.4), (13, 23.8)], [3.6, 3, 2.4, 1.9])
-    _bent(drawing, [(45, 40.6), (34, 41.4), (22.6, 38.4), (14.6, 33)], [4.6, 3.6, 2.9, 2])
+            ([(38, 24), (37, 13.6), (34, 7), (30.6, 3.8)], [2.8, 2.5, 2.2, 1.7]),
+            ([(35, 23), (30, 11), (24, 5.4), (18.6, 3.8)], [3.2, 2.8, 2.4, 1.9]),
+            ([(32, 23.4), (23.4, 12), (15.6, 8.4), (9, 8.6)], [3.4, 2.9, 2.4, 1.9])):
+        _soft(drawing, joints, radii, FIGURE)
+    _object(drawing, [disc((8.8, 36), 3.7)])
+    _soft(drawing, [(31.4, 24), (18.6, 16.6), (10.8, 23), (9.6, 31.6)], PINCHING_FINGER)
     _back(drawing)
+    _soft(drawing, [(44.6, 36.4), (33.4, 43.6), (21.6, 44.4), (11.4, 40.4)], PINCHING_THUMB)
     return drawing
 
 
 def chuck_pinch(title):
     """A cap between the pads of thumb, index and middle finger; the others lie in the palm."""
     drawing = Drawing(title)
-    _bent(drawing, [(45, 35), (37.4, 36.6)], [3, 2.6], FIGURE)
-    _bent(drawing, [(44, 28.6), (35, 30)], [3.2, 2.8], FIGURE)
-    _bent(drawing, [(41, 19), (24.6, 5.6), (13.4, 9), (8.8, 18)], [3.6, 3, 2.5, 2])
-    _object(drawing, [disc((12, 27.6), 7.4)])
-    _bent(drawing, [(41, 22.6), (29, 12.6), (20.4, 16.2), (16.6, 23)], [3.5, 2.9, 2.4, 1.9])
-    _bent(drawing, [(45, 41.6), (34, 44.4), (22.6, 41.8), (15, 35.6)], [4.6, 3.6, 2.9, 2])
+    for root, tip, radius in (((36, 34.6), (28.4, 36.6), 3), ((34, 28.6), (25, 30.6), 3.4)):
+        drawing.solid([capsule(root, radius, tip, radius * 0.9)], FIGURE, edge=0.8)
+        _nail(drawing, polar(tip, 0.6, 75), 255, radius * 0.8)
+    _soft(drawing, [(30, 22), (15, 10.4), (6.2, 17), (5.6, 26.4)], PINCHING_FINGER)
+    _object(drawing, [disc((9.8, 34.8), 6.4)])
+    _soft(drawing, [(31.4, 24), (19.6, 15.6), (12.6, 21.4), (12, 29.4)], PINCHING_FINGER)
     _back(drawing)
+    _soft(drawing, [(44.6, 36.4), (33.4, 45), (21.6, 47), (11.6, 43)], PINCHING_THUMB)
     return drawing

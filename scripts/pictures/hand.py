@@ -5,13 +5,15 @@ from above, the thumb of the right hand is on the left.
 """
 
 from pictures.inks import ACCENT, EDGE, FIGURE, GUIDE
-from pictures.protractor import Protractor, Reach
+from pictures.protractor import DASH, Protractor, Reach
 from pictures.svg import (
     Drawing,
     Frame,
+    arc,
     capsule,
     curl,
     disc,
+    polar,
     polygon,
     polyline,
     smooth,
@@ -19,16 +21,20 @@ from pictures.svg import (
 
 # Fingers of the back view, from the far one to the near one: joints and radii.
 FINGERS_ABOVE = [
-    ([(6, -11.5), (7.6, -16.6), (8.5, -21.4)], [2.05, 1.85, 1.5]),
-    ([(2.7, -13), (3.3, -20), (3.7, -26.4)], [2.2, 2.0, 1.65]),
-    ([(-1.4, -13.4), (-1.5, -21.2), (-1.5, -28.6)], [2.25, 2.05, 1.7]),
-    ([(-5.2, -12.6), (-6, -19.4), (-6.7, -26)], [2.2, 2.0, 1.65]),
+    ([(6.1, -11.5), (7.1, -16.8), (7.5, -21.6)], [2.05, 1.85, 1.5]),
+    ([(2.6, -13), (3, -20), (3.1, -26.6)], [2.2, 2.0, 1.65]),
+    ([(-1.5, -13.4), (-1.5, -21.2), (-1.4, -28.8)], [2.25, 2.05, 1.7]),
+    ([(-5.4, -12.6), (-5.8, -19.6), (-5.8, -26.2)], [2.2, 2.0, 1.65]),
 ]
-THUMB_ABOVE = ([(-3.6, -3.4), (-9.2, -9.4), (-12, -15.4)], [3.0, 2.4, 1.8])
+THUMB_ABOVE = ([(-3, -2.8), (-9.2, -6), (-13.6, -8), (-17.4, -10.6)], [3.4, 3, 2.6, 2])
 PALM_ABOVE = [
     (-4.4, 1), (-5.6, -3), (-7.2, -7), (-7.4, -11.5), (-6.2, -15), (-2, -16.2), (2.6, -15.6),
     (6.4, -13.8), (8.1, -11), (7.4, -5.5), (5.2, -1.5), (4.4, 1),
 ]
+
+
+ABOVE_WRIST = (28, 42)
+ABOVE_REACH = Reach(segment=27, sector=37.4, arc=35.6, line=40.4, marked=False)
 
 
 def forearm_up(drawing, wrist, half=4.4):
@@ -62,21 +68,38 @@ def hand_above(drawing, frame, colour=ACCENT, nails=True):
             drawing.line(nail, EDGE, 0.6)
 
 
-def from_above(title, angle, shown=None, twisted=False):
-    """The hand bent sideways by `angle`: ulnar positive, radial negative; maybe turned too."""
+def from_above(title, angle, shown=None):
+    """The hand bent sideways by `angle`: ulnar positive, radial negative."""
     drawing = Drawing(title.format(abs(angle)))
-    wrist = (28, 42)
-    frame = Frame(wrist, 0.98, angle)
-    reach = Reach(segment=27, sector=37.4, arc=35.6, line=40.4)
-    measure = Protractor(drawing, wrist, 0, 1, angle, reach, shown)
-    measure.draw_range()
-    forearm_up(drawing, wrist)
-    measure.draw_lines()
-    hand_above(drawing, frame)
-    measure.draw_axis()
-    if twisted:
-        _turn(drawing, (28, 50.5), (-1, 1))
+    _bent_sideways(drawing, angle, shown)
     return drawing
+
+
+def to_either_side(title, angle, twisted=False):
+    """The hand bent sideways, with an arrow to the other side too; maybe it turns as well."""
+    drawing = Drawing(title.format(abs(angle)))
+    _bent_sideways(drawing, angle)
+    tips = [(polar(ABOVE_WRIST, ABOVE_REACH.arc, side * (angle + 4)), side * (90 + angle))
+            for side in (-1, 1)]
+    drawing.arrow(arc(ABOVE_WRIST, ABOVE_REACH.arc, -angle, angle), *tips)
+    if twisted:
+        _turn(drawing, (28, 50.6), (-1, 1))
+    return drawing
+
+
+def _dashed(drawing, path):
+    drawing.raw(f'<path d="{path}" fill="none" stroke="{EDGE}" stroke-width="2.4"/>')
+    drawing.raw(f'<path d="{path}" fill="none" stroke="{GUIDE}" stroke-width="1.1" '
+                f'stroke-dasharray="{DASH},{DASH}"/>')
+
+
+def _bent_sideways(drawing, angle, shown=None):
+    measure = Protractor(drawing, ABOVE_WRIST, 0, 1, angle, ABOVE_REACH, shown)
+    measure.draw_range()
+    forearm_up(drawing, ABOVE_WRIST)
+    measure.draw_lines()
+    hand_above(drawing, Frame(ABOVE_WRIST, 0.98, angle))
+    measure.draw_axis()
 
 
 # Side view from the thumb's side, fingers to the right, back of the hand up. Index finger and back
@@ -87,10 +110,10 @@ BACK_OF_SIDE = [
     (-2.4, 4),
 ]
 FINGERS_SIDE = [
-    ([(13, 0.6), (20, 2.2), (26.4, 3.2), (31, 4.6)], [2.3, 1.9, 1.7, 1.4]),
-    ([(12, 2), (18.6, 4.4), (24, 6), (27.6, 8)], [2.1, 1.8, 1.6, 1.3]),
+    ([(13, 0.4), (20, 1.6), (26.4, 2.4), (31.4, 3.2)], [2.3, 1.9, 1.7, 1.4]),
+    ([(12, 1.6), (18.6, 3.6), (24, 4.6), (28, 5.6)], [2.1, 1.8, 1.6, 1.3]),
 ]
-THUMB_SIDE = ([(3.4, 3), (8.6, 7), (13.6, 9.2), (18.4, 9.8)], [2.9, 2.3, 2, 1.6])
+THUMB_SIDE = ([(3.4, 3), (8.6, 6.8), (13.4, 8.6), (17.8, 8.6)], [2.9, 2.4, 2.1, 1.7])
 SIDE_WRIST = (17, 28.2)
 
 
@@ -141,21 +164,23 @@ def turned(title, shows):
 def _turn(drawing, middle, sides):
     """A dial around the near side of the forearm.
 
-    Its tick is where a turn starts, with the thumb towards the reader; an arrow goes from there to
-    the left (-1) or to the right (1), which is where the thumb went.
+    Its dot is where a turn starts, with the thumb towards the reader, and its dashes are how far a
+    turn could go; an arrow goes from the dot to the left (-1) or to the right (1), which is where
+    the thumb went. Where both ways are meant, one arrow has two heads.
     """
     x, y = middle
-    for side in sides:
-        track = smooth([(x + side * along, y + down)
-                        for along, down in [(0, 1.4), (5, 0.9), (9, -1.2), (11.4, -4.4)]],
-                       closed=False)
-        drawing.arrow(track, ((x + side * 12, y - 5.4), side * 30))
-    if not sides:
-        track = smooth([(x + along, y + down)
-                        for along, down in [(-9, -1.2), (-5, 0.9), (0, 1.4), (5, 0.9), (9, -1.2)]],
-                       closed=False)
-        drawing.line(track, EDGE, 1.2)
-    drawing.line(polyline([(x, y - 2.4), (x, y + 4.8)]), GUIDE, 1.3, edge=0.8)
+    half = [(0, 2), (5.6, 1.3), (10.4, -1.6), (13, -5.6)]
+    ways = {side: [(x + side * along, y + down) for along, down in half] for side in (-1, 1)}
+    heads = [((x + side * 13.6, y - 7), side * 26) for side in sides]
+    if len(sides) == 2:
+        drawing.arrow(smooth(ways[-1][:0:-1] + ways[1], closed=False), *heads)
+        return
+    for side, track in ways.items():
+        if side in sides:
+            drawing.arrow(smooth(track, closed=False), *heads)
+        else:
+            _dashed(drawing, smooth(track, closed=False))
+    drawing.solid([disc((x, y + 2), 2.2)], ACCENT, edge=0.8)
 
 
 def thumb_edge(drawing, frame):
@@ -165,14 +190,19 @@ def thumb_edge(drawing, frame):
 
     _side_hand(drawing, smooth(upright(BACK_OF_SIDE)),
                [(upright(joints), radii) for joints, radii in [*FINGERS_SIDE[::-1], THUMB_SIDE]])
+    # The nail of a thumb that points at the reader, and the joints of the index finger beside it.
+    nail = [(upright([(x, 8.6)])[0]) for x in (15.8, 17.6)]
+    drawing.line(capsule(nail[0], 1, nail[1], 1), EDGE, 0.6)
+    for x, across in ((20.4, (-2.6, 0)), (26, (-1.6, 0.4))):
+        drawing.line(polyline(upright([(x, y) for y in across])), EDGE, 0.6)
 
 
 def open_palm(drawing, frame):
     """The palm of the hand: thumb on the right, creases instead of nails."""
     flipped = Flipped(frame)
     hand_above(drawing, flipped, nails=False)
-    for crease in ([(6.6, -10.6), (2.4, -11.6), (-2.6, -9.2), (-6.4, -9.6)],
-                   [(6.9, -8.4), (2.6, -8.4), (0.6, -4.8), (0.6, -0.6)]):
+    for crease in ([(7, -10.4), (3.6, -9.4), (1.4, -5.8), (1.2, -1)],
+                   [(5, -11.8), (0.6, -11), (-3.6, -9.2), (-7, -9.4)]):
         drawing.line(smooth(frame.all(crease), closed=False), EDGE, 0.9)
 
 

@@ -11,8 +11,8 @@ INKS = {
     "figure": ("#797d85", "#757a83"),  # everything that stands still
     "accent": ("#082a84", "#cae0ff"),  # the moving segment and its angle
     "guide": ("#14171c", "#ffffff"),  # reference lines, outlines of what a hand holds
-    "range": ("#b9cdf5", "#27406f"),  # the sector of a range, behind the moving segment
-    "object": ("#e3e6ea", "#3f444c"),  # what a hand holds
+    "range": ("#b9cdf5", "#36599b"),  # the sector of a range, behind the moving segment
+    "object": ("#e3e6ea", "#565c66"),  # what a hand holds
 }
 
 EDGE, FIGURE, ACCENT, GUIDE, RANGE, OBJECT = (light for light, _ in INKS.values())

@@ -1,5 +1,7 @@
 """Whole postures of the figure: one function a kind of picture, the angle as its argument."""
 
+import math
+
 from pictures import body
 from pictures.figure import (
     ARM_FRONT,
@@ -7,6 +9,7 @@ from pictures.figure import (
     ELBOW_SIDE,
     LEGS,
     LEGS_FRONT,
+    LOWER,
     MIDDLE_FRONT,
     NECK_SIDE,
     TRUNK_SIDE,
@@ -21,7 +24,7 @@ from pictures.figure import (
 )
 from pictures.inks import ACCENT, EDGE, FIGURE, RANGE
 from pictures.protractor import Protractor, Reach, axis_line, reference_line
-from pictures.svg import Drawing, Frame, disc, polar
+from pictures.svg import Drawing, Frame, capsule, disc, polar, polyline
 
 ARM = frozenset({"upper_arm", "forearm"})
 WHOLE_ARM = body.UPPER_ARM + body.FOREARM + body.HAND
@@ -33,7 +36,7 @@ def side_arm(title, angle, shown=None, mirrored=False):
     drawing = Drawing(title.format(*numbers), mirrored=mirrored)
     s = ARM_SIDE.scale
     figure = SideFigure(Pose(arm=angle, moving=ARM), ARM_SIDE)
-    reach = Reach(segment=(WHOLE_ARM - 1.5) * s, sector=(WHOLE_ARM - 1) * s, arc=22 * s,
+    reach = Reach(segment=(WHOLE_ARM - 1.5) * s, sector=(WHOLE_ARM + 1.6) * s, arc=22 * s,
                   line=(WHOLE_ARM + 2.5) * s, half=4 * s)
     measure = Protractor(drawing, figure.shoulder, 180, -1, angle, reach, shown)
     measure.draw_range()
@@ -48,7 +51,8 @@ def side_elbow(title, elbow, shown=None, neutral=0, mirrored=False):
     s = ELBOW_SIDE.scale
     figure = SideFigure(Pose(elbow=elbow, moving=frozenset({"forearm"})), ELBOW_SIDE)
     long = (body.FOREARM + body.HAND) * s
-    reach = Reach(segment=long - 1, sector=long - 2.6, arc=12.5 * s, line=20 * s, half=3.7 * s)
+    sector = min(long + 2.4, _room_above(LOWER, figure.arm.elbow, shown))
+    reach = Reach(segment=long - 1, sector=sector, arc=12.5 * s, line=22.4 * s, half=3.7 * s)
     measure = Protractor(drawing, figure.arm.elbow, 180, -1, elbow, reach, shown)
     measure.draw_range()
     figure.draw_upper(drawing, measure.draw_lines)
@@ -56,15 +60,24 @@ def side_elbow(title, elbow, shown=None, neutral=0, mirrored=False):
     return drawing
 
 
+def _room_above(bottom, joint, shown, zero=0):
+    """How far a sector may reach from a joint before its lowest edge goes below the bottom.
+
+    `zero` is the reference in degrees from straight down.
+    """
+    lowest = 0 if shown is None else min(shown.near, shown.near if shown.far is None else shown.far)
+    down = math.cos(math.radians(max(0, lowest - zero)))
+    return (bottom - joint[1]) / down if down > 0 else math.inf
+
+
 def side_trunk(title, angle, shown=None):
     """The trunk leaning by `angle` over standing legs; the arms hang plumb."""
     drawing = Drawing(title.format(abs(angle)))
     s = TRUNK_SIDE.scale
     # A little before the thigh or behind it, where it is seen; plumb from a trunk that is bent far.
-    arm = max(2, 16 - angle / 4) if angle >= 0 else -8
-    figure = SideFigure(Pose(trunk=angle, neck=-angle / 4, arm=arm, elbow=14 if angle >= 0 else 0),
-                        TRUNK_SIDE)
-    reach = Reach(segment=30 * s, sector=58.6 * s, arc=56.6 * s, line=61 * s)
+    arm, elbow = (max(2, 20 - angle / 3), 10 + angle / 4) if angle >= 0 else (-8, 0)
+    figure = SideFigure(Pose(trunk=angle, neck=-angle / 4, arm=arm, elbow=elbow), TRUNK_SIDE)
+    reach = Reach(segment=30 * s, sector=58.2 * s, arc=55.6 * s, line=60 * s, beyond=52.4 * s)
     measure = Protractor(drawing, figure.hip, 0, 1, angle, reach, shown)
     measure.draw_range()
     figure.draw_trunk(drawing, measure.draw_lines)
@@ -77,7 +90,7 @@ def side_neck(title, angle, shown=None):
     drawing = Drawing(title.format(abs(angle)))
     s = NECK_SIDE.scale
     figure = SideFigure(Pose(neck=angle), NECK_SIDE)
-    reach = Reach(segment=20.4 * s, sector=26 * s, arc=24.8 * s, line=28 * s)
+    reach = Reach(segment=18.8 * s, sector=24.6 * s, arc=23.4 * s, line=26.4 * s)
     measure = Protractor(drawing, figure.neck, 0, 1, angle, reach, shown)
     measure.draw_range()
     figure.draw_neck(drawing, measure.draw_lines)
@@ -90,7 +103,7 @@ def front_arm(title, angle, shown=None, mirrored=False):
     drawing = Drawing(title.format(angle), mirrored=mirrored)
     s = ARM_FRONT.scale
     arm = FrontArm(ARM_FRONT, -1, angle)
-    reach = Reach(segment=(WHOLE_ARM - 1.5) * s, sector=(WHOLE_ARM - 1) * s, arc=22 * s,
+    reach = Reach(segment=(WHOLE_ARM - 1.5) * s, sector=(WHOLE_ARM + 1.6) * s, arc=22 * s,
                   line=(WHOLE_ARM + 2.5) * s, half=4 * s)
     measure = Protractor(drawing, arm.shoulder, 180, 1, angle, reach, shown)
     measure.draw_range()
@@ -103,10 +116,18 @@ def front_arm(title, angle, shown=None, mirrored=False):
 
 
 def stance(title, lifted):
-    """The legs from the front, both on the ground or one lifted off it."""
+    """The legs from the front, both on the ground or one lifted off it.
+
+    A plumb line from the pelvis meets what bears the weight, or the ground beside it.
+    """
     drawing = Drawing(title)
-    ground_line(drawing, LEGS_FRONT.hip[1] + body.GROUND * LEGS_FRONT.scale + 0.7)
+    s, (x, y) = LEGS_FRONT.scale, LEGS_FRONT.hip
+    ground = y + body.GROUND * s + 0.7
+    ground_line(drawing, ground)
+    feet = polyline([(x - 13 * s, ground), (x - 7 * s if lifted else x + 13 * s, ground)])
+    drawing.line(feet, ACCENT, 2)
     front_legs(drawing, LEGS_FRONT, lifted)
+    reference_line(drawing, (x, y), (x, ground))
     return drawing
 
 
@@ -115,9 +136,11 @@ def side_knees(title, bend, shown):
     drawing = Drawing(title.format(bend))
     s = LEGS.scale
     figure = KneesFigure(LEGS, bend)
-    ground_line(drawing, LEGS.hip[1] + body.GROUND * s + 0.7)
-    reach = Reach(segment=(body.SHANK + body.SOLE / 2) * s, sector=22 * s, arc=15 * s,
-                  line=25 * s, half=3 * s)
+    ground = LEGS.hip[1] + body.GROUND * s + 0.7
+    ground_line(drawing, ground)
+    reach = Reach(segment=(body.SHANK + body.SOLE / 2) * s,
+                  sector=_room_above(ground, figure.knee, shown, bend / 2), arc=15 * s,
+                  line=26 * s, half=2.6 * s)
     measure = Protractor(drawing, figure.knee, 180 - bend / 2, 1, bend, reach, shown)
 
     def guides():
@@ -137,9 +160,8 @@ def front_forearm(title, direction):
     arm = FrontArm(view, -1, 5, direction)
     front_body(drawing, view)
     drawing.solid(FrontArm(view, 1, 4).paths(), FIGURE)
-    drawing.solid(arm.upper_paths, FIGURE)
     reference_line(drawing, (x, y - 33 * view.scale), (x, 55.4))
-    drawing.solid(arm.lower_paths, ACCENT)
+    drawing.solid(arm.paths(), ACCENT)
     axis_line(drawing, arm.elbow,
               polar(arm.elbow, (body.FOREARM + body.HAND - 1.5) * view.scale, direction))
     return drawing
@@ -157,26 +179,21 @@ def part_arm_forward(title):
     """Selector: the shoulder from the side."""
     drawing = Drawing(title)
     figure = SideFigure(Pose(arm=4, elbow=10, moving=ARM), ARM_SIDE)
-    _ring(drawing, figure.shoulder, 8.4, lambda: figure.draw_upper(drawing))
+    _ring(drawing, figure.shoulder, 9.4, lambda: figure.draw_upper(drawing))
     return drawing
 
 
 def part_arms_sideways(title):
-    """Selector: the shoulders from the front."""
+    """Selector: the shoulder from the front."""
     drawing = Drawing(title)
-    view = WHOLE_FRONT
-    arms = [FrontArm(view, side, 10) for side in (-1, 1)]
+    arm = FrontArm(ARM_FRONT, -1, 12)
 
     def draw():
-        front_body(drawing, view)
-        for arm in arms:
-            drawing.solid(arm.paths(), ACCENT)
+        front_body(drawing, ARM_FRONT)
+        drawing.solid(FrontArm(ARM_FRONT, 1, 6).paths(), FIGURE)
+        drawing.solid(arm.paths(), ACCENT)
 
-    for arm in arms:
-        _ring(drawing, arm.shoulder, 7, lambda: None)
-    draw()
-    for arm in arms:
-        drawing.line(disc(arm.shoulder, 7), ACCENT, 1.6, edge=0.7)
+    _ring(drawing, arm.shoulder, 9.4, draw)
     return drawing
 
 
@@ -184,21 +201,22 @@ def part_elbow(title):
     """Selector: the elbow."""
     drawing = Drawing(title)
     figure = SideFigure(Pose(elbow=80, moving=ARM), ELBOW_SIDE)
-    _ring(drawing, figure.arm.elbow, 9.5, lambda: figure.draw_upper(drawing))
+    _ring(drawing, figure.arm.elbow, 9.4, lambda: figure.draw_upper(drawing))
     return drawing
 
 
 def part_neck_and_back(title):
-    """Selector: neck and back."""
+    """Selector: the spine from the skull to the pelvis, from behind."""
     drawing = Drawing(title)
     view = WHOLE_FRONT
     torso = Frame(view.hip, view.scale)
-    path = disc(torso.at(0, -20), 15)
-    drawing.raw(f'<path d="{path}" fill="{RANGE}"/>')
-    front_body(drawing, view, ACCENT)
-    for side in (-1, 1):
-        drawing.solid(FrontArm(view, side, 8).paths(), FIGURE)
-    for height in range(7):
-        drawing.raw(f'<path d="{disc(torso.at(0, -1 - 5.6 * height), 1)}" fill="{EDGE}"/>')
-    drawing.line(path, ACCENT, 1.6, edge=0.7)
+
+    def draw():
+        front_body(drawing, view)
+        for side in (-1, 1):
+            drawing.solid(FrontArm(view, side, 8).paths(), FIGURE)
+        drawing.solid([capsule(torso.at(-half, y), 1, torso.at(half, y), 1)
+                       for y, half in body.VERTEBRAE], ACCENT, edge=0.7)
+
+    _ring(drawing, torso.at(0, -19.6), 14.8, draw)
     return drawing

@@ -12,8 +12,8 @@ from pictures.inks import ACCENT, EDGE, GUIDE, RANGE
 from pictures.svg import PIXELS, arc, disc, number, polar, polyline, sector
 
 DASH = 2.2
-OPEN = 6.0  # degrees that an open sector goes beyond the segment before it fades
-FADING = [(4.0, 0.7), (4.0, 0.45), (4.0, 0.2)]  # degrees and opacity of what follows
+OPEN = 8.0  # degrees that an open sector goes beyond the segment before it fades
+FADING = [(5.0, 0.7), (5.0, 0.45), (5.0, 0.2)]  # degrees and opacity of what follows
 
 
 @dataclass(frozen=True)
@@ -24,6 +24,8 @@ class Reach:
     sector: float
     arc: float
     line: float  # of the reference line
+    beyond: float = 0.0  # where the axis goes on, where that is not the end of the segment
+    marked: bool = True  # whether the reference goes on over the segment
     half: float = 0.0  # of the segment's thickness under the arc; 0 where the arc lies beyond it
 
 
@@ -107,7 +109,12 @@ class Protractor:
         """The axis, which lies on the moving segment, and the arc's way over it."""
         raw, reach = self.drawing.raw, self.reach
         if self.angle and not reach.half:
-            beyond = polyline([self.at(reach.segment, self.angle),
+            if reach.marked:
+                # In the gaps of the reference's own dashes: it goes on where the segment hides it.
+                hidden = polyline([self.joint, self.at(reach.segment, 0)])
+                raw(f'<path d="{hidden}" fill="none" stroke="{EDGE}" stroke-width="0.8" '
+                    f'stroke-dasharray="{DASH},{DASH}" stroke-dashoffset="{DASH}"/>')
+            beyond = polyline([self.at(reach.beyond or reach.segment, self.angle),
                                self.at(reach.sector, self.angle)])
             raw(f'<path d="{beyond}" fill="none" stroke="{ACCENT}" stroke-width="0.9"/>')
         if self.angle and reach.half:

@@ -198,11 +198,12 @@ class Drawing:
 
     def arrow(self, path, *heads):
         """A line with a head at each (tip, degrees from straight up that it points to)."""
-        corners = [(0, -2.5), (2.5, 1.7), (-2.5, 1.7)]
-        shapes = [polygon(Frame(tip, 1, degrees).all(corners)) for tip, degrees in heads]
-        self.solid(shapes, ACCENT, edge=0.7)
-        self.line(path, ACCENT, 1.4, edge=0.7)
-        self.solid(shapes, ACCENT, edge=0)
+        corners = [(0, -3.2), (3, 2), (-3, 2)]
+        shapes = "".join(polygon(Frame(tip, 1, degrees).all(corners)) for tip, degrees in heads)
+        self.raw(f'<path d="{shapes}" fill="{EDGE}" stroke="{EDGE}" stroke-width="1.4" '
+                 f'stroke-linejoin="round"/>')
+        self.line(path, ACCENT, 1.7, edge=0.7)
+        self.raw(f'<path d="{shapes}" fill="{ACCENT}"/>')
 
     def contents(self):
         """The elements of the document, in order."""

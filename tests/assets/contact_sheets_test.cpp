@@ -15,7 +15,7 @@ namespace {
 QString Complaints(const QString& folder) {
   QProcess script;
   script.start(HALVANE_PYTHON, {SourceFile("scripts/contact_sheets"), "--check", folder});
-  EXPECT_TRUE(script.waitForFinished());
+  EXPECT_TRUE(script.waitForFinished(-1));
   const QString said = QString::fromUtf8(script.readAllStandardError()).trimmed();
   EXPECT_EQ(script.exitCode(), said.isEmpty() ? 0 : 1) << said.toStdString();
   return said;

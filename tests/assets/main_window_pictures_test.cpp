@@ -235,7 +235,7 @@ TEST(MainWindowHand, IsWhatTheScriptRenders) {
   ASSERT_TRUE(QFile::copy(Asset("hand.svg"), fresh.filePath("hand.svg")));
   QProcess script;
   script.start(HALVANE_PYTHON, {SourceFile("scripts/make_hand"), fresh.path()});
-  ASSERT_TRUE(script.waitForFinished());
+  ASSERT_TRUE(script.waitForFinished(-1));
   ASSERT_EQ(script.exitCode(), 0) << script.readAllStandardError().toStdString();
   const QStringList names = FilesBelow(SourceFile("assets/main_window"), ".png");
   EXPECT_EQ(FilesBelow(fresh.path(), ".png"), names);

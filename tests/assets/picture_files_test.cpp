@@ -19,7 +19,7 @@ TEST(PictureFiles, AreWhatTheGeneratorDraws) {
   const QTemporaryDir fresh;
   QProcess generator;
   generator.start(HALVANE_PYTHON, {SourceFile("scripts/make_pictures.py"), fresh.path()});
-  ASSERT_TRUE(generator.waitForFinished());
+  ASSERT_TRUE(generator.waitForFinished(-1));
   ASSERT_EQ(generator.exitCode(), 0) << generator.readAllStandardError().toStdString();
   const QStringList names = FilesBelow(fresh.path(), ".svg");
   ASSERT_GT(names.size(), 100);

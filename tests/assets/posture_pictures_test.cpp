@@ -197,6 +197,42 @@ TEST(PosturePictures, NoTwoOfARowHaveOneSilhouette) {
   }
 }
 
+/// The picture at button size on white paper, in grey.
+QImage OnPaper(const QByteArray& svg) {
+  QSvgRenderer renderer(svg);
+  QImage image(kSide, kSide, QImage::Format_Grayscale8);
+  image.fill(Qt::white);
+  QPainter painter(&image);
+  renderer.render(&painter);
+  return image;
+}
+
+/// How many pixels of a range's tint are seen, and not hidden by what stands before it.
+int TintSeen(const QByteArray& svg) {
+  const QImage tinted = OnPaper(svg);
+  const QImage plain = OnPaper(QByteArray(svg).replace("#b9cdf5", "#ffffff"));
+  int seen = 0;
+  for (int y = 0; y < kSide; ++y) {
+    for (int x = 0; x < kSide; ++x) {
+      seen += qGray(plain.pixel(x, y)) - qGray(tinted.pixel(x, y)) > 12;
+    }
+  }
+  return seen;
+}
+
+TEST(PosturePictures, ARangeIsSeenAtButtonSize) {
+  // The smallest ranges, ten degrees of a hand or a head, have a patch of four by four pixels.
+  constexpr int kLeastSeen = 16;
+  int ranges = 0;
+  for (const QString& name : PosturePictures()) {
+    const QByteArray svg = ContentOf(SourceFile("assets/" + name + ".svg"));
+    if (!svg.contains("id=\"sector\"")) continue;
+    ++ranges;
+    EXPECT_GE(TintSeen(svg), kLeastSeen) << name.toStdString();
+  }
+  EXPECT_GT(ranges, 50);
+}
+
 /// The angle that a picture says it shows; no number in its title is 0.
 int ShownAngle(const QString& asset) {
   const auto hit = QRegularExpression("(\\d+) degrees").match(TitleOf(asset));

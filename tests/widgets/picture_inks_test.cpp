@@ -64,7 +64,7 @@ TEST(PictureInks, AreChosenByTheGround) {
   }
   for (const char* ground : kDarkGrounds) {
     EXPECT_EQ(InkedDrawing(drawn, QColor(ground)),
-              "#757a83 #cae0ff #ffffff #27406f #3f444c " + QByteArray(ground) + " #3a72ee");
+              "#757a83 #cae0ff #ffffff #36599b #565c66 " + QByteArray(ground) + " #3a72ee");
   }
 }
 
