@@ -10,6 +10,7 @@ import sys
 import tempfile
 
 from desktop import Desktop, missing_tools, wait_until
+from program import wait_for_buttons
 
 SKIPPED = 77
 
@@ -38,17 +39,8 @@ def open_tool(desktop, program, button, title):
     """Starts the program and opens a tool; gives process, main window and tool."""
     process = desktop.start([program])
     main = desktop.window("Halvane Tools V1.0")
-    # The buttons come when the opening panel goes: the button then answers a click.
-    opened = False
-
-    def tool_opens():
-        nonlocal opened
-        if not opened:
-            desktop.click(main, *button)
-        opened = desktop.output("xdotool", "search", "--onlyvisible", "--name", f"^{title}$") != ""
-        return opened
-
-    wait_until(tool_opens, f"the tool '{title}'")
+    wait_for_buttons(desktop, main)
+    desktop.click(main, *button)
     return process, main, desktop.window(title)
 
 

@@ -33,6 +33,20 @@ SI = Tool((178, 322), "Strain Index", (75, 42), (190, 42))
 REBA = Tool((178, 356), "Rapid Entire Body Assessment", (75, 42), (190, 42))
 RULA = Tool((178, 390), "Repetitive Upper Limb Assessment", (75, 42), (190, 42))
 TOOLS = (OCRA, CTD, SI, REBA, RULA)
+FINGER = (150, 80, 1, 1)  # a place of the hand, which is blue
+
+
+def wait_for_buttons(desktop, main):
+    """Until the buttons of the main window stand, which come when the opening panel goes."""
+
+    def stand():
+        finger_red, _green, finger_blue = desktop.picture(main, FINGER)
+        # A button is grey, and the opening panel blue.
+        red, _green, blue = desktop.picture(main, (240, SI.button[1], 1, 1))
+        # A window that is not yet painted is grey all over.
+        return finger_red < finger_blue and red == blue
+
+    wait_until(stand, "the end of the opening panel")
 
 
 class Program:
@@ -44,12 +58,7 @@ class Program:
         with open(self.said, "wb") as file:
             self.process = desktop.start([program], stderr=file)
         self.main = desktop.shown(MAIN)
-        # The buttons come when the opening panel goes, whose blue stands where their grey will be.
-        wait_until(self._has_buttons, "the end of the opening panel")
-
-    def _has_buttons(self):
-        red, _green, blue = self.desktop.picture(self.main, (240, SI.button[1], 1, 1))
-        return red == blue
+        wait_for_buttons(desktop, self.main)
 
     def open(self, tool):
         """Opens a tool from the main window and gives its window."""

@@ -13,6 +13,7 @@ import tempfile
 import time
 
 from desktop import Desktop, missing_tools, wait_until
+from program import wait_for_buttons
 
 SKIPPED = 77
 
@@ -85,14 +86,8 @@ class User:
         """Starts the program, opens the Strain Index and types the analyst's name."""
         process = self.start()
         main = self.desktop.window(MAIN)
-
-        def tool_opens():
-            self.desktop.click(main, *SI_BUTTON)
-            return self.desktop.output("xdotool", "search", "--onlyvisible", "--name", f"^{TOOL}$")
-
-        # The buttons come when the opening panel goes.
-        time.sleep(3.6)
-        wait_until(tool_opens, "the tool")
+        wait_for_buttons(self.desktop, main)
+        self.desktop.click(main, *SI_BUTTON)
         self.desktop.window(TOOL)
         self.desktop.type(text)
         return process
