@@ -12,6 +12,11 @@
 #include "core/wide_text_windows.h"
 
 namespace halvane::files {
+
+HANDLE HandleOf(std::intptr_t handle) {
+  return reinterpret_cast<HANDLE>(handle);  // NOLINT(performance-no-int-to-ptr)
+}
+
 namespace {
 
 constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
@@ -24,11 +29,6 @@ constexpr std::size_t kMostAtOnce = std::size_t{1} << 30;
 constexpr std::uint64_t kTicksPerSecond = 10'000'000;
 
 const std::error_code kNotForTheUserAlone = std::make_error_code(std::errc::permission_denied);
-
-HANDLE HandleOf(std::intptr_t handle) {
-  // The system's own type for it is a pointer.
-  return reinterpret_cast<HANDLE>(handle);  // NOLINT(performance-no-int-to-ptr)
-}
 
 /// The error of a call that gives whether it went well.
 std::error_code Done(BOOL succeeded) { return succeeded != 0 ? std::error_code() : LastError(); }

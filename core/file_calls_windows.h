@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include <cstdint>
 #include <system_error>
 
 namespace halvane::files {
@@ -11,6 +12,9 @@ std::error_code ErrorOf(DWORD number);
 
 /// The error of the call that failed last.
 std::error_code LastError();
+
+/// What is open, in the system's own type for it, which is a pointer.
+HANDLE HandleOf(std::intptr_t handle);
 
 /// Whether a name with these attributes leads to another file or folder. `tag` tells the kind of
 /// what stands in the file's place, if anything does: files that a service keeps elsewhere until

@@ -35,14 +35,14 @@ void ReadInto(Reading& reading) {
   SetEvent(reading.done);
 }
 
-HANDLE HandleOf(std::intptr_t handle, bool isOpened) {
-  return isOpened ? reinterpret_cast<HANDLE>(handle) : GetStdHandle(STD_INPUT_HANDLE);
+HANDLE InputOf(std::intptr_t handle, bool isOpened) {
+  return isOpened ? files::HandleOf(handle) : GetStdHandle(STD_INPUT_HANDLE);
 }
 
 }  // namespace
 
 InputBytes::~InputBytes() {
-  if (isOpened_) CloseHandle(reinterpret_cast<HANDLE>(handle_));
+  if (isOpened_) CloseHandle(files::HandleOf(handle_));
 }
 
 std::error_code InputBytes::Open(const std::string& path) {
@@ -55,7 +55,7 @@ std::error_code InputBytes::Open(const std::string& path) {
 }
 
 std::size_t InputBytes::Read(std::span<char> room, std::error_code& error) const {
-  auto* const input = HandleOf(handle_, isOpened_);
+  auto* const input = InputOf(handle_, isOpened_);
   // No wait for input ends when the user presses Ctrl-C, so another thread waits for it. One that
   // waits for ever ends with the program.
   const auto reading = std::make_shared<Reading>(input, room.size());
@@ -72,7 +72,7 @@ std::size_t InputBytes::Read(std::span<char> room, std::error_code& error) const
 }
 
 bool InputBytes::IsReady() const {
-  auto* const input = HandleOf(handle_, isOpened_);
+  auto* const input = InputOf(handle_, isOpened_);
   if (GetFileType(input) == FILE_TYPE_DISK) return true;
   // Of a console nobody knows, and a pipe tells its end as an error.
   DWORD count = 0;

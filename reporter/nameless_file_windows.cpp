@@ -12,8 +12,6 @@ namespace {
 
 [[noreturn]] void Fail() { files::Fail("no temporary file", files::LastError()); }
 
-HANDLE HandleOf(std::intptr_t handle) { return reinterpret_cast<HANDLE>(handle); }
-
 OVERLAPPED At(std::uint64_t position) {
   OVERLAPPED place{};
   place.Offset = static_cast<DWORD>(position);
@@ -37,14 +35,14 @@ NamelessFile::NamelessFile() {
   handle_ = reinterpret_cast<std::intptr_t>(file);
 }
 
-NamelessFile::~NamelessFile() { CloseHandle(HandleOf(handle_)); }
+NamelessFile::~NamelessFile() { CloseHandle(files::HandleOf(handle_)); }
 
 void NamelessFile::Append(std::string_view bytes) {
   while (!bytes.empty()) {
     OVERLAPPED place = At(size_);
     DWORD count = 0;
     const auto most = static_cast<DWORD>(std::min<std::size_t>(bytes.size(), MAXLONG));
-    if (WriteFile(HandleOf(handle_), bytes.data(), most, &count, &place) == 0) Fail();
+    if (WriteFile(files::HandleOf(handle_), bytes.data(), most, &count, &place) == 0) Fail();
     size_ += count;
     bytes.remove_prefix(count);
   }
@@ -54,7 +52,7 @@ std::size_t NamelessFile::ReadAt(std::uint64_t position, std::span<char> room) c
   OVERLAPPED place = At(position);
   DWORD count = 0;
   const auto most = static_cast<DWORD>(std::min<std::size_t>(room.size(), MAXLONG));
-  const bool isRead = ReadFile(HandleOf(handle_), room.data(), most, &count, &place) != 0;
+  const bool isRead = ReadFile(files::HandleOf(handle_), room.data(), most, &count, &place) != 0;
   if (!isRead && GetLastError() != ERROR_HANDLE_EOF) Fail();
   return count;
 }
