@@ -31,8 +31,12 @@ SYSTEMS = (
     (frozenset("sddl.h shellapi.h shlobj.h windows.h".split()), re.compile(r"\w+_windows\.(cpp|h)")),
 )
 
-# What one file alone knows: the unpacker of help files, and locales that are not the user's.
-HEADERS_OF_ONE_FILE = {"help/help_archive.cpp": "mspack.h", "core/number_text.cpp": "xlocale.h"}
+# What one file alone knows: the unpacker of help files, locales that are not the user's, and what becomes of freed memory.
+HEADERS_OF_ONE_FILE = {
+    "help/help_archive.cpp": "mspack.h",
+    "core/number_text.cpp": "xlocale.h",
+    "reporter/freed_memory_posix.cpp": "malloc.h",
+}
 
 TOOL_NAMES = {"ocra": "ocra", "ctd": "ctd", "strain_index": "si", "reba": "reba", "rula": "rula", "hal": "hal"}
 SCREENLESS_TOOLS = ("tool parts", "posture", *TOOL_NAMES)
