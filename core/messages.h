@@ -40,6 +40,7 @@ inline constexpr auto kFileNotCopied = "Error. File not moved!";
 // Help and about.
 inline constexpr auto kNoHelpFileName = " is not a valid HTML Help file.";
 inline constexpr auto kHelpFileMissing = " does not exist.\nPlease install the help files of ";
+inline constexpr auto kHelpFileSoughtToo = "\n\nIt was looked for here too:";
 inline constexpr auto kNoSystemInformation = "System Information Is Unavailable At This Time";
 
 }  // namespace halvane

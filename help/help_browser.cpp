@@ -13,6 +13,9 @@ namespace {
 
 constexpr int kZoomStep = 10;
 constexpr double kWhole = 100.0;
+/// A mark and the letters on it, as on paper, whatever the palette.
+constexpr QColor kMark(255, 224, 102);
+constexpr QColor kMarkedText(0, 0, 0);
 
 }  // namespace
 
@@ -63,6 +66,7 @@ QVariant HelpBrowser::loadResource(int type, const QUrl& name) {
 
 void HelpBrowser::AdaptPage(const QUrl& url) {
   document_.Adapt(Look());
+  DrawMarks();
   // Sizes may have changed since the toolkit went to the anchor.
   if (url.hasFragment()) scrollToAnchor(url.fragment(QUrl::FullyDecoded));
 }
@@ -72,10 +76,55 @@ void HelpBrowser::ShowAgain() {
   const QScrollBar& bar = *verticalScrollBar();
   const double place = bar.maximum() > 0 ? bar.value() / static_cast<double>(bar.maximum()) : 0;
   const QUrl url = source();
+  const int anchor = textCursor().anchor();
+  const int position = textCursor().position();
+  const QRect found = cursorRect();
   document_.Prepare(url.adjusted(QUrl::RemoveFragment), font(), Look());
   setHtml(document_.pages()->Page(url));
   document_.Adapt(Look());
+  DrawMarks();
   verticalScrollBar()->setValue(qRound(place * verticalScrollBar()->maximum()));
+  if (anchor == position) return;
+  // What was found or selected stays so, and stays where it was on the screen.
+  const int scrolled = verticalScrollBar()->value();
+  QTextCursor again(&document_);
+  again.setPosition(anchor);
+  again.setPosition(position, QTextCursor::KeepAnchor);
+  setTextCursor(again);
+  if (viewport()->rect().intersects(found)) {
+    verticalScrollBar()->setValue(verticalScrollBar()->value() + cursorRect().top() - found.top());
+  } else {
+    verticalScrollBar()->setValue(scrolled);
+  }
+}
+
+void HelpBrowser::MarkWords(const QStringList& words) {
+  words_ = words;
+  DrawMarks();
+}
+
+void HelpBrowser::DrawMarks() {
+  QList<ExtraSelection> marks;
+  for (const QString& word : words_) {
+    for (QTextCursor at = document_.find(word); !at.isNull(); at = document_.find(word, at)) {
+      ExtraSelection mark;
+      mark.cursor = at;
+      mark.format.setBackground(kMark);
+      mark.format.setForeground(kMarkedText);
+      marks.append(mark);
+    }
+  }
+  setExtraSelections(marks);
+}
+
+void HelpBrowser::ShowFirstMark() {
+  const QList<ExtraSelection> marks = extraSelections();
+  if (marks.isEmpty()) return;
+  const auto first = std::ranges::min_element(
+      marks, {}, [](const ExtraSelection& mark) { return mark.cursor.selectionStart(); });
+  QTextCursor place(&document_);
+  place.setPosition(first->cursor.selectionStart());
+  setTextCursor(place);
 }
 
 void HelpBrowser::SetZoom(int percent) {

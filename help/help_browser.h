@@ -34,6 +34,10 @@ class HelpBrowser : public QTextBrowser {
   /// Selects the next place where `text` stands, the one before when `backward`, beyond the end of
   /// the page from its other end. False when it stands nowhere.
   bool FindText(const QString& text, bool backward, bool& wrapped);
+  /// Marks every place of these words, on this page and on those shown after it; none for no words.
+  void MarkWords(const QStringList& words);
+  /// Scrolls to the first mark, where there is one.
+  void ShowFirstMark();
   /// A copy of the page to be printed, dark on white and in the size as written.
   [[nodiscard]] std::unique_ptr<HelpDocument> PageToPrint() const;
 
@@ -53,9 +57,11 @@ class HelpBrowser : public QTextBrowser {
   void AdaptPage(const QUrl& url);
   void ShowAgain();
   void BrightenSelection();
+  void DrawMarks();
   [[nodiscard]] HelpLook Look() const;
 
   HelpDocument document_;
+  QStringList words_;
   int zoom_ = 100;
   bool anew_ = false;
 };

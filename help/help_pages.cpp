@@ -7,6 +7,7 @@
 #include <QImageReader>
 #include <QPainter>
 #include <QRegularExpression>
+#include <QSet>
 #include <QStringDecoder>
 #include <array>
 
@@ -157,6 +158,22 @@ void AppendContents(const HelpPages& pages, const std::vector<HelpContentsEntry>
   html += "</ul>";
 }
 
+void CollectTopics(const HelpPages& pages, const std::vector<HelpContentsEntry>& list,
+                   std::vector<HelpTopic>& topics) {
+  for (const HelpContentsEntry& entry : list) {
+    if (!entry.topic.empty()) {
+      topics.push_back(
+          {pages.UrlOf(Text(entry.topic)).adjusted(QUrl::RemoveFragment), Text(entry.title)});
+    }
+    CollectTopics(pages, entry.children, topics);
+  }
+}
+
+/// Whether the name of an entry is that of a page.
+bool IsPage(const QString& name) {
+  return name.endsWith(".htm", Qt::CaseInsensitive) || name.endsWith(".html", Qt::CaseInsensitive);
+}
+
 }  // namespace
 
 HelpPages::HelpPages(const QString& path) : path_(path) {
@@ -192,6 +209,26 @@ QString HelpPages::title() const { return file_ ? Text(file_->description().titl
 const std::vector<HelpContentsEntry>& HelpPages::contents() const {
   static const std::vector<HelpContentsEntry> none;
   return file_ ? file_->contents() : none;
+}
+
+std::vector<HelpTopic> HelpPages::Topics() const {
+  std::vector<HelpTopic> found;
+  CollectTopics(*this, contents(), found);
+  for (const std::string& entry : file_ ? file_->Names() : std::vector<std::string>()) {
+    const QString name = Text(entry);
+    if (IsPage(name)) found.push_back({UrlOf(name), name});
+  }
+  std::vector<HelpTopic> topics;
+  QSet<QString> known;
+  for (const HelpTopic& topic : found) {
+    const QString path = topic.url.path(QUrl::FullyDecoded);
+    // Names do not tell capitals from small letters.
+    const bool isNew = file_->Has(path.mid(1).toStdString()) && !known.contains(path.toLower());
+    if (!isNew) continue;
+    known.insert(path.toLower());
+    topics.push_back(topic);
+  }
+  return topics;
 }
 
 QUrl HelpPages::ContentsPage() {

@@ -12,6 +12,12 @@ namespace halvane {
 
 class HelpFile;
 
+/// A page and what it is called.
+struct HelpTopic {
+  QUrl url;
+  QString title;
+};
+
 /// The pages of a help file as the viewer shows them, by addresses of a scheme of their own. What
 /// is missing, damaged or foreign is shown as a page that says so. Nothing but the help file is
 /// ever read.
@@ -31,6 +37,8 @@ class HelpPages {
   /// Whether the file on the disk is still the one that was read.
   [[nodiscard]] bool IsCurrent(const QString& path) const;
 
+  /// Every page once: those of the contents in their order, then the others by name.
+  [[nodiscard]] std::vector<HelpTopic> Topics() const;
   /// The page to start with: the file's default topic, else its contents.
   [[nodiscard]] QUrl Home() const;
   /// A page that lists the contents.

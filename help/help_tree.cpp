@@ -83,6 +83,12 @@ void HelpTree::Follow(const QUrl& url) {
   }
 }
 
+void HelpTree::resizeEvent(QResizeEvent* event) {
+  // A short line is as wide as the tree, and so is its selection.
+  header()->setMinimumSectionSize(viewport()->width());
+  QTreeWidget::resizeEvent(event);
+}
+
 void HelpTree::Choose(const QTreeWidgetItem* item) {
   if (following_ || item == nullptr) return;
   const QUrl url = item->data(0, kAddress).toUrl();

@@ -23,6 +23,9 @@ class HelpTree : public QTreeWidget {
  signals:
   void topicChosen(const QUrl& url);
 
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+
  private:
   void Choose(const QTreeWidgetItem* item);
 

@@ -14,6 +14,7 @@
 #include "help/help_find_bar.h"
 #include "help/help_icons.h"
 #include "help/help_pages.h"
+#include "help/help_search.h"
 #include "help/help_tree.h"
 #include "platform/platform.h"
 #include "widgets/window_place.h"
@@ -46,6 +47,7 @@ HelpWindow::HelpWindow(LastPlace& lastPlace) : pages_(nullptr) {
 
   auto* splitter = new QSplitter(this);
   tree_ = new HelpTree(splitter);
+  search_ = new HelpSearch(tree_, splitter);
   auto* right = new QWidget(splitter);
   auto* column = new QVBoxLayout(right);
   column->setContentsMargins(0, 0, 0, 0);
@@ -54,7 +56,7 @@ HelpWindow::HelpWindow(LastPlace& lastPlace) : pages_(nullptr) {
   findBar_ = new HelpFindBar(*page_, right);
   column->addWidget(page_, 1);
   column->addWidget(findBar_);
-  splitter->addWidget(tree_);
+  splitter->addWidget(search_);
   splitter->addWidget(right);
   splitter->setStretchFactor(1, 1);
   splitter->setSizes({kTreeWidth, kDefaultSize.width() - kTreeWidth});
@@ -63,6 +65,11 @@ HelpWindow::HelpWindow(LastPlace& lastPlace) : pages_(nullptr) {
   statusBar()->setSizeGripEnabled(true);
 
   connect(tree_, &HelpTree::topicChosen, page_, &HelpBrowser::ShowPage);
+  connect(search_, &HelpSearch::wordsChanged, page_, &HelpBrowser::MarkWords);
+  connect(search_, &HelpSearch::pageChosen, this, [this](const QUrl& page) {
+    page_->ShowPage(page);
+    page_->ShowFirstMark();
+  });
   connect(page_, &QTextBrowser::sourceChanged, this, &HelpWindow::PageShown);
   connect(page_, &QTextBrowser::highlighted, this, &HelpWindow::ShowLink);
   connect(page_, &HelpBrowser::notFollowed, this, &HelpWindow::TellNotFollowed);
@@ -70,8 +77,9 @@ HelpWindow::HelpWindow(LastPlace& lastPlace) : pages_(nullptr) {
 }
 
 HelpWindow::~HelpWindow() {
-  // The pane goes after the pages that it shows.
+  // The panes go after the pages that they show.
   page_->SetPages(nullptr);
+  search_->SetPages(nullptr);
 }
 
 void HelpWindow::resizeEvent(QResizeEvent* event) {
@@ -146,6 +154,8 @@ void HelpWindow::MakeCommands() {
   AddCommand("HelpFindNext", tr("Find next"), Qt::Key_F3, [this] { findBar_->FindNext(); });
   AddCommand("HelpFindPrevious", tr("Find previous"), Qt::SHIFT | Qt::Key_F3,
              [this] { findBar_->FindPrevious(); });
+  AddCommand("HelpSearchPages", tr("Search all pages"), Qt::CTRL | Qt::SHIFT | Qt::Key_F,
+             [this] { search_->Open(); });
   AddCommand("HelpSwitchPane", tr("Contents or page"), Qt::Key_F6, [this] { SwitchPane(); });
   AddCommand("HelpClose", tr("Close"), Qt::CTRL | Qt::Key_W, [this] { close(); });
 }
@@ -156,7 +166,8 @@ bool HelpWindow::Open(const QString& file) {
   page_->SetPages(pages.get());
   pages_ = std::move(pages);
   tree_->SetPages(*pages_);
-  tree_->setVisible(!pages_->contents().empty());
+  search_->SetPages(pages_.get());
+  search_->setVisible(!pages_->contents().empty());
   setWindowTitle(TitleFor(*pages_));
   return true;
 }
@@ -177,8 +188,9 @@ void HelpWindow::ShowTopic(const QString& file, const QString& topic) {
 
 void HelpWindow::ShowContents(const QString& file) {
   if (Open(file)) page_->ShowPage(pages_->Home());
+  search_->ShowContents();
   Raise();
-  (tree_->isVisible() ? static_cast<QWidget*>(tree_) : page_)->setFocus();
+  (search_->isVisible() ? &search_->List() : page_)->setFocus();
 }
 
 void HelpWindow::ShowHome() {
@@ -200,7 +212,7 @@ void HelpWindow::PrintPage() {
 }
 
 void HelpWindow::SwitchPane() {
-  (page_->hasFocus() && tree_->isVisible() ? static_cast<QWidget*>(tree_) : page_)->setFocus();
+  (page_->hasFocus() && search_->isVisible() ? &search_->List() : page_)->setFocus();
 }
 
 void HelpWindow::PageShown(const QUrl& url) {

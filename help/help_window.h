@@ -12,6 +12,7 @@ namespace halvane {
 class HelpBrowser;
 class HelpFindBar;
 class HelpPages;
+class HelpSearch;
 class HelpTree;
 struct LastPlace;
 enum class HelpIcon;
@@ -54,6 +55,7 @@ class HelpWindow : public QMainWindow {
 
   std::unique_ptr<HelpPages> pages_;
   HelpTree* tree_;
+  HelpSearch* search_;
   HelpBrowser* page_;
   HelpFindBar* findBar_;
 };

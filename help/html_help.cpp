@@ -45,7 +45,9 @@ bool HTMLHelp::EnsureFileExists() {
     CHMFile = folder + CHMFile;
   }
   if (ThePlatform().FileExists(CHMFile)) return true;
-  Tell("The file " + CHMFile + kHelpFileMissing + kProgramTitle + ".");
+  QString text = "The file " + CHMFile + kHelpFileMissing + kProgramTitle + ".";
+  if (!SoughtToo.isEmpty()) text += QString(kHelpFileSoughtToo) + "\n" + SoughtToo.join('\n');
+  Tell(text);
   return false;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 class QWidget;
 
@@ -13,6 +14,7 @@ enum class HelpCommand;
 class HTMLHelp {
  public:
   QString CHMFile;           ///< full path of the help file
+  QStringList SoughtToo;     ///< where else the file was looked for, told when it is missing
   QString HHTopicURL;        ///< topic file inside the help file
   QString HHWindow;          ///< name of a help window; the program never sets it
   bool HHShowOnTop = false;  ///< the viewer stays above the given window; the program never sets it

@@ -1,6 +1,7 @@
 // Draws the help window into PNG files, for looking at it: help_pictures FOLDER FILE.chm
 // [TOPIC]..., with QT_SCALE_FACTOR=2 for twice the size and HALVANE_DARK=1 for the dark palette.
 #include <QDir>
+#include <QLineEdit>
 #include <QTest>
 #include <iostream>
 
@@ -40,5 +41,10 @@ int main(int argc, char** argv) {
   }
   window.findChild<halvane::HelpFindBar*>()->Open();
   QTest::keyClicks(QApplication::focusWidget(), "a");
+  if (!draw()) return 1;
+  auto* search = window.findChild<QLineEdit*>("HelpSearchText");
+  search->setText("shoulder duration");
+  search->setFocus();
+  QTest::keyClick(search, Qt::Key_Down);
   return draw() ? 0 : 1;
 }

@@ -261,7 +261,10 @@ TEST_F(HelpCommands, AMissingFileLeavesTheFormWorking) {
   Choose(*form, "mnuHelpContent");
   EXPECT_EQ(platform.messages().back().text,
             "The file /program/QJT Tools 1.chm does not exist.\n"
-            "Please install the help files of Halvane Tools.");
+            "Please install the help files of Halvane Tools.\n\n"
+            "It was looked for here too:\n"
+            "/share/halvane-tools/QJT Tools 1.chm\n"
+            "/data/QJT Tools 1.chm");
   EXPECT_TRUE(form->isVisible());
   platform.AddFile("/program/QJT Tools 1.chm");
   Choose(*form, "mnuHelpContent");

@@ -61,6 +61,14 @@ TEST_F(TabKeys, WorkOnThePagesAndOnTheTabsToo) {
   EXPECT_EQ(told_, "102");
 }
 
+TEST_F(TabKeys, AreTheArrowsWhereTheStripHasTheFocus) {
+  strip_->tabBar()->setFocus();
+  Press(Qt::Key_Right);
+  Press(Qt::Key_Right);
+  Press(Qt::Key_Left);
+  EXPECT_EQ(told_, "121");
+}
+
 TEST_F(TabKeys, PassADisabledTab) {
   strip_->setTabEnabled(1, false);
   Next();
