@@ -59,7 +59,7 @@ HalvaneApplication::HalvaneApplication(int& argc, char** argv)
     : QApplication(argc, argv), keeper_(this) {
   setApplicationName("halvane-tools");
   setApplicationVersion(HALVANE_VERSION);
-  setDesktopFileName("halvane-tools");
+  setDesktopFileName(HALVANE_IDENTIFIER);
   setStyle(new ReadableStyle);
   installEventFilter(new HeldKeys(this));
   UseSpokenControls();
