@@ -1,7 +1,9 @@
 #!/usr/bin/env python3
 """Runs the benchmarks of one build folder and prints one table of ratios.
 
-measure.py BUILD_FOLDER
+measure.py BUILD_FOLDER [--quick]
+
+With --quick there are few runs of few jobs: it shows that everything can be measured, and no figure to compare with.
 """
 
 import csv
@@ -14,11 +16,13 @@ import sys
 import tempfile
 import time
 
-JOBS = 10_000
-FEW_JOBS, MANY_JOBS = 1_000, 100_000
-WARM_UP = 2
-RUNS = 15
-MEMORY_RUNS = 5
+QUICK = "--quick" in sys.argv[2:]
+JOBS = 1_000 if QUICK else 10_000
+FEW_JOBS, MANY_JOBS = (1_000, 5_000) if QUICK else (1_000, 100_000)
+WARM_UP = 0 if QUICK else 2
+RUNS = 2 if QUICK else 15
+MEMORY_RUNS = 1 if QUICK else 5
+REPETITIONS = 2 if QUICK else 7
 FRAME = 1 / 60  # seconds
 TOOLS = (
     ("si", "Strain Index"),
@@ -111,7 +115,7 @@ def measure_in_process(build, table):
     command = [
         build / "benchmarks/in_process",
         "--benchmark_format=json",
-        "--benchmark_repetitions=7",
+        f"--benchmark_repetitions={REPETITIONS}",
         "--benchmark_enable_random_interleaving=true",
         "--benchmark_report_aggregates_only=true",
     ]
@@ -293,8 +297,8 @@ def measure_windows(build, table):
 
 
 def main(arguments):
-    if len(arguments) != 1:
-        sys.exit("usage: measure.py BUILD_FOLDER")
+    if not arguments or arguments[1:] not in ([], ["--quick"]):
+        sys.exit("usage: measure.py BUILD_FOLDER [--quick]")
     build = pathlib.Path(arguments[0]).resolve()
     table = Table()
     measure_in_process(build, table)
