@@ -149,7 +149,7 @@ class InstalledProgram(unittest.TestCase):
 
     def test_links_of_documents_lead_to_what_is_installed(self):
         documents = sorted((self.share / "doc/halvane-tools").glob("*.md"))
-        self.assertEqual(len(documents), 2)
+        self.assertGreaterEqual(len(documents), 2)
         for document in documents:
             for target in LINK.findall(document.read_text(encoding="utf-8")):
                 self.assertTrue((document.parent / target).exists(), f"{document.name}: {target}")
