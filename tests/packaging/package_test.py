@@ -43,9 +43,9 @@ class Package(unittest.TestCase):
         return run("dpkg-deb", "--field", package("halvane-tools"), field).strip()
 
     def test_lintian_has_nothing_to_say(self):
-        for name in ("halvane-tools", "halvane-tools-dbgsym"):
-            self.assertEqual(run("lintian", "--pedantic", "--display-info", "--fail-on", "pedantic,info,warning,error",
-                                 "--allow-root", package(name)), "", name)
+        # Both at once, since the symbols share the folder of documents.
+        self.assertEqual(run("lintian", "--pedantic", "--display-info", "--fail-on", "pedantic,info,warning,error",
+                             "--allow-root", package("halvane-tools"), package("halvane-tools-dbgsym")), "")
 
     def test_each_override_has_its_reason_above_it(self):
         before = ""
