@@ -9,6 +9,7 @@ from pathlib import Path
 
 SKIPPED = 77
 SECONDS = 600
+HOME = "/srv/owner"  # of who runs commands in there
 
 
 def missing():
@@ -45,6 +46,7 @@ class BareDebian:
             (self.root / target).mkdir(parents=True, exist_ok=True)
             subprocess.run(["mount", "-t", kind, kind, str(self.root / target)], check=True)
         self.mounted = ["dev/shm", "proc"]
+        self.path(HOME).mkdir(parents=True)
         # No service of a package is to be started in here.
         policy = self.root / "usr/sbin/policy-rc.d"
         policy.write_text("#!/bin/sh\nexit 101\n", encoding="ascii")
@@ -56,19 +58,23 @@ class BareDebian:
             subprocess.run(["umount", "--lazy", str(self.root / target)], check=True)
         shutil.rmtree(self.folder)
 
+    def path(self, place):
+        """Where a place in there stands on this machine."""
+        return self.root / place.lstrip("/")
+
     def show(self, folder, place):
         """Makes a folder of this machine seen in there."""
-        target = place.lstrip("/")
-        (self.root / target).mkdir(parents=True, exist_ok=True)
-        subprocess.run(["mount", "--bind", str(folder), str(self.root / target)], check=True)
-        self.mounted.insert(0, target)
+        target = self.path(place)
+        target.mkdir(parents=True, exist_ok=True)
+        subprocess.run(["mount", "--bind", str(folder), str(target)], check=True)
+        self.mounted.insert(0, place.lstrip("/"))
 
     def run(self, *command, timeout=SECONDS):
         """Runs a command in there as root and gives what it printed; a failure is one of the test."""
         done = subprocess.run(
             ["chroot", str(self.root), *command], stdout=subprocess.PIPE, stderr=subprocess.STDOUT,
             stdin=subprocess.DEVNULL, text=True, check=False, timeout=timeout,
-            env={"PATH": "/usr/sbin:/usr/bin:/sbin:/bin", "LC_ALL": "C.UTF-8", "HOME": "/root",
+            env={"PATH": "/usr/sbin:/usr/bin:/sbin:/bin", "LC_ALL": "C.UTF-8", "HOME": HOME,
                  "DEBIAN_FRONTEND": "noninteractive"})
         if done.returncode:
             raise AssertionError(f"{command} ended with {done.returncode}:\n{done.stdout}")

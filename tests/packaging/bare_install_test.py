@@ -17,16 +17,16 @@ from pathlib import Path
 
 sys.path.insert(0, str(Path(__file__).resolve().parent.parent / "end_to_end"))
 
-from bare_debian import SKIPPED, BareDebian, in_own_mounts, missing  # noqa: E402
+from bare_debian import HOME, SKIPPED, BareDebian, in_own_mounts, missing  # noqa: E402
 from desktop import Desktop, missing_tools, wait_until  # noqa: E402
 from program import CLOSE_BUTTON, MESSAGE, SI, Job, Program  # noqa: E402
 
 USER = 1000
-HOME = "home/analyst"
+ANALYST = "home/analyst"
 SESSION = f"/run/user/{USER}"
 JOB = "first job.qjt"
 # What the file dialogs of the toolkit keep for all of its programs, and the program's own folder, which is empty.
-KEPT_IN_THE_HOME = {f"{HOME}/{name}" for name in (
+KEPT_IN_THE_HOME = {f"{ANALYST}/{name}" for name in (
     JOB, ".config", ".config/QtProject.conf", ".local", ".local/state", ".local/state/halvane-tools")}
 # What the package manager itself writes on every installation and removal.
 KEPT_BY_THE_SYSTEM = ("var/lib/dpkg", "var/log", "var/cache/ldconfig", "etc/ld.so.cache", "var/cache/man",
@@ -66,7 +66,7 @@ class InstalledProgram(Program):
         command.write_text(
             "#!/bin/sh\nexec chroot --userspec={0}:{0} '{1}' /usr/bin/env -i HOME=/{2} DISPLAY=\"$DISPLAY\" "
             "XDG_RUNTIME_DIR={3} PATH=/usr/bin:/bin LC_ALL=C.UTF-8 sh -c 'cd && exec halvane-tools'\n".format(
-                USER, root, HOME, SESSION),
+                USER, root, ANALYST, SESSION),
             encoding="utf-8")
         command.chmod(0o755)
         super().__init__(desktop, str(command))
@@ -90,10 +90,10 @@ def use(root):
         desktop.keys("alt+f")
         desktop.keys("Down", "Down", "Down", "Return")
         desktop.window("Save As")
-        desktop.type(f"/{HOME}/{JOB}")
+        desktop.type(f"/{ANALYST}/{JOB}")
         desktop.keys("Return")
         desktop.gone("Save As")
-        job = root / HOME / JOB
+        job = root / ANALYST / JOB
         wait_until(lambda: job.exists() and job.stat().st_size > 0, "the saved file")
         program.leave_program()
         said = Path(program.said).read_text(encoding="utf-8")
@@ -102,21 +102,21 @@ def use(root):
 
 
 def try_package(debian, package):
-    name = package.name
-    shutil.copy(package, debian.root / "root" / name)
+    there = f"{HOME}/{package.name}"
+    shutil.copy(package, debian.path(there))
     needed = subprocess.run(["dpkg-deb", "--field", str(package), "Depends"], stdout=subprocess.PIPE, text=True,
                             check=True).stdout.strip()
     debian.run("apt-get", "satisfy", "-y", "-q", "--no-install-recommends", needed)
-    debian.run("mkdir", "-p", f"/{HOME}")
-    debian.run("chown", f"{USER}:{USER}", f"/{HOME}")
+    debian.run("mkdir", "-p", f"/{ANALYST}")
+    debian.run("chown", f"{USER}:{USER}", f"/{ANALYST}")
     debian.run("install", "-d", "-m", "700", "-o", str(USER), SESSION)
     before = content_of(debian.root)
 
     # Nothing but what the package itself asks for is there.
-    debian.run("dpkg", "--install", f"/root/{name}")
+    debian.run("dpkg", "--install", there)
     assert debian.run("dpkg", "--audit") == ""
-    there = set(content_of(debian.root)) - set(before)
-    assert "usr/bin/halvane-tools" in there and "usr/bin/halvane-report" in there, there
+    brought = set(content_of(debian.root)) - set(before)
+    assert {"usr/bin/halvane-tools", "usr/bin/halvane-report"} <= brought, brought
     said = debian.run("halvane-report", "/usr/share/doc/halvane-tools/samples/packing-line.qjt")
     assert "Strain Index Score" in said, said
     use(debian.root)
@@ -125,7 +125,7 @@ def try_package(debian, package):
     after = content_of(debian.root)
     left = {path: what for path, what in after.items() if before.get(path) != what}
     gone = set(before) - set(after)
-    assert f"{HOME}/{JOB}" in left and not gone, f"left: {sorted(left)}, gone: {sorted(gone)}"
+    assert f"{ANALYST}/{JOB}" in left and not gone, f"left: {sorted(left)}, gone: {sorted(gone)}"
     assert set(left) <= KEPT_IN_THE_HOME, f"left: {sorted(set(left) - KEPT_IN_THE_HOME)}"
 
 
