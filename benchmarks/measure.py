@@ -167,6 +167,7 @@ def measure_summary(build, table):
         summary = [reporter, "--summary", "--format", "csv", *names]
         split = [sys.executable, pathlib.Path(__file__).with_name("split_fields.py"), *names]
         reports = [reporter, "--format", "json", *names]
+        two_at_once, one_at_a_time = ([reporter, "--jobs", jobs, *reports[1:]] for jobs in ("2", "1"))
 
         def run(command):
             return wall_time(command, cwd=folder, stdout=subprocess.DEVNULL)[0]
@@ -179,7 +180,7 @@ def measure_summary(build, table):
 
         ours, cat = alternating(lambda: run(summary), lambda: run(["cat", *names]))
         ours_again, python = alternating(lambda: run(summary), lambda: run(split))
-        written = [run(reports) for _ in range(WARM_UP + RUNS)][WARM_UP:]
+        written, alone = alternating(lambda: run(two_at_once), lambda: run(one_at_a_time))
     what = f"--summary --format csv of {JOBS:,} job files"
     table.add(what, statistics.median(ours), "cat of the same files", statistics.median(cat), goal=4)
     table.add(
@@ -195,6 +196,13 @@ def measure_summary(build, table):
         "200 MB/s",
         1 / 200,
         goal=1,
+    )
+    table.add(
+        f"JSON of all tools, {JOBS:,} job files, --jobs 2",
+        statistics.median(written),
+        "--jobs 1",
+        statistics.median(alone),
+        goal=0.588,
     )
 
 
