@@ -16,6 +16,7 @@
 #include "platform/platform.h"
 #include "shell/frm_about.h"
 #include "shell/hand_main_look.h"
+#include "shell/idle_steps.h"
 #include "shell/tool_form.h"
 #include "widgets/layout.h"
 #include "widgets/link_label.h"
@@ -141,6 +142,23 @@ void FrmHandMain::Timer1_Timer() {
   for (QWidget* control : SSCommand3_) control->show();
   EnableShortcuts(true);
   ParkFocus();
+  MakeFormsAhead();
+}
+
+ToolForm& FrmHandMain::FormOf(Tool tool) {
+  std::unique_ptr<ToolForm>& form = forms_[tool];
+  if (!form) form = makeToolForm_(tool, this);
+  return *form;
+}
+
+void FrmHandMain::MakeFormsAhead() {
+  std::deque<IdleSteps::Step> steps;
+  for (const ToolName& tool : kToolNames) {
+    if (tool.buttonCaption.empty()) continue;
+    steps.emplace_back([this, &tool] { FormOf(tool.tool); });
+    steps.emplace_back([this, &tool] { FormOf(tool.tool).DrawAhead(); });
+  }
+  new IdleSteps(std::move(steps), this);
 }
 
 void FrmHandMain::EnableShortcuts(bool enabled) {
@@ -185,14 +203,12 @@ void FrmHandMain::SSCommand1_Click() { ThePlatform().EndProgram(0); }
 
 void FrmHandMain::SSCommand2_Click(int index) {
   if (index >= 0 && index < static_cast<int>(SSCommand2_.size())) {
-    const Tool tool = kToolNames.at(static_cast<std::size_t>(index)).tool;
-    std::unique_ptr<ToolForm>& form = forms_[tool];
-    if (!form) form = makeToolForm_(tool, this);
+    ToolForm& form = FormOf(kToolNames.at(static_cast<std::size_t>(index)).tool);
     // New and Open on a tool ask for another showing; so nothing nests, and one close comes back
     // here.
     do {
-      form->load();
-    } while (form->exec() == ToolForm::Reload);
+      form.load();
+    } while (form.exec() == ToolForm::Reload);
     // Else the window manager may give the keyboard to the help, which stays open.
     activateWindow();
   }

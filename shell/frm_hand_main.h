@@ -82,6 +82,11 @@ class FrmHandMain : public QWidget {
   void Drag(Qt::MouseButton button);
   void ShowUnits();
   void EnableShortcuts(bool enabled);
+  /// The tool's form, which is made when it is asked for the first time.
+  ToolForm& FormOf(Tool tool);
+  /// Has the forms made and drawn while nobody does anything, so that a tool's first opening has
+  /// only to fill its form.
+  void MakeFormsAhead();
 
   ToolFormMaker makeToolForm_;
   FileCommands fileCommands_;

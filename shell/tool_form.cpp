@@ -38,7 +38,7 @@ ToolForm::ToolForm(Tool tool, const char* objectName, const IdentificationNames&
                  Qt::WindowMinMaxButtonsHint | Qt::WindowCloseButtonHint);
   // Holds up the main window alone; the help beside it stays usable.
   setWindowModality(Qt::WindowModal);
-  new WindowPlace(
+  place_ = new WindowPlace(
       *this, kDefaultSize, [this] { return LeastSize(); }, lastPlace_);
   body_ = new QVBoxLayout(this);
   body_->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
@@ -129,6 +129,11 @@ void ToolForm::load() {
   loadFromJob();
   identification_->ShowJob();
   identification_->FocusFirst();
+}
+
+void ToolForm::DrawAhead() {
+  place_->TakePlace();
+  grab();
 }
 
 void ToolForm::ShowReport() {

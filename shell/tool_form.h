@@ -31,6 +31,9 @@ class ToolForm : public QDialog {
   /// Brings the form to its design state and fills it from the job. Throws what the tool's load
   /// throws.
   void load();
+  /// Lays the form out and draws it without showing it, so that its pictures and fonts are there
+  /// when it is shown.
+  void DrawAhead();
 
   /// What the tool that the form is for is called.
   [[nodiscard]] const ToolName& toolName() const { return toolName_; }
@@ -97,6 +100,7 @@ class ToolForm : public QDialog {
   const IdentificationNames& names_;
   FileCommands fileCommands_;
   LastPlace lastPlace_;
+  WindowPlace* place_;
   RichText report_;
   IdentificationStrip* identification_ = nullptr;
   HandFrame* hand_ = nullptr;

@@ -99,6 +99,10 @@ WindowMeasures WindowPlace::Measure() const {
 
 void WindowPlace::Show() {
   settled_ = false;
+  TakePlace();
+}
+
+void WindowPlace::TakePlace() {
   const WindowMeasures measures = Measure();
   window_.setMinimumSize(LeastSize(measures));
   if (window_.isMaximized() || window_.isFullScreen()) return;

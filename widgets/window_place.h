@@ -47,6 +47,8 @@ class WindowPlace : public QObject {
   /// `last` has to outlive the window.
   WindowPlace(QWidget& window, QSize standard, std::function<QSize()> least, LastPlace& last);
 
+  /// Gives the window the place that it will be shown at.
+  void TakePlace();
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:

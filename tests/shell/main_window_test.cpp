@@ -9,6 +9,7 @@
 
 #include "app/tool_forms.h"
 #include "shell/frm_hand_main.h"
+#include "shell/idle_steps.h"
 #include "shell/tool_form.h"
 #include "tests/support/form_support.h"
 
@@ -96,6 +97,29 @@ TEST_F(MainWindow, OpeningPhaseLastsOneTickOf3500Milliseconds) {
   EXPECT_TRUE(timer.isActive());
   EXPECT_EQ(timer.interval(), 3500);
   EXPECT_TRUE(timer.isSingleShot());
+}
+
+TEST_F(MainWindow, FormsOfTheLaunchButtonsAreMadeWhileTheUserDoesNothing) {
+  FrmHandMain window(MakeToolForm);
+  ShowActive(window);
+  window.Timer1_Timer();
+  EXPECT_TRUE(window.findChildren<ToolForm*>().empty());
+  constexpr int kLaunchButtons = 5;
+  const auto isDone = [&window] { return window.findChild<IdleSteps*>()->isOver(); };
+  EXPECT_TRUE(QTest::qWaitFor(isDone, 20000));
+  const QList<ToolForm*> forms = window.findChildren<ToolForm*>();
+  EXPECT_EQ(forms.size(), kLaunchButtons);
+  for (const ToolForm* form : forms)
+    EXPECT_TRUE(form->isHidden()) << form->objectName().toStdString();
+}
+
+TEST_F(MainWindow, FormIsMadeWhenItsButtonIsPressedBeforeTheUserRests) {
+  FrmHandMain window(MakeToolForm);
+  ShowActive(window);
+  window.Timer1_Timer();
+  QTest::keyClick(&window, Qt::Key_Tab);
+  EXPECT_TRUE(window.findChild<IdleSteps*>()->isOver());
+  EXPECT_TRUE(window.findChildren<ToolForm*>().empty());
 }
 
 TEST_F(MainWindow, OpeningPhaseHasNoShortcuts) {
