@@ -23,7 +23,6 @@ namespace halvane {
 namespace {
 
 constexpr int kTasks = 40;
-constexpr int kWarmUp = 3;
 constexpr int kTurns = 41;
 constexpr QSize kStart{960, 620};
 constexpr int kSteps = 300;
@@ -70,15 +69,17 @@ std::optional<int> LaunchButtonOf(Tool tool) {
   return std::nullopt;
 }
 
-/// Seconds of work from a launch button until the tool is painted for the first time: as soon as
-/// the button stands, or after the user has done nothing for a while.
-double LaunchSeconds(FrmHandMain& window, int button, bool afterQuiet) {
-  window.Timer1_Timer();
+/// Lets the program stand unused for a while.
+void BeQuiet() {
   QElapsedTimer time;
   time.start();
-  while (afterQuiet && time.elapsed() < kQuietMilliseconds) {
+  while (time.elapsed() < kQuietMilliseconds) {
     QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, kTurnMilliseconds);
   }
+}
+
+/// Seconds of work from a launch button until the tool is painted.
+double LaunchSeconds(FrmHandMain& window, int button) {
   OpeningWatch watch;
   qApp->installEventFilter(&watch);
   const double start = CpuSeconds();
@@ -128,14 +129,13 @@ void Measure(Tool tool, bool afterQuiet) {
   watch.WaitForPaint();
   FillJob(kTasks, 1);
   const std::optional<int> button = LaunchButtonOf(tool);
-  const double first = button ? LaunchSeconds(main, *button, afterQuiet) : OpeningSeconds(tool);
-  std::printf("%.9f\n", first);
+  const auto open = [&] { return button ? LaunchSeconds(main, *button) : OpeningSeconds(tool); };
+  main.Timer1_Timer();
+  if (afterQuiet) BeQuiet();
+  std::printf("%.9f\n", open());
   if (afterQuiet) return;
   std::vector<double> later;
-  for (int turn = 0; turn < kWarmUp + kTurns; ++turn) {
-    const double seconds = OpeningSeconds(tool);
-    if (turn >= kWarmUp) later.push_back(seconds);
-  }
+  for (int turn = 0; turn < kTurns; ++turn) later.push_back(open());
   Print(later);
   Print(ResizingSeconds(tool));
 }
