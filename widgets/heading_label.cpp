@@ -11,9 +11,12 @@ HeadingLabel::HeadingLabel(const QString& text, int lines, QWidget* parent)
 }
 
 QSize HeadingLabel::minimumSizeHint() const {
-  const QMargins around = contentsMargins();
-  return {WidthForLines(text(), lines_, fontMetrics()) + around.left() + around.right(),
-          HeightOfLines(lines_, fontMetrics()) + around.top() + around.bottom()};
+  if (!known_.least.isValid() || known_.text != text() || known_.font != font()) {
+    known_ = {text(), font(),
+              QSize(WidthForLines(text(), lines_, fontMetrics()),
+                    HeightOfLines(lines_, fontMetrics()))};
+  }
+  return known_.least.grownBy(contentsMargins());
 }
 
 }  // namespace halvane

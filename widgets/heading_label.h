@@ -1,6 +1,9 @@
 #pragma once
 
+#include <QFont>
 #include <QLabel>
+#include <QSize>
+#include <QString>
 
 namespace halvane {
 
@@ -17,7 +20,15 @@ class HeadingLabel : public QLabel {
   [[nodiscard]] bool hasHeightForWidth() const override { return false; }
 
  private:
+  struct Known {
+    QString text;
+    QFont font;
+    QSize least;
+  };
+
   int lines_;
+  /// Asked for with every layout.
+  mutable Known known_;
 };
 
 }  // namespace halvane

@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "widgets/layout.h"
+#include "widgets/wrapping_label.h"
 
 namespace halvane {
 namespace {
@@ -14,8 +15,9 @@ namespace {
 constexpr int kColumnGap = 4;
 constexpr float kLeadTint = 0.4F;
 
-QLabel* AddLabel(const QString& text, const QString& name, QWidget* parent) {
-  auto* label = new QLabel(text, parent);
+template <typename Label>
+Label* AddLabel(const QString& text, const QString& name, QWidget* parent) {
+  auto* label = new Label(text, parent);
   label->setObjectName(name);
   label->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
   return label;
@@ -32,9 +34,8 @@ LabelledScale::LabelledScale(QSlider* slider, QWidget* parent) : QWidget(parent)
 
 void LabelledScale::AddMark(const QString& tick, const QString& tickName, const QString& words,
                             const QString& wordsName) {
-  QLabel* const wrapped = AddLabel(words, wordsName, this);
-  wrapped->setWordWrap(true);
-  QLabel* const number = AddLabel(tick, tickName, this);
+  auto* const wrapped = AddLabel<WrappingLabel>(words, wordsName, this);
+  auto* const number = AddLabel<QLabel>(tick, tickName, this);
   QFont bold = number->font();
   bold.setBold(true);
   number->setFont(bold);

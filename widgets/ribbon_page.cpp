@@ -60,7 +60,8 @@ void RibbonPage::showEvent(QShowEvent* event) {
 
 void RibbonPage::resizeEvent(QResizeEvent* event) {
   QWidget::resizeEvent(event);
-  Fit();
+  // A hidden page gets several sizes before it is shown, and fits the last.
+  if (isVisible()) Fit();
 }
 
 void RibbonPage::FitAnew() {

@@ -9,8 +9,7 @@
 namespace halvane {
 
 WrappedCaption::WrappedCaption(QCheckBox& box, const QString& caption, QWidget* parent)
-    : QLabel(caption, parent), box_(box) {
-  setWordWrap(true);
+    : WrappingLabel(caption, parent), box_(box) {
   // The first line stands at the mark of the box.
   setAlignment(Qt::AlignLeft | Qt::AlignTop);
   // The box has it as its name.
@@ -24,16 +23,16 @@ void WrappedCaption::SetMostLines(int lines) {
 }
 
 QSize WrappedCaption::minimumSizeHint() const {
-  return QLabel::minimumSizeHint().expandedTo({leastWidth_, 0});
+  return WrappingLabel::minimumSizeHint().expandedTo({leastWidth_, 0});
 }
 
 void WrappedCaption::changeEvent(QEvent* event) {
-  QLabel::changeEvent(event);
+  WrappingLabel::changeEvent(event);
   if (event->type() == QEvent::FontChange && mostLines_ > 0) SetMostLines(mostLines_);
 }
 
 void WrappedCaption::mouseReleaseEvent(QMouseEvent* event) {
-  QLabel::mouseReleaseEvent(event);
+  WrappingLabel::mouseReleaseEvent(event);
   const bool inside = rect().contains(event->position().toPoint());
   if (event->button() == Qt::LeftButton && inside) box_.click();
 }

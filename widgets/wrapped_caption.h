@@ -1,13 +1,13 @@
 #pragma once
 
-#include <QLabel>
+#include "widgets/wrapping_label.h"
 
 class QCheckBox;
 
 namespace halvane {
 
 /// A caption beside its tick box, that wraps; a click on it is a click on the box.
-class WrappedCaption : public QLabel {
+class WrappedCaption : public WrappingLabel {
   Q_OBJECT
  public:
   WrappedCaption(QCheckBox& box, const QString& caption, QWidget* parent);

@@ -111,8 +111,8 @@ def curl(joints, radii):
     spine, widths = [], []
     for i in range(last):
         p0, p1, p2, p3 = (joints[min(max(i + k, 0), last)] for k in (-1, 0, 1, 2))
-        for step in range(4 if i < last - 1 else 5):
-            t = step / 4
+        for step in range(2 if i < last - 1 else 3):
+            t = step / 2
             spine.append(tuple(_between(p0[k], p1[k], p2[k], p3[k], t) for k in (0, 1)))
             widths.append(radii[i] + (radii[i + 1] - radii[i]) * t)
     left, right, directions = [], [], []
@@ -179,7 +179,7 @@ class Drawing:
         data = "".join(f'<path d="{path}"/>' for path in paths)
         if edge:
             self.raw(
-                f'<g fill="{EDGE}" stroke="{EDGE}" stroke-width="{number(2 * edge)}" '
+                f'<g fill="none" stroke="{EDGE}" stroke-width="{number(2 * edge)}" '
                 f'stroke-linejoin="round">{data}</g>'
             )
         self.raw(f'<g fill="{colour}">{data}</g>')

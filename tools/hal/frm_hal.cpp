@@ -25,6 +25,7 @@
 #include "widgets/spoken.h"
 #include "widgets/text_box.h"
 #include "widgets/wrap_row.h"
+#include "widgets/wrapping_label.h"
 
 namespace halvane {
 namespace {
@@ -169,9 +170,8 @@ QGroupBox* FrmHAL::MakeLimitFrame(QWidget* parent) {
   row->addStretch(1);
   AddLimit(*row, kHalThresholdLimitValue, 3, 2);
   grid->addLayout(row, 1, 0);
-  auto* note = new QLabel(ScreenText(kHalNote), panel);
+  auto* note = new WrappingLabel(ScreenText(kHalNote), panel);
   note->setObjectName("Label6");
-  note->setWordWrap(true);
   new FontShare(*note, kNoteShare);
   grid->addWidget(note, 2, 0);
   return panel;

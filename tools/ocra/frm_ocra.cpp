@@ -27,6 +27,7 @@
 #include "widgets/tab_strip.h"
 #include "widgets/text_box.h"
 #include "widgets/wrap_row.h"
+#include "widgets/wrapping_label.h"
 
 namespace halvane {
 namespace {
@@ -222,11 +223,10 @@ QWidget* FrmOCRA::MakeList(int list, QWidget* parent) {
   auto* row = new QHBoxLayout(line);
   row->setContentsMargins(kGap, kGap / 4, kGap, kGap / 4);
   row->setSpacing(kGap);
-  auto* caption = new QLabel(ScreenText(kOcraLists[at].caption), line);
+  auto* caption = new WrappingLabel(ScreenText(kOcraLists[at].caption), line);
   auto* combo = new DropList(ElementName("Combo1", list), line);
   for (const std::string_view answer : kOcraAnswers) combo->addItem(ScreenText(answer));
   caption->setBuddy(combo);
-  caption->setWordWrap(true);
   row->addWidget(caption, 1);
   row->addWidget(combo, 1);
   Combo1_[at] = combo;
