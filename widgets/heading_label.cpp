@@ -12,9 +12,9 @@ HeadingLabel::HeadingLabel(const QString& text, int lines, QWidget* parent)
 
 QSize HeadingLabel::minimumSizeHint() const {
   if (!known_.least.isValid() || known_.text != text() || known_.font != font()) {
-    known_ = {text(), font(),
-              QSize(WidthForLines(text(), lines_, fontMetrics()),
-                    HeightOfLines(lines_, fontMetrics()))};
+    known_ = {
+        text(), font(),
+        QSize(WidthForLines(text(), lines_, fontMetrics()), HeightOfLines(lines_, fontMetrics()))};
   }
   return known_.least.grownBy(contentsMargins());
 }

@@ -2,6 +2,7 @@
 
 #include <QAbstractTextDocumentLayout>
 #include <QFile>
+#include <QImageReader>
 #include <QPaintDevice>
 #include <QPainter>
 #include <QSvgRenderer>
@@ -43,16 +44,17 @@ QSizeF ReportPictures::intrinsicSize(QTextDocument* document, int /*position*/,
 
 void ReportPictures::drawObject(QPainter* painter, const QRectF& place, QTextDocument* /*document*/,
                                 int /*position*/, const QTextFormat& format) {
-  const Picture& picture = PictureOf(format);
+  Picture& picture = PictureOf(format);
   if (picture.drawing) {
     picture.drawing->render(painter, place);
-  } else {
-    painter->setRenderHint(QPainter::SmoothPixmapTransform);
-    painter->drawImage(place, picture.image);
+    return;
   }
+  if (picture.image.isNull()) picture.image = QImage(picture.file);
+  painter->setRenderHint(QPainter::SmoothPixmapTransform);
+  painter->drawImage(place, picture.image);
 }
 
-const ReportPictures::Picture& ReportPictures::PictureOf(const QTextFormat& format) {
+ReportPictures::Picture& ReportPictures::PictureOf(const QTextFormat& format) {
   const QString name = format.property(kNameProperty).toString();
   auto found = pictures_.find(name);
   if (found == pictures_.end()) found = pictures_.emplace(name, Load(name)).first;
@@ -63,11 +65,15 @@ ReportPictures::Picture ReportPictures::Load(const QString& assetName) {
   const QString base = ":/assets/" + assetName;
   Picture picture;
   if (QFile::exists(base + ".jpg")) {
-    picture.image = QImage(base + ".jpg");
-    // Its own dots per inch say how large it is meant to be.
+    picture.file = base + ".jpg";
+    QImageReader reader(picture.file);
+    const QSizeF pixels = reader.size();
+    // Its own dots per inch say how large it is meant to be; a corner tells them as well as the
+    // whole, which takes longer to read than a report to lay out.
+    reader.setClipRect({0, 0, 1, 1});
     const double dotsPerPixel =
-        picture.image.dotsPerMeterX() * kMetersPerInch / kLogicalDotsPerInch;
-    picture.size = (QSizeF(picture.image.size()) / dotsPerPixel).toSize();
+        reader.read().dotsPerMeterX() * kMetersPerInch / kLogicalDotsPerInch;
+    picture.size = (pixels / dotsPerPixel).toSize();
   } else {
     picture.drawing = std::make_unique<QSvgRenderer>(base + ".svg");
     picture.size = picture.drawing->defaultSize();

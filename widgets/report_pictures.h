@@ -35,13 +35,15 @@ class ReportPictures : public QObject, public QTextObjectInterface {
                   const QTextFormat& format) override;
 
  private:
-  /// Either a drawing or, without one, an image; `size` in pixels of 96 to an inch.
+  /// Either a drawing or, without one, the file of an image, which is read when it is drawn; `size`
+  /// in pixels of 96 to an inch.
   struct Picture {
     std::unique_ptr<QSvgRenderer> drawing;
+    QString file;
     QImage image;
     QSizeF size;
   };
-  const Picture& PictureOf(const QTextFormat& format);
+  Picture& PictureOf(const QTextFormat& format);
   static Picture Load(const QString& assetName);
 
   std::map<QString, Picture> pictures_;

@@ -2,6 +2,7 @@
 
 #include <QAbstractTextDocumentLayout>
 #include <QAccessible>
+#include <QLayout>
 #include <QMimeData>
 #include <QPalette>
 #include <QScrollBar>
@@ -96,6 +97,27 @@ void RichTextBox::ShowReport(const RichText& report) {
   setUndoRedoEnabled(false);
   ForgetNotes();
   document()->clear();
+  // What its form shows or hides beside a report changes the width that it is laid out in.
+  if (isVisible() && window()->layout() != nullptr) window()->layout()->activate();
+  // A bar that goes with the old text and comes back with the new one would have all of it laid out
+  // in one width more each time.
+  setVerticalScrollBarPolicy(IsLikelyToScroll(report) ? Qt::ScrollBarAlwaysOn
+                                                      : Qt::ScrollBarAsNeeded);
+  Write(report);
+  setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+  setUndoRedoEnabled(!isReadOnly());
+  Select(0, 0);
+  ensureCursorVisible();
+  // A pane that is cleared is no news.
+  if (!document()->isEmpty()) newsDelay_.start();
+}
+
+bool RichTextBox::IsLikelyToScroll(const RichText& report) const {
+  const auto lines = static_cast<int>(report.paragraphs().size());
+  return lines * QFontMetrics(document()->defaultFont()).height() > viewport()->height();
+}
+
+void RichTextBox::Write(const RichText& report) {
   QTextCursor cursor(document());
   // One layout of the whole instead of one for each piece.
   cursor.beginEditBlock();
@@ -117,11 +139,6 @@ void RichTextBox::ShowReport(const RichText& report) {
     }
   }
   cursor.endEditBlock();
-  setUndoRedoEnabled(!isReadOnly());
-  Select(0, 0);
-  ensureCursorVisible();
-  // A pane that is cleared is no news.
-  if (!document()->isEmpty()) newsDelay_.start();
 }
 
 void RichTextBox::InsertPicture(QTextCursor& cursor, const Run& run) {

@@ -48,6 +48,10 @@ class RichTextBox : public QTextEdit {
   [[nodiscard]] QMimeData* createMimeDataFromSelection() const override;
 
  private:
+  /// Whether a report is longer than the pane; a wrong guess costs a second layout.
+  [[nodiscard]] bool IsLikelyToScroll(const RichText& report) const;
+  /// Fills the empty pane.
+  void Write(const RichText& report);
   void InsertPicture(QTextCursor& cursor, const Run& run);
   void ForgetNotes();
   void TellNews();
