@@ -17,7 +17,7 @@ ACTIONS = (
 )
 
 
-def _slowest(sides):
+def slowest(sides):
     """The name of what takes longest, where there are several, and its samples."""
     ours = sides[0]
     name = max(ours, key=lambda name: ninetieth(ours[name]))
@@ -29,6 +29,6 @@ def rows(bench):
         for key, name in TOOLS:
             if key not in keys:
                 continue
-            where, samples = _slowest(bench.samples(program, key))
+            where, samples = slowest(bench.samples(program, key))
             what = f"{name}, {action}: {where}" if where else f"{name}, {action}"
             yield Row(what, samples, f"{limit * 1000:.0f} ms", limit, goal=1, judged=ninetieth)
