@@ -30,23 +30,25 @@ class Folder {
   std::filesystem::path path_;
 };
 
+/// What is on the screen of one task differs from that of the next one.
 void FillTask(int task, int number) {
   Module1.TaskNames.at(task) = "Task " + std::to_string(task) + ", turn and place";
-  Module1.OcraActionFrequency.at(task) = 20.5 + task;
-  Module1.OcraTaskDuration.at(task) = 60.25 + number % 50;
-  Module1.OcraForceRating.at(task) = 2.5;
+  Module1.OcraActionFrequency.at(task) = 20.5 + task % 40;
+  Module1.OcraTaskDuration.at(task) = 60.25 + (number + task) % 50;
+  Module1.OcraForceRating.at(task) = 0.5 * (1 + (task + 3) % 10);
   Module1.CtdWorkTime.at(task) = 0.1;
   Module1.CtdRestTime.at(task) = 0.2;
-  Module1.CtdHandSpan.at(task) = 6.5;
-  Module1.CtdForceMvc.at(task) = 12.5;
+  Module1.CtdHandSpan.at(task) = 6.5 + task % 5;
+  Module1.CtdForceMvc.at(task) = 12.5 + task % 20;
   Module1.CtdRadUlnDeviation.at(task) = 2;
   Module1.CtdFlexExtDeviation.at(task) = Integer{5};
-  Module1.CtdGripType.at(task) = Integer{3};
+  Module1.CtdGripType.at(task) = static_cast<Integer>(2 + (task + 1) % 3);
   Module1.CtdLtShoulderFlexion.at(task) = Integer{1};
   Module1.CtdBackFlexion.at(task) = Integer{2};
   Module1.CtdNeckFlexion.at(task) = 1;
-  Module1.CtdRepetitions.at(task) = 3;
-  for (int slot = 0; slot < kPostureSlots; ++slot) {
+  Module1.CtdRepetitions.at(task) = 3 + task % 4;
+  // The program has room for those of its highest task, and lists more.
+  for (int slot = 0; slot < kPostureSlots && task <= kHighestTask; ++slot) {
     Module1.CtdLoadHeld.at(task, slot) = 1.25 * slot;
     Module1.CtdPostureDuration.at(task, slot) = 0.05 * slot;
   }
