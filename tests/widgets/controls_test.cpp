@@ -2,8 +2,10 @@
 
 #include <QAbstractTextDocumentLayout>
 #include <QApplication>
+#include <QHBoxLayout>
 #include <QImage>
 #include <QPainter>
+#include <QScrollBar>
 #include <QTest>
 #include <QTextBlock>
 
@@ -252,6 +254,73 @@ TEST_F(Pane, PictureOnPaperIsAsLargeAsOnTheScreen) {
   paper.setDotsPerMeterY(23622);
   box.document()->documentLayout()->setPaintDevice(&paper);
   EXPECT_NEAR(PictureSize().width(), 494 * 600 / 96.0, 1);
+}
+
+/// Counts the sizes that the viewport of a pane gets while text stands in it.
+class SizesOfText : public QObject {
+ public:
+  explicit SizesOfText(RichTextBox& box) : box_(box) { box.viewport()->installEventFilter(this); }
+
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::Resize && !box_.document()->isEmpty()) ++sizes;
+    return QObject::eventFilter(watched, event);
+  }
+
+  int sizes = 0;
+
+ private:
+  RichTextBox& box_;
+};
+
+constexpr int kManyLines = 100;
+
+void WriteManyLines(RichText& report) {
+  for (int line = 0; line < kManyLines; ++line) report.Append("line", kNewLine);
+}
+
+TEST_F(Pane, ALongReportIsLaidOutInOneWidth) {
+  box.resize(400, 300);
+  box.show();
+  const SizesOfText seen(box);
+  Show(WriteManyLines);
+  EXPECT_EQ(seen.sizes, 0);
+  EXPECT_TRUE(box.verticalScrollBar()->isVisible());
+  Show(WriteManyLines);
+  EXPECT_EQ(seen.sizes, 0);
+}
+
+TEST_F(Pane, ALongReportIsLaidOutInTheWidthThatItsFormLeavesIt) {
+  QWidget form;
+  auto* row = new QHBoxLayout(&form);
+  auto* beside = new QWidget(&form);
+  beside->setFixedWidth(200);
+  auto* pane = new RichTextBox(&form);
+  row->addWidget(beside);
+  row->addWidget(pane);
+  form.resize(600, 300);
+  form.show();
+  RichText report;
+  WriteManyLines(report);
+  pane->ShowReport(report);
+  const SizesOfText seen(*pane);
+  pane->document()->clear();
+  beside->hide();
+  pane->ShowReport(report);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(seen.sizes, 0);
+  EXPECT_GT(pane->width(), 500);
+}
+
+TEST_F(Pane, HasABarWhereItsReportIsLonger) {
+  box.resize(400, 200);
+  box.show();
+  Show(WriteManyLines);
+  EXPECT_TRUE(box.verticalScrollBar()->isVisible());
+  Show([](RichText& report) { report.Append("one line"); });
+  EXPECT_FALSE(box.verticalScrollBar()->isVisible());
+  // One line that is higher than the pane.
+  Show([](RichText& report) { report.AppendPicture("strain_index/risk_chart"); });
+  EXPECT_TRUE(box.verticalScrollBar()->isVisible());
 }
 
 TEST_F(Pane, IsWhitePaperUnderADarkPalette) {
