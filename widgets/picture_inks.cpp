@@ -1,8 +1,10 @@
 #include "widgets/picture_inks.h"
 
+#include <QApplication>
+#include <QCache>
 #include <QFile>
 #include <QPainter>
-#include <QPixmapCache>
+#include <QPointer>
 #include <QSvgRenderer>
 #include <array>
 
@@ -25,6 +27,30 @@ constexpr std::array kInks{
 constexpr const char* kEdge = "#ffffff";
 /// A ground below this is nearer to black than to white in contrast.
 constexpr double kDarkGround = 0.179;
+/// Room for all pictures at their largest on a screen of 200 %, pressed ones too.
+constexpr int kMostBytes = 48 << 20;
+
+/// Pictures that have been drawn, for as long as the program runs: the toolkit's own cache forgets
+/// a quarter of them every half minute.
+struct DrawnPictures : QObject {
+  using QObject::QObject;
+  QCache<QString, QPixmap> pictures{kMostBytes};
+};
+
+QCache<QString, QPixmap>& Drawn() {
+  static QPointer<DrawnPictures> drawn;
+  if (drawn == nullptr) drawn = new DrawnPictures(qApp);
+  return drawn->pictures;
+}
+
+QPixmap Draw(const QByteArray& svg, int side) {
+  QSvgRenderer renderer(svg);
+  QPixmap picture(side, side);
+  picture.fill(Qt::transparent);
+  QPainter painter(&picture);
+  renderer.render(&painter);
+  return picture;
+}
 
 }  // namespace
 
@@ -40,17 +66,12 @@ QByteArray InkedDrawing(QByteArray svg, const QColor& ground) {
 }
 
 QPixmap InkedPicture(const QString& assetName, const QColor& ground, int side) {
-  const QString key = QString("ink %1 %2 %3").arg(assetName, ground.name()).arg(side);
-  QPixmap picture;
-  if (QPixmapCache::find(key, &picture)) return picture;
+  const QString key = QString("%1 %2 %3").arg(assetName, ground.name()).arg(side);
+  if (const QPixmap* known = Drawn().object(key)) return *known;
   QFile file(":/assets/" + assetName + ".svg");
   if (!file.open(QIODevice::ReadOnly)) return {};
-  QSvgRenderer renderer(InkedDrawing(file.readAll(), ground));
-  picture = QPixmap(side, side);
-  picture.fill(Qt::transparent);
-  QPainter painter(&picture);
-  renderer.render(&painter);
-  QPixmapCache::insert(key, picture);
+  const QPixmap picture = Draw(InkedDrawing(file.readAll(), ground), side);
+  Drawn().insert(key, new QPixmap(picture), side * side * picture.depth() / 8);
   return picture;
 }
 

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <QMap>
+#include <QPixmapCache>
 #include <QSet>
 #include <array>
 #include <vector>
@@ -86,6 +87,16 @@ TEST(PictureInks, APictureIsDrawnInThem) {
 
 TEST(PictureInks, APictureThatIsNotThereIsNone) {
   EXPECT_TRUE(InkedPicture("ctd/no_such_picture", Qt::white, 56).isNull());
+}
+
+TEST(PictureInks, APictureIsDrawnOnce) {
+  const qint64 drawn = InkedPicture("ctd/back_0", Qt::white, 56).cacheKey();
+  // What the toolkit's own cache does by itself after a while.
+  QPixmapCache::clear();
+  EXPECT_EQ(InkedPicture("ctd/back_0", Qt::white, 56).cacheKey(), drawn);
+  EXPECT_NE(InkedPicture("ctd/back_0", Qt::white, 64).cacheKey(), drawn);
+  EXPECT_NE(InkedPicture("ctd/back_0", Qt::black, 56).cacheKey(), drawn);
+  EXPECT_NE(InkedPicture("ctd/neck_45", Qt::white, 56).cacheKey(), drawn);
 }
 
 TEST(PictureInks, AButtonTakesThoseOfItsOwnGround) {
