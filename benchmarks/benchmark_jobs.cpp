@@ -46,6 +46,8 @@ void FillTask(int task, int number) {
   Module1.CtdBackFlexion.at(task) = Integer{2};
   Module1.CtdNeckFlexion.at(task) = 1;
   Module1.CtdRepetitions.at(task) = 3;
+  // Tasks beyond those that a file takes have none of these.
+  if (task > kHighestTask) return;
   for (int slot = 0; slot < kPostureSlots; ++slot) {
     Module1.CtdLoadHeld.at(task, slot) = 1.25 * slot;
     Module1.CtdPostureDuration.at(task, slot) = 0.05 * slot;
