@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <exception>
 #include <optional>
+#include <utility>
 
 #include "core/file_calls.h"
 #include "core/file_name.h"
@@ -97,6 +98,21 @@ std::optional<std::string> FindEqual(const Place& place, std::string_view jobFil
   return place.folder + *std::ranges::min_element(found);
 }
 
+/// Another number of tasks for as long as it lives. The job itself is written, since the memory for
+/// a copy of many tasks may be what has failed, and the journal takes the job every second.
+class StorableCount {
+ public:
+  StorableCount(TaggedField& count, Integer storable)
+      : count_(count), own_(std::exchange(count, storable)) {}
+  ~StorableCount() { count_ = std::move(own_); }
+  StorableCount(const StorableCount&) = delete;
+  StorableCount& operator=(const StorableCount&) = delete;
+
+ private:
+  TaggedField& count_;
+  TaggedField own_;
+};
+
 /// Writes under the first name that is free.
 std::string WriteUnderFreeName(const Place& place, std::string_view jobFileName,
                                const std::string& bytes) {
@@ -110,11 +126,11 @@ std::string WriteUnderFreeName(const Place& place, std::string_view jobFileName,
 
 bool NeedsRescue(const JobState& job) { return job.JobDirty != kFalse || job.JobInNoFile; }
 
-std::string RescueBytes(const JobState& job) {
-  JobState storable = job;
+std::string RescueBytes(JobState& job) {
   // From the arrays, since the failure may be that `TaskCount` is none.
-  storable.TaskCount = ToInteger(std::min(kHighestTask, job.TaskNames.upperBound()));
-  return JobFileBytes(storable);
+  const StorableCount count(job.TaskCount,
+                            ToInteger(std::min(kHighestTask, job.TaskNames.upperBound())));
+  return JobFileBytes(job);
 }
 
 std::string RescueName(std::string_view jobFileName, int number, std::size_t longest) {

@@ -13,8 +13,9 @@ namespace halvane {
 bool NeedsRescue(const JobState& job);
 
 /// The bytes of a job file for `job`, with as many of its tasks as a file can hold, whatever
-/// `TaskCount` says. Throws `OutOfMemory`'s own exception alone.
-std::string RescueBytes(const JobState& job);
+/// `TaskCount` says; the job is as it was when they are there. Throws `OutOfMemory`'s own exception
+/// alone.
+std::string RescueBytes(JobState& job);
 
 /// The name of the copy of that number, counted from 1, of a job whose file has this name (empty:
 /// none): "<name>.rescue.qjt", "<name> (2).rescue.qjt" and so on, `longest` bytes at most.

@@ -23,6 +23,8 @@ constexpr int kPaperMargin = 24;
 constexpr auto kNews = "Report computed anew";
 /// A report that is written with each key that is typed is told of behind the last one.
 constexpr int kNewsMilliseconds = 500;
+/// Paragraphs of a report that is laid out whole before it is painted.
+constexpr std::size_t kMostAtOnce = 256;
 
 QTextCharFormat CharFormat(const CharacterFormat& format) {
   QTextCharFormat result;
@@ -103,7 +105,17 @@ void RichTextBox::ShowReport(const RichText& report) {
   // in one width more each time.
   setVerticalScrollBarPolicy(IsLikelyToScroll(report) ? Qt::ScrollBarAlwaysOn
                                                       : Qt::ScrollBarAsNeeded);
-  Write(report);
+  const QSizeF page = document()->pageSize();
+  const bool isLong = report.paragraphs().size() > kMostAtOnce;
+  // Without a page nothing is laid out. A page that is new has the first lines laid out at once and
+  // the others whenever there is nothing else to do, or when somebody comes to them.
+  if (isLong) document()->setPageSize(QSizeF(0, 0));
+  Fill(report);
+  if (isLong) {
+    // The caret stands behind what was filled in, and would have all of it laid out.
+    Select(0, 0);
+    document()->setPageSize(page);
+  }
   setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
   setUndoRedoEnabled(!isReadOnly());
   Select(0, 0);
@@ -117,22 +129,32 @@ bool RichTextBox::IsLikelyToScroll(const RichText& report) const {
   return lines * QFontMetrics(document()->defaultFont()).height() > viewport()->height();
 }
 
-void RichTextBox::Write(const RichText& report) {
+void RichTextBox::Fill(const RichText& report) {
   QTextCursor cursor(document());
   // One layout of the whole instead of one for each piece.
   cursor.beginEditBlock();
-  bool first = true;
+  // A format that has been made once is found faster than one that is made anew.
+  const QTextCharFormat plain = CharFormat({});
+  const ParagraphFormat* paragraphFormat = nullptr;
+  QTextBlockFormat block;
+  CharacterFormat runFormat;
+  QTextCharFormat characters = plain;
   for (const Paragraph& paragraph : report.paragraphs()) {
-    const QTextBlockFormat format = BlockFormat(paragraph.format, logicalDpiX());
-    if (first) {
-      cursor.setBlockFormat(format);
-    } else {
-      cursor.insertBlock(format, CharFormat({}));
+    const bool isFirst = paragraphFormat == nullptr;
+    if (isFirst || *paragraphFormat != paragraph.format) {
+      block = BlockFormat(paragraph.format, logicalDpiX());
     }
-    first = false;
+    paragraphFormat = &paragraph.format;
+    if (isFirst) {
+      cursor.setBlockFormat(block);
+    } else {
+      cursor.insertBlock(block, plain);
+    }
     for (const Run& run : paragraph.runs) {
       if (run.picture.empty()) {
-        cursor.insertText(QString::fromStdString(run.text), CharFormat(run.format));
+        if (run.format != runFormat) characters = CharFormat(run.format);
+        runFormat = run.format;
+        cursor.insertText(QString::fromStdString(run.text), characters);
       } else {
         InsertPicture(cursor, run);
       }

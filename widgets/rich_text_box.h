@@ -26,7 +26,7 @@ class RichTextBox : public QTextEdit {
   void SetLeast(int columns, int lines);
   [[nodiscard]] QSize minimumSizeHint() const override;
 
-  /// Shows `report` with the caret at its start.
+  /// Shows `report` with the caret at its start. A long one is laid out while it stands there.
   void ShowReport(const RichText& report);
 
   /// Selects `length` characters from `start` on; a line end is one character here.
@@ -51,7 +51,7 @@ class RichTextBox : public QTextEdit {
   /// Whether a report is longer than the pane; a wrong guess costs a second layout.
   [[nodiscard]] bool IsLikelyToScroll(const RichText& report) const;
   /// Fills the empty pane.
-  void Write(const RichText& report);
+  void Fill(const RichText& report);
   void InsertPicture(QTextCursor& cursor, const Run& run);
   void ForgetNotes();
   void TellNews();

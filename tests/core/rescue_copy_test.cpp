@@ -48,6 +48,20 @@ TEST_F(RescueCopy, StandsBesideTheJobFileAndLeavesJobAndFileAlone) {
   EXPECT_EQ(fallback_.Names(), "");
 }
 
+TEST_F(RescueCopy, LeavesAJobOfMoreTasksThanAFileTakesAlone) {
+  MakeTasks(kHighestTask + 2);
+  const JobState before = Module1;
+  const std::string bytes = RescueBytes(Module1);
+  EXPECT_EQ(Module1, before);
+  MakeTasks(kHighestTask);
+  Module1.TaskCount = Integer{kHighestTask};
+  EXPECT_EQ(bytes, RescueBytes(Module1));
+  // Whatever the count is: a text, say.
+  Module1.TaskCount = "many";
+  RescueBytes(Module1);
+  EXPECT_EQ(Module1.TaskCount, TaggedField("many"));
+}
+
 TEST_F(RescueCopy, NeverGoesOverAnExistingFile) {
   Module1.JobFileName = folder_.File("job.qjt");
   WriteBytes(folder_.File("job.rescue.qjt"), "first");

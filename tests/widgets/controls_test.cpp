@@ -8,6 +8,7 @@
 #include <QScrollBar>
 #include <QTest>
 #include <QTextBlock>
+#include <QTextLayout>
 
 #include "tests/support/form_support.h"
 #include "widgets/ribbon_button.h"
@@ -373,6 +374,52 @@ TEST_F(Pane, ShownReportHasTheCaretAtItsStart) {
   Show([](RichText& report) { report.Append("three"); });
   EXPECT_EQ(box.textCursor().position(), 0);
   EXPECT_FALSE(box.textCursor().hasSelection());
+}
+
+constexpr int kManyLines = 4000;
+
+void AppendManyLines(RichText& report) {
+  for (int line = 0; line < kManyLines; ++line) {
+    report.Append(kNewLine, "line ", std::to_string(line));
+  }
+}
+
+/// How high the text is as far as it is laid out.
+double HeightNow(const RichTextBox& box) {
+  return static_cast<double>(box.verticalScrollBar()->maximum()) + box.viewport()->height();
+}
+
+TEST_F(Pane, LongReportIsLaidOutWhileItStandsThere) {
+  ShowActive(box);
+  Show(AppendManyLines);
+  EXPECT_EQ(box.document()->blockCount(), kManyLines + 1);
+  // The first lines stand at once.
+  EXPECT_EQ(box.document()->findBlockByNumber(1).layout()->lineCount(), 1);
+  EXPECT_EQ(box.document()->lastBlock().layout()->lineCount(), 0);
+  while (box.document()->lastBlock().layout()->lineCount() == 0) {
+    QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+  }
+  QCoreApplication::processEvents();
+  EXPECT_NEAR(HeightNow(box), box.document()->size().height(), 1);
+}
+
+TEST_F(Pane, EndOfALongReportIsThereForWhoGoesThere) {
+  ShowActive(box);
+  Show(AppendManyLines);
+  QTest::keyClick(&box, Qt::Key_End, Qt::ControlModifier);
+  EXPECT_EQ(box.textCursor().block().text(), QString("line %1").arg(kManyLines - 1));
+  EXPECT_TRUE(box.viewport()->rect().intersects(box.cursorRect()));
+}
+
+TEST_F(Pane, ShortReportIsWholeAtOnceBehindALongOne) {
+  ShowActive(box);
+  Show([](RichText& report) { report.Append("one\r\ntwo"); });
+  const QSizeF size = box.document()->size();
+  Show(AppendManyLines);
+  Show([](RichText& report) { report.Append("one\r\ntwo"); });
+  EXPECT_EQ(box.document()->lastBlock().layout()->lineCount(), 1);
+  EXPECT_EQ(box.verticalScrollBar()->maximum(), 0);
+  EXPECT_EQ(box.document()->size(), size);
 }
 
 }  // namespace
