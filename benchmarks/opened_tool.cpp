@@ -65,6 +65,8 @@ OpenedTool::OpenedTool(int tasks) : main_(MakeToolForm), watch_(main_) {
   main_.show();
   watch_.WaitForPaint();
   FillJob(tasks, 1);
+  // The opening panel goes at once.
+  main_.findChild<QTimer*>("Timer1")->stop();
   main_.Timer1_Timer();
 }
 
