@@ -59,7 +59,7 @@ void GradientPanel::paintEvent(QPaintEvent* /*event*/) {
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(Qt::NoPen);
   painter.setBrush(brush);
-  painter.drawRoundedRect(rect(), kCornerRadius, kCornerRadius);
+  FillRounded(painter, rect(), kCornerRadius);
 }
 
 }  // namespace halvane

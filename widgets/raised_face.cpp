@@ -2,6 +2,8 @@
 
 #include <QColor>
 #include <QPainter>
+#include <algorithm>
+#include <cmath>
 
 namespace halvane {
 namespace {
@@ -10,10 +12,26 @@ namespace {
 constexpr QColor kShadow(51, 63, 120, 52);
 constexpr QPoint kShadowOffset(2, 3);
 constexpr int kShadowLayers = 3;
+/// Of the device, filled at once. What has some more of them the toolkit gives to threads, which
+/// take longer to wake up than to fill all of a panel.
+constexpr int kRowsAtOnce = 40;
 
 QRectF WithinOutline(const QRect& whole) { return QRectF(whole).adjusted(1, 1, -1, -1); }
 
 }  // namespace
+
+void FillRounded(QPainter& painter, const QRectF& shape, double rounding) {
+  const double ratio = painter.device()->devicePixelRatio();
+  const int rows = std::max(1, static_cast<int>(std::floor(kRowsAtOnce / ratio)));
+  // With the pixels that an edge shares at a scale that is no whole number.
+  const QRect around = shape.toAlignedRect().adjusted(-1, -1, 1, 1);
+  painter.save();
+  for (int top = around.top(); top <= around.bottom(); top += rows) {
+    painter.setClipRect(around.left(), top, around.width(), rows);
+    painter.drawRoundedRect(shape, rounding, rounding);
+  }
+  painter.restore();
+}
 
 QRectF RaisedTop(const QRect& whole) {
   return WithinOutline(whole).adjusted(kRaisedEdge, kRaisedEdge, -kRaisedEdge, -kRaisedEdge);
@@ -28,16 +46,14 @@ void PaintRaisedFace(QPainter& painter, const QRect& whole, const QColor& face, 
   painter.setPen(Qt::NoPen);
   // The dark outline, then the two edges one inside the other, then the face.
   painter.setBrush(face.darker(240));
-  painter.drawRoundedRect(whole, kCornerRadius, kCornerRadius);
+  FillRounded(painter, whole, kCornerRadius);
   const QRectF inside = WithinOutline(whole);
   painter.setBrush(held ? light : dark);
-  painter.drawRoundedRect(inside, kCornerRadius - 1, kCornerRadius - 1);
+  FillRounded(painter, inside, kCornerRadius - 1);
   painter.setBrush(held ? dark : light);
-  painter.drawRoundedRect(inside.adjusted(0, 0, -kRaisedEdge, -kRaisedEdge), kCornerRadius - 1,
-                          kCornerRadius - 1);
+  FillRounded(painter, inside.adjusted(0, 0, -kRaisedEdge, -kRaisedEdge), kCornerRadius - 1);
   painter.setBrush(top);
-  const double rounding = kCornerRadius - kRaisedEdge;
-  painter.drawRoundedRect(RaisedTop(whole), rounding, rounding);
+  FillRounded(painter, RaisedTop(whole), kCornerRadius - kRaisedEdge);
   painter.restore();
 }
 
@@ -64,8 +80,7 @@ void PaintSoftShadow(QPainter& painter, const QRect& whole) {
   painter.setBrush(kShadow);
   const QRectF cast = QRectF(whole.translated(kShadowOffset));
   for (int wider = 0; wider < kShadowLayers; ++wider) {
-    const double rounding = kCornerRadius + wider;
-    painter.drawRoundedRect(cast.adjusted(-wider, -wider, wider, wider), rounding, rounding);
+    FillRounded(painter, cast.adjusted(-wider, -wider, wider, wider), kCornerRadius + wider);
   }
   painter.restore();
 }

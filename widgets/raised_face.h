@@ -12,6 +12,8 @@ inline constexpr double kCornerRadius = 5;
 /// The width of the two edges of a raised face.
 inline constexpr double kRaisedEdge = 2;
 
+/// Fills a shape with round corners with the painter's brush.
+void FillRounded(QPainter& painter, const QRectF& shape, double rounding);
 /// The part of a raised control within its edges.
 QRectF RaisedTop(const QRect& whole);
 /// Paints a three-dimensional control: round corners, light above and dark below, the other way
