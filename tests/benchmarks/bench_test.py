@@ -108,12 +108,13 @@ class Commits(unittest.TestCase):
         self.assertEqual((builds.take_files(self.second, self.root) / "core/text.cpp").read_text(), "two")
 
     def test_leave_no_program_to_the_next(self):
-        folder = self.root / "build/benchmarks"
-        folder.mkdir(parents=True)
-        for name, mode in (("program", 0o755), ("build.ninja", 0o644)):
+        folder = self.root / "build"
+        for name, mode in (("benchmarks/program", 0o755), ("benchmarks/rules", 0o644), (builds.REPORTER, 0o755)):
+            (folder / name).parent.mkdir(parents=True, exist_ok=True)
             (folder / name).touch(mode)
-        builds.remove_programs(folder.parent)
-        self.assertEqual([path.name for path in folder.iterdir()], ["build.ninja"])
+        builds.remove_programs(folder)
+        self.assertEqual([path.name for path in folder.rglob("*") if path.is_file()], ["rules"])
+        builds.remove_programs(folder)
 
 
 class Samples(unittest.TestCase):
