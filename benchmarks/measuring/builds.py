@@ -29,9 +29,12 @@ def take_files(commit, root=ROOT):
     files = root / OTHER
     # Of a folder that was removed git would still know.
     subprocess.run(["git", "-C", root, "worktree", "prune"], check=True)
-    if files.exists():
-        subprocess.run(["git", "-C", files, "reset", "--quiet", "--hard", commit], check=True)
+    if (files / ".git").is_file():
+        # Named outright: in a folder without files of its own git would take those of the folder around it.
+        own = [f"--git-dir={files / '.git'}", f"--work-tree={files}"]
+        subprocess.run(["git", *own, "reset", "--quiet", "--hard", commit], check=True)
     else:
+        shutil.rmtree(files, ignore_errors=True)
         subprocess.run(["git", "-C", root, "worktree", "add", "--quiet", "--detach", files, commit], check=True)
     shutil.rmtree(files / "benchmarks", ignore_errors=True)
     shutil.copytree(root / "benchmarks", files / "benchmarks", ignore=shutil.ignore_patterns("__pycache__"))
