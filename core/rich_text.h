@@ -5,6 +5,8 @@
 #include <string_view>
 #include <vector>
 
+#include "core/number_text.h"
+
 namespace halvane {
 
 /// Ends a paragraph of a report.
@@ -87,6 +89,11 @@ class RichText {
   void Append(std::string_view first, const Text&... more) {
     Append(first);
     (Append(std::string_view(more)), ...);
+  }
+  /// Appends a number in a fixed-point pattern. A pane that drops it saves the work of that, which
+  /// cannot fail.
+  void AppendNumber(double number, Pattern pattern) {
+    if (!drops_) Append(Format(number, pattern));
   }
   /// Appends a picture as one character; `sense` is what it shows in words.
   void AppendPicture(std::string_view assetName, std::string_view sense = {});

@@ -12,7 +12,8 @@ namespace {
 
 /// Given and not taken, for each thread: enough that none of them waits for the one that takes.
 constexpr std::size_t kJobsOfAThread = 32;
-constexpr std::size_t kBytesOfAThread = std::size_t{1} << 20;
+/// Some three dozen usual reports; with more, the memory would go by how far a thread is ahead.
+constexpr std::size_t kBytesOfAThread = std::size_t{1} << 18;
 /// How long what is done may lie until it is taken.
 constexpr std::chrono::milliseconds kPatience{100};
 

@@ -14,8 +14,9 @@
 namespace halvane {
 
 /// Does jobs in several threads and gives what they came to in the order in which they were given.
-/// It holds a few dozen results for each thread, and while these are large, no more than a megabyte
-/// for each thread beside those that the threads are at. All functions are called by one thread.
+/// It holds a few dozen results for each thread, and while these are large, no more than a quarter
+/// of a megabyte for each thread beside those that the threads are at. All functions are called by
+/// one thread.
 class JobCrew {
  public:
   /// `most` threads at most, which are started when there is work for them; each has a worker of

@@ -49,7 +49,7 @@ class Bench:
     def samples(self, name, *arguments, runs=1, warm_up=0):
         """What a program measures, for each build: lists of samples by name, of all runs."""
         calls = [lambda program=program: self._samples(program, arguments) for program in self.program(name)]
-        return [_joined(results) for results in self.in_turn(calls, runs, warm_up)]
+        return [joined(results) for results in self.in_turn(calls, runs, warm_up)]
 
     def samples_at_once(self, calls):
         """What programs measure that two processors may run side by side: (name, argument...) each."""
@@ -61,7 +61,8 @@ class Bench:
             return list(pool.map(run, calls))
 
 
-def _joined(results):
+def joined(results):
+    """What several runs of a program have measured, as one; None where there is no program."""
     if None in results:
         return None
     return {name: [amount for result in results for amount in result[name]] for name in results[0]}

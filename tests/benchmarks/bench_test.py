@@ -107,13 +107,21 @@ class Commits(unittest.TestCase):
         subprocess.run(["rm", "-r", files], check=True)
         self.assertEqual((builds.take_files(self.second, self.root) / "core/text.cpp").read_text(), "two")
 
+    def test_come_into_a_folder_that_was_something_else_and_leave_the_present_files_alone(self):
+        (self.root / builds.OTHER / "files").mkdir(parents=True)
+        (self.root / "core/text.cpp").write_text("not committed")
+        self.assertEqual((builds.take_files(self.first, self.root) / "core/text.cpp").read_text(), "one")
+        self.assertEqual((self.root / "core/text.cpp").read_text(), "not committed")
+        self.assertEqual(self.git("rev-parse", "HEAD"), self.second)
+
     def test_leave_no_program_to_the_next(self):
-        folder = self.root / "build/benchmarks"
-        folder.mkdir(parents=True)
-        for name, mode in (("program", 0o755), ("build.ninja", 0o644)):
+        folder = self.root / "build"
+        for name, mode in (("benchmarks/program", 0o755), ("benchmarks/rules", 0o644), (builds.REPORTER, 0o755)):
+            (folder / name).parent.mkdir(parents=True, exist_ok=True)
             (folder / name).touch(mode)
-        builds.remove_programs(folder.parent)
-        self.assertEqual([path.name for path in folder.iterdir()], ["build.ninja"])
+        builds.remove_programs(folder)
+        self.assertEqual([path.name for path in folder.rglob("*") if path.is_file()], ["rules"])
+        builds.remove_programs(folder)
 
 
 class Samples(unittest.TestCase):

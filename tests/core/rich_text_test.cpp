@@ -155,10 +155,19 @@ TEST(RichText, ClearingTakesTextAndFormatAwayAndKeepsTheLock) {
   EXPECT_EQ(pane.paragraphs()[1], Paragraph{});
 }
 
+TEST(RichText, AppendsNumbersInAPattern) {
+  RichText pane;
+  pane.Append("a ");
+  pane.AppendNumber(1.25, Pattern::OneDecimal);
+  pane.AppendNumber(-2, Pattern::TwoDecimals);
+  EXPECT_EQ(pane.text(), "a 1.3-2.00");
+}
+
 TEST(RichText, DropsWhatIsAppendedWhereNobodyReadsIt) {
   RichText pane(RichText::Appended::Dropped);
   pane.SetTabCount(1);
   pane.Append("a", kTab, "b", kNewLine);
+  pane.AppendNumber(1.25, Pattern::OneDecimal);
   pane.AppendPicture("ctd/report");
   EXPECT_EQ(pane.text(), "");
   EXPECT_TRUE(pane.pictures().empty());

@@ -29,13 +29,21 @@ void WriteJob(RichText& RichTextBox1) {
   RichTextBox1.Append(kNewLine);
   AppendNames(RichTextBox1);
   RichTextBox1.Append(kNewLine, kNewLine);
-  RichTextBox1.Append(kHours.label, " ", Format(NumberIn(kHours.field), Pattern::Whole));
-  RichTextBox1.Append(kNewLine, kCycleTime.label, " ",
-                      Format(NumberIn(kCycleTime.field), Pattern::TwoDecimals));
+  const double hours = NumberIn(kHours.field).AsDouble();
+  RichTextBox1.Append(kHours.label, " ");
+  RichTextBox1.AppendNumber(hours, Pattern::Whole);
+  const double cycleTime = NumberIn(kCycleTime.field).AsDouble();
+  RichTextBox1.Append(kNewLine, kCycleTime.label, " ");
+  RichTextBox1.AppendNumber(cycleTime, Pattern::TwoDecimals);
   RichTextBox1.Append(kNewLine, kNewLine);
 }
 
 // A row is appended column by column: where one fails, what stands before it stays in the report.
+
+void AppendColumn(RichText& RichTextBox1, double number, Pattern pattern) {
+  RichTextBox1.Append(kTab);
+  RichTextBox1.AppendNumber(number, pattern);
+}
 
 void WriteEffortTable(RichText& RichTextBox1) {
   RichTextBox1.SetFont(kHeading);
@@ -46,10 +54,10 @@ void WriteEffortTable(RichText& RichTextBox1) {
   for (const int task : ActiveTasks()) {
     SetStops(RichTextBox1, kRowStops);
     RichTextBox1.Append(kNewLine, ShownTaskName(task));
-    RichTextBox1.Append(kTab, Format(Module1.CtdWorkTime.at(task), Pattern::TwoDecimals));
-    RichTextBox1.Append(kTab, Format(Module1.CtdRepetitions.at(task), Pattern::OneDecimal));
-    RichTextBox1.Append(kTab, Format(Module1.CtdForceMvc.at(task), Pattern::OneDecimal));
-    RichTextBox1.Append(kTab, Format(Module1.CtdHandSpan.at(task), Pattern::OneDecimal));
+    AppendColumn(RichTextBox1, Module1.CtdWorkTime.at(task).AsDouble(), Pattern::TwoDecimals);
+    AppendColumn(RichTextBox1, Module1.CtdRepetitions.at(task), Pattern::OneDecimal);
+    AppendColumn(RichTextBox1, Module1.CtdForceMvc.at(task), Pattern::OneDecimal);
+    AppendColumn(RichTextBox1, Module1.CtdHandSpan.at(task).AsDouble(), Pattern::OneDecimal);
   }
   RichTextBox1.Append(kNewLine, kNewLine);
 }
@@ -88,15 +96,18 @@ void WritePostureRow(RichText& RichTextBox1, int slot, int task) {
   const bool neck = slot == kCtdNeckSlot;
   RichTextBox1.Append(row.reportLabel);
   RichTextBox1.Append(kTab, CategoryCaption(slot, task));
-  RichTextBox1.Append(
-      kTab,
-      neck ? "    " : Format(Module1.CtdLoadHeld.at(task, row.frameSlot), Pattern::OneDecimal));
-  RichTextBox1.Append(
-      kTab, Format(Module1.CtdPostureDuration.at(task, row.frameSlot), Pattern::TwoDecimals));
+  if (neck) {
+    RichTextBox1.Append(kTab, "    ");
+  } else {
+    AppendColumn(RichTextBox1, Module1.CtdLoadHeld.at(task, row.frameSlot), Pattern::OneDecimal);
+  }
+  AppendColumn(RichTextBox1, Module1.CtdPostureDuration.at(task, row.frameSlot),
+               Pattern::TwoDecimals);
   // The neck's row shows the back's score. It is wanted, as is that the scores are those of the
   // last active task while the rest of the row belongs to the worst one.
   const double score = Module1.CtdPostureScore.at(neck ? slot - 1 : slot).AsDouble();
-  RichTextBox1.Append(kTab, Format(score, Pattern::TwoDecimals), kNewLine);
+  AppendColumn(RichTextBox1, score, Pattern::TwoDecimals);
+  RichTextBox1.Append(kNewLine);
 }
 
 void WritePostureTable(RichText& RichTextBox1) {
@@ -116,7 +127,7 @@ void WriteResult(RichText& RichTextBox1, std::string_view label, const TaggedFie
   RichTextBox1.SetFont(kBold);
   RichTextBox1.Append(label);
   RichTextBox1.SetFont(kPlain);
-  RichTextBox1.Append(Format(value, Pattern::TwoDecimals));
+  RichTextBox1.AppendNumber(value.AsDouble(), Pattern::TwoDecimals);
 }
 
 }  // namespace

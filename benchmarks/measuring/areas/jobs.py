@@ -3,6 +3,7 @@
 import json
 import subprocess
 
+from measuring.bench import joined, of
 from measuring.processes import wall_time
 from measuring.row import Row
 
@@ -14,31 +15,21 @@ FILES = (
 REPORTS = (("ocra", "OCRA"), ("ctd", "CTD Risk Index"), ("si", "Strain Index"), ("reba", "REBA"), ("rula", "RULA"))
 
 
-def _samples(program, repetitions, seconds):
-    command = [
-        program,
-        "--benchmark_format=json",
-        f"--benchmark_repetitions={repetitions}",
-        f"--benchmark_min_time={seconds}",
-        "--benchmark_enable_random_interleaving=true",
-        "--benchmark_report_aggregates_only=false",
-    ]
+def _samples(program, seconds):
+    """What each of the benchmarks takes, by its name."""
+    if program is None:
+        return None
+    command = [program, "--benchmark_format=json", f"--benchmark_min_time={seconds}"]
     output = wall_time(command, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL)[1]
-    samples = {}
-    for row in json.loads(output)["benchmarks"]:
-        if row["run_type"] == "iteration":
-            samples.setdefault(row["run_name"].removesuffix("/real_time"), []).append(row["real_time"] / 1e9)
-    return samples
+    rows = json.loads(output)["benchmarks"]
+    return {row["name"].removesuffix("/real_time"): [row["real_time"] / 1e9] for row in rows}
 
 
 def rows(bench):
-    repetitions, seconds = bench.many(7), 0.01 if bench.quick else 0.05
-    sides = [program and _samples(program, repetitions, seconds) for program in bench.program("in_process")]
-
-    def of(name):
-        return [side and side[name] for side in sides]
-
+    seconds = 0.01 if bench.quick else 0.05
+    calls = [lambda program=program: _samples(program, seconds) for program in bench.program("in_process")]
+    sides = [joined(results) for results in bench.in_turn(calls, bench.many(7))]
     for what, name, against, base in FILES:
-        yield Row(what, of(name), against, of(base))
+        yield Row(what, of(name, sides), against, of(base, sides))
     for key, name in REPORTS:
-        yield Row(f"{name} with report, job of 40 tasks", of(f"ToolWithReport/{key}"))
+        yield Row(f"{name} with report, job of 40 tasks", of(f"ToolWithReport/{key}", sides))
