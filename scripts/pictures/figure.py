@@ -8,7 +8,7 @@ import math
 from dataclasses import dataclass, field
 
 from pictures import body
-from pictures.inks import ACCENT, EDGE, FIGURE
+from pictures.inks import ACCENT, EDGE, FIGURE, GUIDE
 from pictures.svg import Frame, disc, polar, polyline, smooth
 
 APART = 6  # degrees to the side, of legs from the front
@@ -148,6 +148,8 @@ class SideFigure:
     def draw_face(self, drawing, colour):
         """A hairline under jaw and skull, so that a bent head stays a head, the ear and an eye."""
         drawing.solid(self.head_paths()[:1], colour, edge=CHIN)
+        if colour == FIGURE:
+            drawing.raw(f'<path d="{outline(self.head, body.SIDE_HAIR)}" fill="{GUIDE}"/>')
         drawing.line(polyline(self.head.all(body.SIDE_EYE)), EDGE, 0.9)
         drawing.line(smooth(self.head.all(body.SIDE_EAR), closed=False), EDGE, 0.7)
 
@@ -246,6 +248,7 @@ def front_body(drawing, view):
     head = front_whole(root, body.FRONT_HEAD)
     drawing.solid([*legs, *trunk, head], FIGURE)
     drawing.solid([head], FIGURE, edge=CHIN)
+    drawing.raw(f'<path d="{front_whole(root, body.FRONT_HAIR)}" fill="{GUIDE}"/>')
 
 
 def front_legs(drawing, view, lifted):
