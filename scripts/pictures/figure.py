@@ -8,11 +8,13 @@ import math
 from dataclasses import dataclass, field
 
 from pictures import body
-from pictures.inks import ACCENT, EDGE, FIGURE
+from pictures.inks import ACCENT, EDGE, FIGURE, GUIDE
 from pictures.svg import Frame, disc, polar, polyline, smooth
 
 APART = 6  # degrees to the side, of legs from the front
-CHIN = 0.4  # width of the hairline between a head and its neck
+CHIN = 0.8  # width of the line between a head and its neck from the side, body units
+SQUATTING = 5.0  # height of a hip above which the trunk is in the picture
+UPPER = 0.6  # height in the picture above which a figure is cut off
 LOWER = 55.4  # height in the picture where what goes on is cut off
 
 
@@ -22,16 +24,16 @@ class View:
 
     scale: float
     hip: tuple
+    head: float = 1.0  # larger than life where a small figure has to show which way it looks
 
 
 # One view a joint: its pictures share scale and ground in all tools.
-ARM_SIDE = View(0.72, (23, 41))
-ELBOW_SIDE = View(0.82, (19, 44.4))
-TRUNK_SIDE = View(0.6, (20.8, 36.6))
-NECK_SIDE = View(1.42, (22, 84.2))
-LEGS = View(0.82, (24, 10.6))
+ARM_SIDE = View(0.68, (22, 40.4), head=1.2)
+TRUNK_SIDE = View(0.59, (19.4, 43), head=1.1)
+NECK_SIDE = View(1.24, (22, 83))
+LEGS = View(1.12, (20, -4.2))
 LEGS_FRONT = View(0.82, (28, 10.6))
-ARM_FRONT = View(0.68, (40, 40.2))
+ARM_FRONT = View(0.7, (43, 38.6))
 MIDDLE_FRONT = View(0.78, (28, 43))
 WHOLE_FRONT = View(0.66, (28, 38.5))
 
@@ -56,6 +58,11 @@ def outline(frame, corners):
     return smooth(frame.all(corners))
 
 
+def below(frame, corners):
+    """An outline whose part above the picture is cut off."""
+    return smooth([(x, max(y, UPPER)) for x, y in frame.all(corners)], tension=8)
+
+
 def cut(frame, corners, lower=LOWER):
     """An outline whose part below the picture is cut off."""
     return smooth([(x, min(y, lower)) for x, y in frame.all(corners)], tension=8)
@@ -70,11 +77,31 @@ class SideArm:
         self.forearm = arm + elbow
         self.wrist = hanging(self.elbow, body.FOREARM * scale, self.forearm)
         lower = Frame(self.elbow, scale, -self.forearm)
-        self.upper_paths = [outline(Frame(shoulder, scale, -arm), body.SIDE_UPPER_ARM)]
-        self.lower_paths = [outline(lower, body.SIDE_FOREARM),
-                            outline(Frame(self.wrist, scale, -self.forearm), body.SIDE_HAND)]
+        hand = Frame(self.wrist, scale, -self.forearm)
+        self.upper_paths = [cut(Frame(shoulder, scale, -arm), body.SIDE_UPPER_ARM)]
+        self.lower_paths = [cut(frame, corners) for frame, corners in
+                            ((lower, body.SIDE_FOREARM), (hand, body.SIDE_HAND))
+                            if frame.origin[1] < LOWER]
         if elbow > 20:
             self.upper_paths.append(disc(self.elbow, 3.2 * scale))
+
+
+class ArmAlone:
+    """An arm from the side, large; the upper arm hangs."""
+
+    SHOULDER, SCALE = (13, 3), 1.15
+
+    def __init__(self, elbow):
+        self.arm = SideArm(self.SHOULDER, self.SCALE, 0, elbow)
+
+    def upper_paths(self):
+        frame = Frame(self.SHOULDER, self.SCALE)
+        return [below(frame, body.SIDE_UPPER_ARM), *self.arm.upper_paths[1:]]
+
+    def draw(self, drawing, between):
+        drawing.solid(self.upper_paths(), FIGURE)
+        between()
+        drawing.solid(self.arm.lower_paths, ACCENT)
 
 
 class SideFigure:
@@ -87,7 +114,7 @@ class SideFigure:
         self.torso = Frame(self.hip, s, pose.trunk)
         self.shoulder = self.torso.at(*body.SHOULDER)
         self.neck = self.torso.at(*body.NECK)
-        self.head = Frame(self.neck, s, pose.trunk + pose.neck)
+        self.head = Frame(self.neck, s * view.head, pose.trunk + pose.neck)
         self.arm = SideArm(self.shoulder, s, pose.arm, pose.elbow)
 
     def neck_path(self):
@@ -101,15 +128,15 @@ class SideFigure:
                        torso.at(*body.THROAT), torso.at(-1, -28)])
 
     def head_paths(self):
-        return [outline(self.head, body.SIDE_HEAD), self.neck_path()]
+        return [outline(self.head, body.SIDE_HEAD), outline(self.head, body.SIDE_CAP),
+                self.neck_path()]
 
-    def leg_paths(self, shift=0.0):
+    def leg_paths(self):
         """A standing leg, cut off at the lower edge, leaning so that the body keeps its balance."""
         s, trunk = self.view.scale, self.pose.trunk
         lean = trunk * (0.25 if trunk < 0 else 0.08)
-        hip = (self.hip[0] + shift * s, self.hip[1])
-        knee = hanging(hip, body.THIGH * s, lean)
-        paths = [cut(Frame(hip, s, -lean), body.SIDE_THIGH)]
+        knee = hanging(self.hip, body.THIGH * s, lean)
+        paths = [cut(Frame(self.hip, s, -lean), body.SIDE_THIGH)]
         if knee[1] < LOWER - 2:
             paths.append(cut(Frame(knee, s, -lean), body.SIDE_SHANK))
         return paths
@@ -136,8 +163,7 @@ class SideFigure:
                        for path in paths], ACCENT)
 
     def draw_trunk(self, drawing, between=lambda: None):
-        """Standing legs, the far arm and the head in grey, the trunk in the accent colour."""
-        drawing.solid(self.leg_paths(3.2), FIGURE)
+        """A standing leg, the far arm and the head in grey, the trunk in the accent colour."""
         drawing.solid([*self.arm.upper_paths, *self.arm.lower_paths], FIGURE)
         between()
         drawing.solid(self.head_paths(), FIGURE)
@@ -146,8 +172,11 @@ class SideFigure:
         drawing.solid([*self.leg_paths(), *self.pelvis_paths()], FIGURE)
 
     def draw_face(self, drawing, colour):
-        """A hairline under jaw and skull, so that a bent head stays a head, the ear and an eye."""
-        drawing.solid(self.head_paths()[:1], colour, edge=CHIN)
+        """A line under the jaw, so that a bent head stays a head, a cap, the ear and an eye."""
+        jaw = smooth(self.head.all(body.SIDE_JAW), closed=False)
+        drawing.line(jaw, EDGE, CHIN * self.view.scale)
+        if colour == FIGURE:
+            drawing.solid([outline(self.head, body.SIDE_CAP)], GUIDE, edge=0.5)
         drawing.line(polyline(self.head.all(body.SIDE_EYE)), EDGE, 0.9)
         drawing.line(smooth(self.head.all(body.SIDE_EAR), closed=False), EDGE, 0.7)
 
@@ -181,17 +210,18 @@ class KneesFigure:
         def at(point):
             return point[0] + shift * s, point[1]
 
-        return [outline(Frame(at(self.hip), s, -self.thigh), body.SIDE_THIGH),
+        return [below(Frame(at(self.hip), s, -self.thigh), body.SIDE_THIGH),
                 outline(Frame(at(self.knee), s, self.thigh), body.SIDE_SHANK),
                 outline(Frame(at(self.ankle), s), body.SIDE_FOOT),
                 disc(at(self.knee), 3.6 * s)]
 
     def draw(self, drawing, between=lambda: None):
-        lean = Frame(self.hip, self.scale, self.thigh * 0.5)
-        trunk = smooth([(x, max(y, 0.6)) for x, y in Frame(lean.at(0, -4), self.scale, lean.turn)
-                        .all(body.SIDE_TRUNK)], tension=8)
-        drawing.solid(self.leg_paths(-8), FIGURE)
-        drawing.solid([trunk, outline(lean, body.SIDE_PELVIS)], FIGURE)
+        pelvis = below(Frame(self.hip, self.scale, self.thigh * 0.5), body.SIDE_PELVIS)
+        paths = [*self.leg_paths(-2.6), pelvis]
+        if self.hip[1] > SQUATTING:
+            lean = Frame(self.hip, self.scale, self.thigh * 0.8)
+            paths.append(below(Frame(lean.at(0, -4), self.scale, lean.turn), body.SIDE_TRUNK))
+        drawing.solid(paths, FIGURE)
         between()
         drawing.solid(self.leg_paths(), ACCENT)
 
@@ -245,13 +275,14 @@ def front_body(drawing, view):
     trunk = [front_whole(torso, body.FRONT_TRUNK), front_whole(root, body.FRONT_NECK)]
     head = front_whole(root, body.FRONT_HEAD)
     drawing.solid([*legs, *trunk, head], FIGURE)
-    drawing.solid([head], FIGURE, edge=CHIN)
+    drawing.solid([head], FIGURE, edge=0.4)
+    drawing.raw(f'<path d="{front_whole(root, body.FRONT_CAP)}" fill="{GUIDE}"/>')
 
 
 def front_legs(drawing, view, lifted):
     """Pelvis and legs from the front, a little apart; the accent is on those that bear weight."""
     torso = Frame(view.hip, view.scale)
-    trunk = smooth([(x, max(y, 0.6)) for x, y in _whole(torso, body.FRONT_TRUNK)], tension=8)
+    trunk = smooth([(x, max(y, UPPER)) for x, y in _whole(torso, body.FRONT_TRUNK)], tension=8)
     right, left = (Frame(view.hip, view.scale, side * APART) for side in (1, -1))
     drawing.solid([trunk], FIGURE)
     if lifted:
@@ -266,7 +297,7 @@ def _whole(frame, half):
     return front_half(frame, half, 1) + front_half(frame, half, -1)[::-1][1:-1]
 
 
-def ground_line(drawing, height, start=6.0, end=50.0):
+def ground_line(drawing, height, start=2.0, end=54.0):
     """What feet stand on."""
     line = polyline([(start, height), (end, height)])
     drawing.raw(f'<path d="{line}" fill="none" stroke="{FIGURE}" stroke-width="1.4"/>')

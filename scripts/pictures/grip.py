@@ -17,7 +17,7 @@ def _object(drawing, paths):
     """What is held: light, with an outline that keeps it visible on every ground."""
     data = "".join(f'<path d="{path}"/>' for path in paths)
     drawing.solid(paths, OBJECT)
-    drawing.raw(f'<g fill="{OBJECT}" stroke="{GUIDE}" stroke-width="1.1" '
+    drawing.raw(f'<g fill="{OBJECT}" stroke="{GUIDE}" stroke-width="2.2" '
                 f'stroke-linejoin="round">{data}</g>')
     drawing.raw(f'<g fill="{OBJECT}">{data}</g>')
 
@@ -33,9 +33,9 @@ def _bent(drawing, joints, radii, colour=ACCENT):
 
 def _nail(drawing, tip, degrees, radius):
     """A nail near the tip of a finger that points to `degrees` from straight up."""
-    path = capsule(polar(tip, radius * 0.5, degrees + 180), radius * 0.62,
-                   polar(tip, radius * 0.35, degrees), radius * 0.62)
-    drawing.line(path, EDGE, 0.6)
+    path = capsule(polar(tip, radius * 0.5, degrees + 180), radius * 0.6,
+                   polar(tip, radius * 0.3, degrees), radius * 0.6)
+    drawing.raw(f'<path d="{path}" fill="{EDGE}"/>')
 
 
 FIST = [
@@ -116,7 +116,14 @@ def _soft(drawing, joints, radii, colour=ACCENT):
         inner = math.degrees(math.atan2((before[0] + after[0]) / 2 - at[0],
                                         at[1] - (before[1] + after[1]) / 2))
         drawing.line(polyline([polar(at, radius * share, inner) for share in (0.1, 0.9)]),
-                     EDGE, 0.6)
+                     EDGE, 0.8)
+    # The nail, seen from its side.
+    tip, radius = joints[-1], radii[-1]
+    along = math.degrees(math.atan2(tip[0] - joints[-2][0], joints[-2][1] - tip[1]))
+    back = polar(tip, radius * 0.55, inner + 180)
+    nail = capsule(polar(back, radius * 0.9, along + 180), radius * 0.34,
+                   polar(back, radius * 0.2, along), radius * 0.34)
+    drawing.raw(f'<path d="{nail}" fill="{EDGE}"/>')
 
 
 def two_point_pinch(title):
@@ -127,22 +134,23 @@ def two_point_pinch(title):
             ([(35, 23), (30, 11), (24, 5.4), (18.6, 3.8)], [3.2, 2.8, 2.4, 1.9]),
             ([(32, 23.4), (23.4, 12), (15.6, 8.4), (9, 8.6)], [3.4, 2.9, 2.4, 1.9])):
         _soft(drawing, joints, radii, FIGURE)
-    _object(drawing, [disc((8.8, 36), 3.7)])
-    _soft(drawing, [(31.4, 24), (18.6, 16.6), (10.8, 23), (9.6, 31.6)], PINCHING_FINGER)
+    _object(drawing, [disc((8.4, 35), 4.9)])
+    _soft(drawing, [(31.4, 24), (18.6, 15.6), (10.6, 20.8), (9.4, 28.2)], PINCHING_FINGER)
     _back(drawing)
-    _soft(drawing, [(44.6, 36.4), (33.4, 43.6), (21.6, 44.4), (11.4, 40.4)], PINCHING_THUMB)
+    _soft(drawing, [(44.6, 36.4), (33.4, 44.6), (21.6, 46.2), (11.2, 42)], PINCHING_THUMB)
     return drawing
 
 
 def chuck_pinch(title):
-    """A cap between the pads of thumb, index and middle finger; the others lie in the palm."""
+    """A ball between the pads of thumb, index and middle finger; the other two keep away."""
     drawing = Drawing(title)
-    for root, tip, radius in (((36, 34.6), (28.4, 36.6), 3), ((34, 28.6), (25, 30.6), 3.4)):
-        drawing.solid([capsule(root, radius, tip, radius * 0.9)], FIGURE, edge=0.8)
-        _nail(drawing, polar(tip, 0.6, 75), 255, radius * 0.8)
-    _soft(drawing, [(30, 22), (15, 10.4), (6.2, 17), (5.6, 26.4)], PINCHING_FINGER)
-    _object(drawing, [disc((9.8, 34.8), 6.4)])
-    _soft(drawing, [(31.4, 24), (19.6, 15.6), (12.6, 21.4), (12, 29.4)], PINCHING_FINGER)
+    for joints, radii in (
+            ([(41, 24), (42.4, 14), (41.4, 8), (39, 4.2)], [2.8, 2.5, 2.2, 1.7]),
+            ([(37, 22), (35.4, 11.6), (31.6, 6), (27, 3.6)], [3.2, 2.8, 2.4, 1.9])):
+        _soft(drawing, joints, radii, FIGURE)
+    _soft(drawing, [(30.4, 20), (16, 8), (6, 13.4), (4.8, 26.4)], PINCHING_FINGER)
+    _object(drawing, [disc((10, 35.5), 7)])
+    _soft(drawing, [(33, 26.4), (23.4, 17.6), (15.4, 20.6), (14.2, 28)], PINCHING_FINGER)
     _back(drawing)
-    _soft(drawing, [(44.6, 36.4), (33.4, 45), (21.6, 47), (11.6, 43)], PINCHING_THUMB)
+    _soft(drawing, [(44.6, 37), (34, 46.4), (22.6, 48.6), (12, 45)], PINCHING_THUMB)
     return drawing

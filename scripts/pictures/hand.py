@@ -4,7 +4,7 @@ Each hand has its own frame with the wrist as origin and the fingers pointing up
 from above, the thumb of the right hand is on the left.
 """
 
-from pictures.inks import ACCENT, EDGE, FIGURE, GUIDE
+from pictures.inks import ACCENT, EDGE, FIGURE, GUIDE, RANGE
 from pictures.protractor import DASH, Protractor, Reach
 from pictures.svg import (
     Drawing,
@@ -16,6 +16,7 @@ from pictures.svg import (
     polar,
     polygon,
     polyline,
+    sector,
     smooth,
 )
 
@@ -26,15 +27,18 @@ FINGERS_ABOVE = [
     ([(-1.5, -13.4), (-1.5, -21.2), (-1.4, -28.8)], [2.25, 2.05, 1.7]),
     ([(-5.4, -12.6), (-5.8, -19.6), (-5.8, -26.2)], [2.2, 2.0, 1.65]),
 ]
-THUMB_ABOVE = ([(-3, -2.8), (-9.2, -6), (-13.6, -8), (-17.4, -10.6)], [3.4, 3, 2.6, 2])
+THUMB_ABOVE = ([(-2.6, -2.6), (-8.8, -4.8), (-14.2, -7.4), (-18.6, -11.4)], [3.8, 3.6, 3.2, 2.5])
+KNUCKLES = [(6, -11.6), (2.5, -13), (-1.5, -13.4), (-5.2, -12.6)]
 PALM_ABOVE = [
     (-4.4, 1), (-5.6, -3), (-7.2, -7), (-7.4, -11.5), (-6.2, -15), (-2, -16.2), (2.6, -15.6),
     (6.4, -13.8), (8.1, -11), (7.4, -5.5), (5.2, -1.5), (4.4, 1),
 ]
 
 
-ABOVE_WRIST = (28, 42)
-ABOVE_REACH = Reach(segment=27, sector=37.4, arc=35.6, line=40.4, marked=False)
+TURN = (28, 45)  # middle of the ring around a forearm that turns
+ABOVE_WRIST, ABOVE = (28, 45), 0.83  # and the hand's scale
+BOTH_WAYS = 38  # pixels from the wrist to the arrow that means either side
+ABOVE_REACH = Reach(segment=23, sector=42.4, arc=26.6, line=44, marked=False)
 
 
 def forearm_up(drawing, wrist, half=4.4):
@@ -62,15 +66,19 @@ def hand_above(drawing, frame, colour=ACCENT, nails=True):
     if nails:
         for joints, radii in [THUMB_ABOVE, *FINGERS_ABOVE]:
             (ax, ay), (bx, by) = joints[-2:]
-            near = bx + (ax - bx) * 0.12, by + (ay - by) * 0.12
+            near = bx + (ax - bx) * 0.18, by + (ay - by) * 0.18
             r = radii[-1] * 0.62 * frame.scale
             nail = capsule(frame.at(*near), r, frame.at(bx, by), r)
-            drawing.line(nail, EDGE, 0.6)
+            drawing.raw(f'<path d="{nail}" fill="{EDGE}"/>')
+        for x, y in KNUCKLES:
+            drawing.line(smooth(frame.all([(x - 1.3, y + 0.5), (x, y - 0.3), (x + 1.3, y + 0.5)]),
+                                closed=False), EDGE, 0.8)
 
 
 def from_above(title, angle, shown=None):
     """The hand bent sideways by `angle`: ulnar positive, radial negative."""
     drawing = Drawing(title.format(abs(angle)))
+    forearm_up(drawing, ABOVE_WRIST)
     _bent_sideways(drawing, angle, shown)
     return drawing
 
@@ -78,12 +86,16 @@ def from_above(title, angle, shown=None):
 def to_either_side(title, angle, twisted=False):
     """The hand bent sideways, with an arrow to the other side too; maybe it turns as well."""
     drawing = Drawing(title.format(abs(angle)))
-    _bent_sideways(drawing, angle)
-    tips = [(polar(ABOVE_WRIST, ABOVE_REACH.arc, side * (angle + 4)), side * (90 + angle))
+    tips = [(polar(ABOVE_WRIST, BOTH_WAYS, side * (angle + 8)), side * (94 + angle))
             for side in (-1, 1)]
-    drawing.arrow(arc(ABOVE_WRIST, ABOVE_REACH.arc, -angle, angle), *tips)
+    path = sector(ABOVE_WRIST, BOTH_WAYS, -angle - 8, angle + 8)
+    drawing.raw(f'<path d="{path}" fill="{RANGE}"/>')
     if twisted:
-        _turn(drawing, (28, 50.6), (-1, 1))
+        _turn(drawing, (28, 49.4), (-1, 1), lambda: forearm_up(drawing, ABOVE_WRIST))
+    else:
+        forearm_up(drawing, ABOVE_WRIST)
+    _bent_sideways(drawing, angle)
+    drawing.arrow(arc(ABOVE_WRIST, BOTH_WAYS, -angle - 8, angle + 8), *tips)
     return drawing
 
 
@@ -96,34 +108,33 @@ def _dashed(drawing, path):
 def _bent_sideways(drawing, angle, shown=None):
     measure = Protractor(drawing, ABOVE_WRIST, 0, 1, angle, ABOVE_REACH, shown)
     measure.draw_range()
-    forearm_up(drawing, ABOVE_WRIST)
     measure.draw_lines()
-    hand_above(drawing, Frame(ABOVE_WRIST, 0.98, angle))
+    hand_above(drawing, Frame(ABOVE_WRIST, ABOVE, angle), nails=False)
     measure.draw_axis()
 
 
 # Side view from the thumb's side, fingers to the right, back of the hand up. Index finger and back
 # of the hand are one outline; the other fingers come out under it.
 BACK_OF_SIDE = [
-    (-2.4, -4), (3, -4.4), (9.4, -4.9), (14.6, -4.4), (20.8, -3.4), (27, -2.2), (31.6, -0.9),
-    (33, 0.7), (31.6, 1.8), (27, 1.3), (21, 1.2), (16.4, 2.2), (12.6, 3.8), (8.4, 4.6), (3, 4.6),
+    (-2.4, -4), (3, -4.4), (9.4, -4.9), (14.6, -4.6), (20.8, -3.9), (27, -3.1), (31.8, -2.1),
+    (33.2, -0.6), (31.8, 0.7), (27, 0.5), (21, 0.8), (16.4, 2), (12.6, 3.8), (8.4, 4.6), (3, 4.6),
     (-2.4, 4),
 ]
 FINGERS_SIDE = [
-    ([(13, 0.4), (20, 1.6), (26.4, 2.4), (31.4, 3.2)], [2.3, 1.9, 1.7, 1.4]),
-    ([(12, 1.6), (18.6, 3.6), (24, 4.6), (28, 5.6)], [2.1, 1.8, 1.6, 1.3]),
+    ([(13, 0.4), (20, 1.2), (26.4, 1.5), (31.2, 1.9)], [2.3, 2, 1.8, 1.5]),
+    ([(12, 1.6), (18.6, 3.1), (24, 3.6), (28, 4.2)], [2.1, 1.8, 1.6, 1.4]),
 ]
 THUMB_SIDE = ([(3.4, 3), (8.6, 6.8), (13.4, 8.6), (17.8, 8.6)], [2.9, 2.4, 2.1, 1.7])
-SIDE_WRIST = (17, 28.2)
+SIDE_WRIST = (11, 28.2)
 
 
 def from_side(title, angle, shown=None):
     """The palm-down hand bent at the wrist by `angle`: flexion positive, extension negative."""
     drawing = Drawing(title.format(abs(angle)))
     wrist = SIDE_WRIST
-    frame = Frame(wrist, 0.91, angle)
+    frame = Frame(wrist, 0.78, angle)
     x, y = wrist
-    reach = Reach(segment=27, sector=34.4, arc=33, line=37)
+    reach = Reach(segment=23.2, sector=43, arc=27.4, line=44.4, marked=False)
     measure = Protractor(drawing, wrist, 90, 1, angle, reach, shown)
     measure.draw_range()
     drawing.solid([polygon([(0.6, y - 5.6), (x, y - 4.2), (x, y + 4.2), (0.6, y + 5.6)]),
@@ -150,37 +161,34 @@ def turned(title, shows):
     drawing = Drawing(title)
     wrist = (28, 33.5)
     frame = Frame(wrist)
-    forearm_up(drawing, wrist)
+    sides = {"edge": (), "back": (-1,), "palm": (1,)}[shows]
+    _turn(drawing, TURN, sides, lambda: forearm_up(drawing, wrist))
     if shows == "edge":
         thumb_edge(drawing, frame)
     elif shows == "back":
         hand_above(drawing, frame)
     else:
         open_palm(drawing, frame)
-    _turn(drawing, (28, 46), {"edge": (), "back": (-1,), "palm": (1,)}[shows])
     return drawing
 
 
-def _turn(drawing, middle, sides):
-    """A dial around the near side of the forearm.
+def _turn(drawing, middle, sides, forearm):
+    """A ring around the forearm, its far half behind what `forearm` draws.
 
-    Its dot is where a turn starts, with the thumb towards the reader, and its dashes are how far a
-    turn could go; an arrow goes from the dot to the left (-1) or to the right (1), which is where
-    the thumb went. Where both ways are meant, one arrow has two heads.
+    An arrow on the near half goes to the left (-1) or to the right (1), which is where the thumb
+    went; where both ways are meant, it has two heads. Without a turn the ring has no arrow.
     """
     x, y = middle
-    half = [(0, 2), (5.6, 1.3), (10.4, -1.6), (13, -5.6)]
-    ways = {side: [(x + side * along, y + down) for along, down in half] for side in (-1, 1)}
-    heads = [((x + side * 13.6, y - 7), side * 26) for side in sides]
-    if len(sides) == 2:
-        drawing.arrow(smooth(ways[-1][:0:-1] + ways[1], closed=False), *heads)
+    half = [(-14.4, 0), (-12.6, 2.8), (-7.4, 4.6), (0, 5.2), (7.4, 4.6), (12.6, 2.8), (14.4, 0)]
+    near = smooth([(x + along, y + down) for along, down in half], closed=False)
+    far = smooth([(x + along, y - down) for along, down in half], closed=False)
+    drawing.raw(f'<path d="{far}" fill="none" stroke="{GUIDE}" stroke-width="1.3" '
+                f'stroke-dasharray="{DASH},{DASH}"/>')
+    forearm()
+    if not sides:
+        _dashed(drawing, near)
         return
-    for side, track in ways.items():
-        if side in sides:
-            drawing.arrow(smooth(track, closed=False), *heads)
-        else:
-            _dashed(drawing, smooth(track, closed=False))
-    drawing.solid([disc((x, y + 2), 2.2)], ACCENT, edge=0.8)
+    drawing.arrow(near, *[((x + side * 14.2, y - 2), side * 14) for side in sides])
 
 
 def thumb_edge(drawing, frame):
@@ -201,9 +209,16 @@ def open_palm(drawing, frame):
     """The palm of the hand: thumb on the right, creases instead of nails."""
     flipped = Flipped(frame)
     hand_above(drawing, flipped, nails=False)
-    for crease in ([(7, -10.4), (3.6, -9.4), (1.4, -5.8), (1.2, -1)],
-                   [(5, -11.8), (0.6, -11), (-3.6, -9.2), (-7, -9.4)]):
-        drawing.line(smooth(frame.all(crease), closed=False), EDGE, 0.9)
+    for crease in ([(7, -10.2), (3.4, -9.2), (1, -5.8), (1, -1)],
+                   [(7, -10.2), (2.4, -8.8), (-2, -7), (-5.6, -6.6)],
+                   [(3.6, -13.4), (0.4, -11.4), (-3.6, -10.4), (-7, -10.8)]):
+        drawing.line(smooth(frame.all(crease), closed=False), EDGE, 1.2)
+    for joints, radii in FINGERS_ABOVE:
+        for share, across in ((0.5, 0.75), (1.0, 0.7)):
+            (ax, ay), (bx, by) = joints[1] if share == 1 else joints[0], joints[1]
+            x, y = (ax + bx) / 2, (ay + by) / 2 - (0 if share == 1 else 0.6)
+            half = radii[1] * across
+            drawing.line(polyline(flipped.all([(x - half, y), (x + half, y)])), EDGE, 0.8)
 
 
 class Flipped:

@@ -6,14 +6,13 @@ from pictures import body
 from pictures.figure import (
     ARM_FRONT,
     ARM_SIDE,
-    ELBOW_SIDE,
     LEGS,
     LEGS_FRONT,
-    LOWER,
     MIDDLE_FRONT,
     NECK_SIDE,
     TRUNK_SIDE,
     WHOLE_FRONT,
+    ArmAlone,
     FrontArm,
     KneesFigure,
     Pose,
@@ -22,7 +21,7 @@ from pictures.figure import (
     front_legs,
     ground_line,
 )
-from pictures.inks import ACCENT, EDGE, FIGURE, RANGE
+from pictures.inks import ACCENT, FIGURE, RANGE
 from pictures.protractor import Protractor, Reach, axis_line, reference_line
 from pictures.svg import Drawing, Frame, capsule, disc, polar, polyline
 
@@ -36,8 +35,8 @@ def side_arm(title, angle, shown=None, mirrored=False):
     drawing = Drawing(title.format(*numbers), mirrored=mirrored)
     s = ARM_SIDE.scale
     figure = SideFigure(Pose(arm=angle, moving=ARM), ARM_SIDE)
-    reach = Reach(segment=(WHOLE_ARM - 1.5) * s, sector=(WHOLE_ARM + 1.6) * s, arc=22 * s,
-                  line=(WHOLE_ARM + 2.5) * s, half=4 * s)
+    reach = Reach(segment=(WHOLE_ARM - 1.5) * s, sector=33.2, arc=18 * s,
+                  line=34.4, least=0.96, half=4 * s)
     measure = Protractor(drawing, figure.shoulder, 180, -1, angle, reach, shown)
     measure.draw_range()
     figure.draw_upper(drawing, measure.draw_lines)
@@ -48,36 +47,29 @@ def side_arm(title, angle, shown=None, mirrored=False):
 def side_elbow(title, elbow, shown=None, neutral=0, mirrored=False):
     """The forearm, bent by `elbow` from the upper arm's line; the title counts from `neutral`."""
     drawing = Drawing(title.format(abs(elbow - neutral)), mirrored=mirrored)
-    s = ELBOW_SIDE.scale
-    figure = SideFigure(Pose(elbow=elbow, moving=frozenset({"forearm"})), ELBOW_SIDE)
-    long = (body.FOREARM + body.HAND) * s
-    sector = min(long + 2.4, _room_above(LOWER, figure.arm.elbow, shown))
-    reach = Reach(segment=long - 1, sector=sector, arc=12.5 * s, line=22.4 * s, half=3.7 * s)
+    figure, s = ArmAlone(elbow), ArmAlone.SCALE
+    reach = Reach(segment=(body.FOREARM + body.HAND - 1) * s, sector=41, arc=11 * s, line=31,
+                  least=0.75, half=3.7 * s)
     measure = Protractor(drawing, figure.arm.elbow, 180, -1, elbow, reach, shown)
     measure.draw_range()
-    figure.draw_upper(drawing, measure.draw_lines)
+    figure.draw(drawing, measure.draw_lines)
     measure.draw_axis()
     return drawing
 
 
-def _room_above(bottom, joint, shown, zero=0):
-    """How far a sector may reach from a joint before its lowest edge goes below the bottom.
-
-    `zero` is the reference in degrees from straight down.
-    """
-    lowest = 0 if shown is None else min(shown.near, shown.near if shown.far is None else shown.far)
-    down = math.cos(math.radians(max(0, lowest - zero)))
-    return (bottom - joint[1]) / down if down > 0 else math.inf
+def _reach_down(bottom, joint, degrees):
+    """How far it is from a joint to a bottom, `degrees` from straight down."""
+    return (bottom - joint[1]) / math.cos(math.radians(degrees))
 
 
 def side_trunk(title, angle, shown=None):
     """The trunk leaning by `angle` over standing legs; the arms hang plumb."""
     drawing = Drawing(title.format(abs(angle)))
     s = TRUNK_SIDE.scale
-    # A little before the thigh or behind it, where it is seen; plumb from a trunk that is bent far.
-    arm, elbow = (max(2, 20 - angle / 3), 10 + angle / 4) if angle >= 0 else (-8, 0)
-    figure = SideFigure(Pose(trunk=angle, neck=-angle / 4, arm=arm, elbow=elbow), TRUNK_SIDE)
-    reach = Reach(segment=30 * s, sector=58.2 * s, arc=55.6 * s, line=60 * s, beyond=52.4 * s)
+    # Plumb, or behind the trunk where only a bit of a hand would be seen.
+    arm = -0.6 * angle if abs(angle) <= 16 else 0
+    figure = SideFigure(Pose(trunk=angle, neck=-angle / 4, arm=arm), TRUNK_SIDE)
+    reach = Reach(segment=30 * s, sector=41, arc=24 * s, line=41.8, least=0.9, half=6.6 * s)
     measure = Protractor(drawing, figure.hip, 0, 1, angle, reach, shown)
     measure.draw_range()
     figure.draw_trunk(drawing, measure.draw_lines)
@@ -90,7 +82,7 @@ def side_neck(title, angle, shown=None):
     drawing = Drawing(title.format(abs(angle)))
     s = NECK_SIDE.scale
     figure = SideFigure(Pose(neck=angle), NECK_SIDE)
-    reach = Reach(segment=18.8 * s, sector=24.6 * s, arc=23.4 * s, line=26.4 * s)
+    reach = Reach(segment=18.8 * s, sector=41, arc=27.4, line=43.4)
     measure = Protractor(drawing, figure.neck, 0, 1, angle, reach, shown)
     measure.draw_range()
     figure.draw_neck(drawing, measure.draw_lines)
@@ -103,8 +95,8 @@ def front_arm(title, angle, shown=None, mirrored=False):
     drawing = Drawing(title.format(angle), mirrored=mirrored)
     s = ARM_FRONT.scale
     arm = FrontArm(ARM_FRONT, -1, angle)
-    reach = Reach(segment=(WHOLE_ARM - 1.5) * s, sector=(WHOLE_ARM + 1.6) * s, arc=22 * s,
-                  line=(WHOLE_ARM + 2.5) * s, half=4 * s)
+    reach = Reach(segment=(WHOLE_ARM - 1.5) * s, sector=34, arc=18 * s,
+                  line=35.4, half=4 * s)
     measure = Protractor(drawing, arm.shoulder, 180, 1, angle, reach, shown)
     measure.draw_range()
     front_body(drawing, ARM_FRONT)
@@ -138,9 +130,9 @@ def side_knees(title, bend, shown):
     figure = KneesFigure(LEGS, bend)
     ground = LEGS.hip[1] + body.GROUND * s + 0.7
     ground_line(drawing, ground)
-    reach = Reach(segment=(body.SHANK + body.SOLE / 2) * s,
-                  sector=_room_above(ground, figure.knee, shown, bend / 2), arc=15 * s,
-                  line=26 * s, half=2.6 * s)
+    sector = min(27, _reach_down(ground - 0.7, figure.knee, max(0, shown.near - bend / 2)))
+    reach = Reach(segment=(body.SHANK + body.SOLE / 2) * s, sector=sector, arc=12, line=22,
+                  least=1, half=2.3 * s)
     measure = Protractor(drawing, figure.knee, 180 - bend / 2, 1, bend, reach, shown)
 
     def guides():
@@ -161,7 +153,8 @@ def front_forearm(title, direction):
     front_body(drawing, view)
     drawing.solid(FrontArm(view, 1, 4).paths(), FIGURE)
     reference_line(drawing, (x, y - 33 * view.scale), (x, 55.4))
-    drawing.solid(arm.paths(), ACCENT)
+    drawing.solid(arm.upper_paths, FIGURE)
+    drawing.solid(arm.lower_paths, ACCENT)
     axis_line(drawing, arm.elbow,
               polar(arm.elbow, (body.FOREARM + body.HAND - 1.5) * view.scale, direction))
     return drawing
@@ -200,8 +193,9 @@ def part_arms_sideways(title):
 def part_elbow(title):
     """Selector: the elbow."""
     drawing = Drawing(title)
-    figure = SideFigure(Pose(elbow=80, moving=ARM), ELBOW_SIDE)
-    _ring(drawing, figure.arm.elbow, 9.4, lambda: figure.draw_upper(drawing))
+    figure = ArmAlone(70)
+    paths = figure.upper_paths() + figure.arm.lower_paths
+    _ring(drawing, figure.arm.elbow, 11.6, lambda: drawing.solid(paths, ACCENT))
     return drawing
 
 

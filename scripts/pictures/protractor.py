@@ -2,18 +2,28 @@
 
 A dashed reference line, an arc from it to the axis of the moving segment, and that axis as a fine
 line through the segment. Where a caption names a range, a tinted sector shows it between its
-limits; where it names one limit, the sector is open beyond it and fades.
+limits, which are solid lines; where it names one limit, the sector is open beyond it: there it
+fades and its rim ends in an arrow. Both reach beyond the segment, which would hide them, where
+there is room.
 """
 
 import math
 from dataclasses import dataclass
 
 from pictures.inks import ACCENT, EDGE, GUIDE, RANGE
-from pictures.svg import PIXELS, arc, disc, number, polar, polyline, sector
+from pictures.svg import PIXELS, Frame, arc, disc, number, polar, polygon, polyline
 
 DASH = 2.2
 OPEN = 8.0  # degrees that an open sector goes beyond the segment before it fades
 FADING = [(5.0, 0.7), (5.0, 0.45), (5.0, 0.2)]  # degrees and opacity of what follows
+LIMIT = 1.3  # width of what has to be seen at button size
+HALO = 0.7  # what parts it from the figure
+STEP = 3.0  # degrees between the corners of a sector's rim
+HEAD = [(0, -2.6), (2.5, 1.8), (-2.5, 1.8)]  # of the arrow at an open end
+BESIDE = 3.5  # from an arc beyond the segment to the rim of the sector
+INNER = 0.3  # share of it where the limits of a limb's sector begin
+NEARLY = 0.01  # pixels
+SIDE = 1.6  # what stays free at the picture's edge
 
 
 @dataclass(frozen=True)
@@ -24,8 +34,8 @@ class Reach:
     sector: float
     arc: float
     line: float  # of the reference line
-    beyond: float = 0.0  # where the axis goes on, where that is not the end of the segment
     marked: bool = True  # whether the reference goes on over the segment
+    least: float = 0.82  # share of its reach that a sector keeps where there is no room
     half: float = 0.0  # of the segment's thickness under the arc; 0 where the arc lies beyond it
 
 
@@ -40,7 +50,7 @@ class Range:
 def reference_line(drawing, start, end):
     """The dashed line that an angle is read from."""
     drawing.raw(f'<path id="reference" d="{polyline([start, end])}" fill="none" '
-                f'stroke="{GUIDE}" stroke-width="1.1" stroke-dasharray="{DASH},{DASH}"/>')
+                f'stroke="{GUIDE}" stroke-width="{LIMIT}" stroke-dasharray="{DASH},{DASH}"/>')
 
 
 def axis_line(drawing, start, end):
@@ -60,6 +70,19 @@ class Protractor:
     def __init__(self, drawing, joint, zero, sense, angle, reach, shown=None):
         self.drawing, self.joint, self.reach = drawing, joint, reach
         self.zero, self.sense, self.angle, self.range = zero, sense, angle, shown
+        self.radius = self._fitting()
+
+    def _fitting(self):
+        """Reach of the sector: a little less than asked for where its rim so stays inside."""
+        asked = self.reach.sector
+        if self.range is None:
+            return asked
+        last = self.range.far
+        if last is None:
+            last = self.angle + OPEN / 2 * self._open_end()[1]
+        room = min(self._room(angle) for angle in self._angles(self.range.near, last))
+        least = max(self.reach.least * asked, 0 if self.reach.half else self.reach.arc + BESIDE)
+        return max(least, min(asked, room))
 
     def direction(self, angle):
         return self.zero + self.sense * angle
@@ -67,11 +90,31 @@ class Protractor:
     def at(self, radius, angle):
         return polar(self.joint, radius, self.direction(angle))
 
+    def _room(self, angle):
+        """How far a line from the joint can go before it leaves the picture."""
+        way = polar((0, 0), 1, self.direction(angle))
+        rooms = [((PIXELS - SIDE if along > 0 else SIDE) - start) / along
+                 for start, along in zip(self.joint, way) if abs(along) > 1e-6]
+        return min(rooms)
+
+    def _rim(self, start, end):
+        """Angles and reach along the outer side of a sector."""
+        return [(angle, min(self.radius, self._room(angle))) for angle in self._angles(start, end)]
+
+    @staticmethod
+    def _angles(start, end):
+        steps = max(1, math.ceil(abs(end - start) / STEP))
+        return [start + (end - start) * i / steps for i in range(steps + 1)]
+
     def _tint(self, start, end, opacity=1.0):
-        ends = sorted((self.direction(start), self.direction(end)))
-        path = sector(self.joint, self.reach.sector, *ends)
+        rim = [self.at(radius, angle) for angle, radius in self._rim(start, end)]
         name = ' id="sector"' if opacity == 1 else f' fill-opacity="{number(opacity)}"'
-        self.drawing.raw(f'<path{name} d="{path}" fill="{RANGE}"/>')
+        self.drawing.raw(f'<path{name} d="{polygon([self.joint, *rim])}" fill="{RANGE}"/>')
+
+    def _open_end(self):
+        """Where an open sector ends, and which way it is open."""
+        away = math.copysign(1, self.angle - self.range.near)
+        return self.angle + away * OPEN, away
 
     def draw_range(self):
         """The sector, which lies behind everything."""
@@ -81,29 +124,52 @@ class Protractor:
         if far is not None:
             self._tint(near, far)
             return
-        away = math.copysign(1, self.angle - near)
-        start = self.angle + away * OPEN
+        start, away = self._open_end()
         self._tint(near, start)
         for degrees, opacity in FADING:
-            end = start + away * degrees
-            if all(0 <= place <= PIXELS for place in self.at(self.reach.sector, end)):
-                self._tint(start, end, opacity)
-            start = end
+            self._tint(start, start + away * degrees, opacity)
+            start += away * degrees
+
+    def _draw_limit(self, name, angle):
+        inner = INNER * self.radius if self.reach.half else self.reach.segment
+        path = polyline([self.at(inner, angle),
+                         self.at(min(self.radius, self._room(angle)), angle)])
+        self.drawing.raw(f'<path d="{path}" fill="none" stroke="{EDGE}" '
+                         f'stroke-width="{number(LIMIT + 2 * HALO)}"/>')
+        self.drawing.raw(f'<path id="{name}" d="{path}" fill="none" stroke="{GUIDE}" '
+                         f'stroke-width="{LIMIT}"/>')
+
+    def _draw_rim(self):
+        """From the limit of an open sector to an arrow, as far as there is room."""
+        end, away = self._open_end()
+        end += away * sum(degrees for degrees, _ in FADING[:2])
+        track = []
+        for angle, radius in self._rim(self.range.near, end):
+            if radius < self.radius - NEARLY:
+                break
+            track.append(angle)
+        path = polyline([self.at(self.radius, angle) for angle in track])
+        self.drawing.raw(f'<path id="rim" d="{path}" fill="none" stroke="{GUIDE}" '
+                         f'stroke-width="{LIMIT}"/>')
+        turn = self.direction(track[-1]) + 90 * self.sense * away
+        head = Frame(self.at(self.radius, track[-1]), 1, turn).all(HEAD)
+        self.drawing.raw(f'<path id="open" d="{polygon(head)}" fill="{GUIDE}"/>')
 
     def draw_lines(self):
         """Reference, limits and arc, which lie under the moving segment."""
-        raw, reach = self.drawing.raw, self.reach
+        reach = self.reach
         reference_line(self.drawing, self.joint, self.at(reach.line, 0))
-        inner = 0.35 * reach.sector if reach.half else reach.segment
-        for limit in () if self.range is None else (self.range.near, self.range.far):
-            if limit:
-                edge = polyline([self.at(inner, limit),
-                                 self.at(reach.sector, limit)])
-                raw(f'<path d="{edge}" fill="none" stroke="{GUIDE}" stroke-width="0.7"/>')
+        if self.range is not None:
+            self._draw_limit("near", self.range.near)
+            if self.range.far is not None:
+                self._draw_limit("far", self.range.far)
+            else:
+                self._draw_rim()
         if self.angle:
             path = arc(self.joint, reach.arc, self.direction(0), self.direction(self.angle))
-            raw(f'<path d="{path}" fill="none" stroke="{EDGE}" stroke-width="2.7"/>')
-            raw(f'<path id="arc" d="{path}" fill="none" stroke="{ACCENT}" stroke-width="1.3"/>')
+            self.drawing.raw(f'<path d="{path}" fill="none" stroke="{EDGE}" stroke-width="3"/>')
+            self.drawing.raw(f'<path id="arc" d="{path}" fill="none" stroke="{ACCENT}" '
+                             f'stroke-width="1.6"/>')
 
     def draw_axis(self):
         """The axis, which lies on the moving segment, and the arc's way over it."""
@@ -114,12 +180,9 @@ class Protractor:
                 hidden = polyline([self.joint, self.at(reach.segment, 0)])
                 raw(f'<path d="{hidden}" fill="none" stroke="{EDGE}" stroke-width="0.8" '
                     f'stroke-dasharray="{DASH},{DASH}" stroke-dashoffset="{DASH}"/>')
-            beyond = polyline([self.at(reach.beyond or reach.segment, self.angle),
-                               self.at(reach.sector, self.angle)])
-            raw(f'<path d="{beyond}" fill="none" stroke="{ACCENT}" stroke-width="0.9"/>')
         if self.angle and reach.half:
             gap = math.degrees(math.asin(min(1, reach.half / reach.arc)))
             begin = math.copysign(max(0, abs(self.angle) - gap), self.angle)
             path = arc(self.joint, reach.arc, self.direction(begin), self.direction(self.angle))
-            raw(f'<path d="{path}" fill="none" stroke="{EDGE}" stroke-width="1.1"/>')
+            raw(f'<path d="{path}" fill="none" stroke="{EDGE}" stroke-width="1"/>')
         axis_line(self.drawing, self.joint, self.at(reach.segment, self.angle))

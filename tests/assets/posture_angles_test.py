@@ -17,6 +17,8 @@ NEAR = 0.5  # degrees that two lines may differ by and still be one
 SEEN = 5.0  # degrees from a limit that an eye sees
 MIDDLE = 0.55  # degrees off the middle that whole degrees leave
 NARROW = 15  # the width of a step that has no room for more than its middle
+LINE = 1.3  # pixels that a line is wide which has to be seen at button size
+BEYOND = 5.0  # degrees that a rim goes on from the limit where it is open
 SPAN = 0.85  # share of the moving segment that its axis runs through
 
 # Joint: its reference in degrees from straight up, clockwise; which way the angle grows. The
@@ -190,6 +192,10 @@ class PostureAngles(unittest.TestCase):
         for row in rows:
             yield (Picture(row[0]), *row)
 
+    def from_reference(self, picture, joint, at):
+        """The angle of a place as a caption counts it."""
+        return JOINTS[joint][1] * turn(picture.reference, direction(picture.joint, at))
+
     def angle(self, picture, joint):
         return picture.angle * JOINTS[joint][1]
 
@@ -271,16 +277,14 @@ class PostureAngles(unittest.TestCase):
     def test_sector_is_the_range(self):
         for picture, asset, joint, least, most in self.each(TWO_SIDED):
             _, start, *_, end = picture.path("sector")
-            limits = sorted(JOINTS[joint][1] * turn(picture.reference, direction(picture.joint, at))
-                            for at in (start, end))
+            limits = sorted(self.from_reference(picture, joint, at) for at in (start, end))
             self.assertAlmostEqual(limits[0], least, delta=NEAR, msg=asset)
             self.assertAlmostEqual(limits[1], most, delta=NEAR, msg=asset)
 
     def test_open_sector_begins_at_the_limit_and_goes_beyond_the_segment(self):
         for picture, asset, joint, least, most in self.each(ONE_SIDED):
             _, start, *_, end = picture.path("sector")
-            limits = sorted(JOINTS[joint][1] * turn(picture.reference, direction(picture.joint, at))
-                            for at in (start, end))
+            limits = sorted(self.from_reference(picture, joint, at) for at in (start, end))
             angle = self.angle(picture, joint)
             if most is None:
                 self.assertAlmostEqual(limits[0], least, delta=NEAR, msg=asset)
@@ -288,6 +292,40 @@ class PostureAngles(unittest.TestCase):
             else:
                 self.assertAlmostEqual(limits[1], most, delta=NEAR, msg=asset)
                 self.assertLess(limits[0], angle - 4, msg=asset)
+
+    def test_limits_are_solid_lines_to_the_rim_of_the_sector(self):
+        for picture, asset, joint, least, most in self.each([*ONE_SIDED, *TWO_SIDED]):
+            drawn = [name for name in ("near", "far") if picture.path(name)]
+            named = [limit for limit in (least, most) if limit is not None]
+            self.assertEqual(len(drawn), len(named), msg=asset)
+            angles = []
+            for name in drawn:
+                style = re.search(rf'<path id="{name}"[^>]*>', picture.text).group()
+                self.assertGreaterEqual(float(re.search(r'width="([\d.]+)"', style).group(1)), LINE)
+                self.assertNotIn("dash", style, msg=asset)
+                start, end = picture.path(name)
+                angles.append(self.from_reference(picture, joint, end))
+                self.assertAlmostEqual(self.from_reference(picture, joint, start), angles[-1],
+                                       delta=NEAR, msg=asset)
+                # Its outer end is on the outline of the sector.
+                rim = picture.path("sector")[1:]
+                self.assertLess(min(math.dist(end, corner) for corner in rim), 0.1, msg=asset)
+            for angle, limit in zip(sorted(angles), named):
+                self.assertAlmostEqual(angle, limit, delta=NEAR, msg=asset)
+
+    def test_an_open_sector_alone_has_a_rim_that_ends_in_an_arrow(self):
+        for picture, asset, joint, least, most in self.each(TWO_SIDED):
+            self.assertIsNone(picture.path("rim"), msg=asset)
+            self.assertIsNone(picture.path("open"), msg=asset)
+        for picture, asset, joint, least, most in self.each(ONE_SIDED):
+            start, *_, end = picture.path("rim")
+            first, last = (self.from_reference(picture, joint, at) for at in (start, end))
+            limit, away = (most, -1) if least is None else (least, 1)
+            self.assertAlmostEqual(first, limit, delta=NEAR, msg=asset)
+            self.assertGreater(away * (last - limit), BEYOND, msg=asset)
+            tip = picture.path("open")[0]
+            self.assertGreater(away * (self.from_reference(picture, joint, tip) - limit), BEYOND,
+                               msg=asset)
 
     def test_the_same_posture_is_the_same_drawing(self):
         drawings = {}
