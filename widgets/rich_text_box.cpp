@@ -5,11 +5,13 @@
 #include <QLayout>
 #include <QMimeData>
 #include <QPalette>
+#include <QResizeEvent>
 #include <QScrollBar>
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextLayout>
 #include <algorithm>
+#include <utility>
 
 #include "widgets/focus_frame.h"
 #include "widgets/report_note.h"
@@ -99,6 +101,7 @@ void RichTextBox::ShowReport(const RichText& report) {
   setUndoRedoEnabled(false);
   ForgetNotes();
   document()->clear();
+  CatchUp();
   // What its form shows or hides beside a report changes the width that it is laid out in.
   if (isVisible() && window()->layout() != nullptr) window()->layout()->activate();
   // A bar that goes with the old text and comes back with the new one would have all of it laid out
@@ -227,6 +230,25 @@ bool RichTextBox::event(QEvent* event) {
   const bool handled = QTextEdit::event(event);
   if (event->type() == QEvent::Paint) PaintFocusFrame(*this);
   return handled;
+}
+
+void RichTextBox::resizeEvent(QResizeEvent* event) {
+  // A pane that comes into view in a window gets its size first and then, mostly, a new report: the
+  // old one would be laid out for nothing.
+  isBehind_ =
+      !isWindow() && window()->isVisible() && !viewport()->isVisible() && !document()->isEmpty();
+  if (!isBehind_) QTextEdit::resizeEvent(event);
+}
+
+void RichTextBox::showEvent(QShowEvent* event) {
+  QTextEdit::showEvent(event);
+  if (isBehind_) QMetaObject::invokeMethod(this, &RichTextBox::CatchUp, Qt::QueuedConnection);
+}
+
+void RichTextBox::CatchUp() {
+  if (!std::exchange(isBehind_, false)) return;
+  QResizeEvent whole(viewport()->size(), QSize());
+  QTextEdit::resizeEvent(&whole);
 }
 
 QMimeData* RichTextBox::createMimeDataFromSelection() const {

@@ -45,9 +45,13 @@ class RichTextBox : public QTextEdit {
 
  protected:
   bool event(QEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void showEvent(QShowEvent* event) override;
   [[nodiscard]] QMimeData* createMimeDataFromSelection() const override;
 
  private:
+  /// Lays out what a new size has left as it was.
+  void CatchUp();
   /// Whether a report is longer than the pane; a wrong guess costs a second layout.
   [[nodiscard]] bool IsLikelyToScroll(const RichText& report) const;
   /// Fills the empty pane.
@@ -58,6 +62,7 @@ class RichTextBox : public QTextEdit {
 
   int leastColumns_ = 0;
   int leastLines_ = 0;
+  bool isBehind_ = false;  ///< the text is laid out for another size
   std::vector<ReportNote*> pictures_;
   ReportNote* news_ = nullptr;
   QTimer newsDelay_;

@@ -6,6 +6,7 @@
 #include <QHBoxLayout>
 #include <QImage>
 #include <QScrollBar>
+#include <QTabWidget>
 #include <QTest>
 #include <QTextBlock>
 #include <QTextLayout>
@@ -210,6 +211,37 @@ TEST_F(Pane, ALongReportIsLaidOutInTheWidthThatItsFormLeavesIt) {
   QCoreApplication::processEvents();
   EXPECT_EQ(seen.sizes, 0);
   EXPECT_GT(pane->width(), 500);
+}
+
+/// A pane in the second of two tabs that stand for different widths.
+TEST_F(Pane, ATextThatComesIntoViewIsLaidOutBehindWhatShowsIt) {
+  QTabWidget tabs;
+  tabs.addTab(new QWidget(&tabs), "Input");
+  auto* pane = new RichTextBox(&tabs);
+  tabs.addTab(pane, "Report");
+  tabs.resize(600, 300);
+  tabs.show();
+  RichText report;
+  AppendSomeLines(report);
+  tabs.setCurrentWidget(pane);
+  pane->ShowReport(report);
+  const auto fits = [pane] {
+    return pane->document()->pageSize().width() == pane->viewport()->width();
+  };
+  EXPECT_TRUE(fits());
+  tabs.setCurrentIndex(0);
+  tabs.resize(500, 300);
+  QCoreApplication::processEvents();
+  tabs.setCurrentWidget(pane);
+  EXPECT_FALSE(fits());
+  // Nobody has another report shown.
+  QCoreApplication::processEvents();
+  EXPECT_TRUE(fits());
+  tabs.setCurrentIndex(0);
+  tabs.resize(400, 300);
+  tabs.setCurrentWidget(pane);
+  pane->ShowReport(report);
+  EXPECT_TRUE(fits());
 }
 
 TEST_F(Pane, HasABarWhereItsReportIsLonger) {
