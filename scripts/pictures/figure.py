@@ -91,11 +91,12 @@ class ArmAlone:
 
     SHOULDER, SCALE = (13, 3), 1.15
 
-    def __init__(self, elbow):
-        self.arm = SideArm(self.SHOULDER, self.SCALE, 0, elbow)
+    def __init__(self, elbow, shoulder=SHOULDER, scale=SCALE):
+        self.shoulder, self.scale = shoulder, scale
+        self.arm = SideArm(shoulder, scale, 0, elbow)
 
     def upper_paths(self):
-        frame = Frame(self.SHOULDER, self.SCALE)
+        frame = Frame(self.shoulder, self.scale)
         return [below(frame, body.SIDE_UPPER_ARM), *self.arm.upper_paths[1:]]
 
     def draw(self, drawing, between):

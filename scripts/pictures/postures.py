@@ -1,6 +1,7 @@
 """Whole postures of the figure: one function a kind of picture, the angle as its argument."""
 
 import math
+from dataclasses import replace
 
 from pictures import body
 from pictures.figure import (
@@ -168,10 +169,15 @@ def _ring(drawing, centre, radius, draw):
     drawing.line(path, ACCENT, 1.6, edge=0.7)
 
 
+def _in_the_middle(view, hip):
+    """The view of a figure that nothing is measured beside; `hip` is how far right its hip is."""
+    return replace(view, hip=(hip, view.hip[1]))
+
+
 def part_arm_forward(title):
     """Selector: the shoulder from the side."""
     drawing = Drawing(title)
-    figure = SideFigure(Pose(arm=4, elbow=10, moving=ARM), ARM_SIDE)
+    figure = SideFigure(Pose(arm=4, elbow=10, moving=ARM), _in_the_middle(ARM_SIDE, 25))
     _ring(drawing, figure.shoulder, 9.4, lambda: figure.draw_upper(drawing))
     return drawing
 
@@ -179,11 +185,12 @@ def part_arm_forward(title):
 def part_arms_sideways(title):
     """Selector: the shoulder from the front."""
     drawing = Drawing(title)
-    arm = FrontArm(ARM_FRONT, -1, 12)
+    view = _in_the_middle(ARM_FRONT, 31)
+    arm = FrontArm(view, -1, 12)
 
     def draw():
-        front_body(drawing, ARM_FRONT)
-        drawing.solid(FrontArm(ARM_FRONT, 1, 6).paths(), FIGURE)
+        front_body(drawing, view)
+        drawing.solid(FrontArm(view, 1, 6).paths(), FIGURE)
         drawing.solid(arm.paths(), ACCENT)
 
     _ring(drawing, arm.shoulder, 9.4, draw)
@@ -193,9 +200,9 @@ def part_arms_sideways(title):
 def part_elbow(title):
     """Selector: the elbow."""
     drawing = Drawing(title)
-    figure = ArmAlone(70)
+    figure = ArmAlone(70, (15.4, 5), 1.4)
     paths = figure.upper_paths() + figure.arm.lower_paths
-    _ring(drawing, figure.arm.elbow, 11.6, lambda: drawing.solid(paths, ACCENT))
+    _ring(drawing, figure.arm.elbow, 13.6, lambda: drawing.solid(paths, ACCENT))
     return drawing
 
 
