@@ -124,9 +124,18 @@ QSize RibbonButton::CaptionSize(int width) const {
 int RibbonButton::EvenWidth(int room) const {
   if (oneLine_) return room;
   const int height = CaptionSize(room).height();
-  int width = CaptionSize(0).width();  // of the widest word
-  while (width < room && CaptionSize(width).height() > height) ++width;
-  return std::min(width, room);
+  int even = std::min(CaptionSize(0).width(), room);  // of the widest word
+  int enough = room;
+  // A wider caption is never higher.
+  while (even < enough) {
+    const int middle = (even + enough) / 2;
+    if (CaptionSize(middle).height() > height) {
+      even = middle + 1;
+    } else {
+      enough = middle;
+    }
+  }
+  return even;
 }
 
 std::vector<const RibbonButton*> RibbonButton::Alike() const {
