@@ -18,8 +18,6 @@ class PaintWatch : public QObject {
     QCoreApplication::processEvents();
   }
 
-  [[nodiscard]] bool painted() const { return painted_; }
-
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override {
     if (event->type() == QEvent::Paint) painted_ = true;

@@ -38,11 +38,18 @@ void IdleSteps::DoNext() {
     steps_.pop_front();
     step();
   }
-  if (steps_.empty()) timer_->stop();
+  if (steps_.empty()) End();
+}
+
+void IdleSteps::End() {
+  steps_.clear();
+  timer_->stop();
+  // From here on no event need be looked at.
+  qApp->removeEventFilter(this);
 }
 
 bool IdleSteps::eventFilter(QObject* watched, QEvent* event) {
-  if (IsUse(*watched, *event)) steps_.clear();
+  if (IsUse(*watched, *event)) End();
   return QObject::eventFilter(watched, event);
 }
 

@@ -23,6 +23,7 @@ class IdleSteps : public QObject {
 
  private:
   void DoNext();
+  void End();
 
   std::deque<Step> steps_;
   QTimer* timer_;
