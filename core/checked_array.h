@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <vector>
@@ -34,17 +35,28 @@ class FixedArray {
   std::array<T, N> elements_{};
 };
 
-/// Rows 0 to Rows - 1 by columns 0 to Columns - 1, each subscript checked.
+/// Rows 0 to Rows - 1 by columns 0 to Columns - 1, each subscript checked. Stands outside the
+/// object, so that two can be swapped without a copy.
 template <typename T, std::size_t Rows, std::size_t Columns>
 class FixedGrid {
  public:
   /// Throws `SubscriptOutOfRange`.
   T& at(int row, int column) {
-    return elements_[CheckedSubscript(row, Rows)][CheckedSubscript(column, Columns)];
+    return elements_[CheckedSubscript(row, elements_.size())][CheckedSubscript(column, Columns)];
   }
   [[nodiscard]] const T& at(int row, int column) const {
-    return elements_[CheckedSubscript(row, Rows)][CheckedSubscript(column, Columns)];
+    return elements_[CheckedSubscript(row, elements_.size())][CheckedSubscript(column, Columns)];
   }
+
+  /// Fills all rows but row 0.
+  void FillBehindRow0(const T& value) {
+    std::array<T, Columns> row{};
+    row.fill(value);
+    std::fill(elements_.begin() + 1, elements_.end(), row);
+  }
+
+  /// Leaves no row until another grid is swapped in.
+  void Drop() { elements_.clear(); }
 
   [[nodiscard]] static constexpr int rows() { return static_cast<int>(Rows); }
   [[nodiscard]] static constexpr int columns() { return static_cast<int>(Columns); }
@@ -52,7 +64,7 @@ class FixedGrid {
   bool operator==(const FixedGrid&) const = default;
 
  private:
-  std::array<std::array<T, Columns>, Rows> elements_{};
+  std::vector<std::array<T, Columns>> elements_ = std::vector<std::array<T, Columns>>(Rows);
 };
 
 /// One element a task, at the task's number; slot 0 is there and is never a task. Each subscript is
@@ -72,6 +84,8 @@ class TaskArray {
   void Redimension(Integer upperBound) { elements_.assign(SlotsUpTo(upperBound), T{}); }
   /// The same, keeping what the old and the new bounds share.
   void RedimensionKeeping(Integer upperBound) { elements_.resize(SlotsUpTo(upperBound)); }
+  /// Leaves no element, slot 0 included, until another array is swapped in.
+  void Drop() { elements_.clear(); }
 
   bool operator==(const TaskArray&) const = default;
 

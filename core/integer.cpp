@@ -7,13 +7,9 @@
 
 namespace halvane {
 
-Integer ToInteger(double value) {
+Integer RoundedToInteger(double value) {
   constexpr double kLeast = std::numeric_limits<Integer>::min();
   constexpr double kMost = std::numeric_limits<Integer>::max();
-  // Nearly all values are whole, and rounding takes longer than all the rest.
-  if (value >= kLeast && value <= kMost && static_cast<Integer>(value) == value) {
-    return static_cast<Integer>(value);
-  }
   const double rounded = std::nearbyint(value);
   // Written so that a value that is no number fails too.
   if (!(rounded >= kLeast && rounded <= kMost)) {

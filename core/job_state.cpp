@@ -111,12 +111,8 @@ void ResizeTaskArrays() {
   const Integer upperBound = TaskUpperBound();
   ForEachTaskArray(Module1, [upperBound](auto& array) { array.Redimension(upperBound); });
   // Row 0 is never a task and is left alone.
-  for (int task = 1; task <= kHighestTask; ++task) {
-    for (int slot = 0; slot < kPostureSlots; ++slot) {
-      Module1.CtdLoadHeld.at(task, slot) = 0;
-      Module1.CtdPostureDuration.at(task, slot) = 0;
-    }
-  }
+  Module1.CtdLoadHeld.FillBehindRow0(0);
+  Module1.CtdPostureDuration.FillBehindRow0(0);
 }
 
 void NewTaskRecord() {

@@ -138,13 +138,15 @@ std::size_t CharacterCount(std::string_view text) {
   }));
 }
 
-std::string FirstCharacters(std::string_view text, std::size_t count) {
+std::string_view FirstCharacters(std::string_view text, std::size_t count) {
+  // No character has less than a byte.
+  if (text.size() <= count) return text;
   std::size_t end = 0;
   for (std::size_t i = 0; i < count && end < text.size(); ++i) {
     ++end;
     while (end < text.size() && (static_cast<unsigned char>(text[end]) & 0xC0U) == 0x80U) ++end;
   }
-  return std::string(text.substr(0, end));
+  return text.substr(0, end);
 }
 
 std::string DecodeJobText(std::string bytes) {

@@ -19,7 +19,7 @@ void AppendUtf8(std::string& text, char32_t codePoint);
 std::size_t CharacterCount(std::string_view text);
 
 /// The first `count` characters of the UTF-8 `text`, all of it where it has no more.
-std::string FirstCharacters(std::string_view text, std::size_t count);
+std::string_view FirstCharacters(std::string_view text, std::size_t count);
 
 /// The text of a job file as UTF-8. Bytes that are well-formed UTF-8 are taken as such, all others
 /// as Windows-1252; its five unassigned bytes stand for the control characters of the same number,

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
-#include <limits>
 #include <utility>
 
 #include "core/long_job_text.h"
@@ -37,25 +36,10 @@ double NumberIn(std::string_view text) {
   throw RuntimeFailure(FailureKind::TypeMismatch);
 }
 
-/// The number in the kind that a tagged field holds it in: whole digits within 16 bits are an
-/// integer.
-void Store(double number, bool wholeDigits, TaggedField& target) {
-  const bool fits = number >= std::numeric_limits<Integer>::min() &&
-                    number <= std::numeric_limits<Integer>::max();
-  if (wholeDigits && fits) {
-    target = static_cast<Integer>(number);
-  } else {
-    target = number;
-  }
-}
-
-/// The first test alone decides for digits and letters.
-bool IsSeparator(char c) { return c <= ',' && (c == ',' || c == '\r' || c == '\n'); }
-
 /// Where the comma or line end behind position `from` stands, the end of `text` where there is
 /// none. Most fields are a digit or two, for which a plain loop is fastest.
 std::size_t SeparatorFrom(std::string_view text, std::size_t from) {
-  while (from < text.size() && !IsSeparator(text[from])) ++from;
+  while (from < text.size() && !IsFieldEnd(text[from])) ++from;
   return from;
 }
 
@@ -101,20 +85,16 @@ JobTextReader::FieldText JobTextReader::NextField(const FieldName& name) {
   if (start >= text_.size()) return NextFieldOfFile(name);
   fieldStart_ = start;
   if (text_[start] != '"') {
-    // Looks for a number on the way to the separator, so that most fields are gone through once.
-    PlainNumber number = PlainNumberAt(text_.substr(start));
-    const std::size_t end = SeparatorFrom(text_, start + number.length);
-    if (end > start + number.length) number = {};
+    const std::size_t end = SeparatorFrom(text_, start);
     PassSeparator(end);
-    const std::string_view found = text_.substr(start, end - start);
-    lastText_ = found;
-    return {found, false, number};
+    lastText_ = text_.substr(start, end - start);
+    return {lastText_, false};
   }
   // Without a closing quote the field takes the rest of the file.
   const std::size_t close = std::min(text_.find('"', start + 1), text_.size());
   PassSeparator(SeparatorFrom(text_, std::min(close + 1, text_.size())));
   lastText_ = text_.substr(start + 1, close - start - 1);
-  return {lastText_, true, {}};
+  return {lastText_, true};
 }
 
 JobTextReader::FieldText JobTextReader::NextFieldOfFile(const FieldName& name) {
@@ -129,7 +109,7 @@ JobTextReader::FieldText JobTextReader::NextFieldOfFile(const FieldName& name) {
   position_ = field.next;
   textOfFile_ = file_->TextOf(field);
   lastText_ = textOfFile_;
-  return {lastText_, field.isQuoted, {}};
+  return {lastText_, field.isQuoted};
 }
 
 void JobTextReader::PassSeparator(std::size_t separator) {
@@ -181,25 +161,21 @@ int JobTextReader::LinesBetween(std::size_t from, std::size_t to) const {
   return lines;
 }
 
-void JobTextReader::Read(FieldText field, std::string& target) { StoreText(field.text, target); }
+template void JobTextReader::StoreText(std::string_view text, std::string& target);
 
-void JobTextReader::Read(FieldText field, Integer& target) {
-  target = ToInteger(field.number.length > 0 ? field.number.value : NumberIn(field.text));
+void JobTextReader::Store(const FieldText& field, Integer& target) {
+  target = ToInteger(NumberIn(field.text));
 }
 
-void JobTextReader::Read(FieldText field, double& target) {
-  target = field.number.length > 0 ? field.number.value : NumberIn(field.text);
-}
+void JobTextReader::Store(const FieldText& field, double& target) { target = NumberIn(field.text); }
 
-void JobTextReader::Read(FieldText field, TaggedField& target) {
+void JobTextReader::Store(const FieldText& field, TaggedField& target) {
   if (field.quoted) {
     StoreText(field.text, target);
-  } else if (field.number.length > 0) {
-    Store(field.number.value, !field.number.hasPoint, target);
   } else if (field.text.empty()) {
     target = TaggedField();
   } else if (const auto number = WholeTextAsNumber(field.text)) {
-    Store(*number, field.text.find_first_of(".Ee") == std::string_view::npos, target);
+    StoreNumber(*number, field.text.find_first_of(".Ee") == std::string_view::npos, target);
   } else {
     StoreText(field.text, target);
   }

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <limits>
 #include <string>
 #include <string_view>
+#include <type_traits>
 #include <utility>
 
 #include "core/job_fields.h"
@@ -81,21 +83,26 @@ class JobTextReader {
   struct FieldText {
     std::string_view text;
     bool quoted = false;
-    PlainNumber number;  ///< where the whole field is one
   };
 
   template <typename T>
   void ReadField(const FieldName& name, T& target) {
-    const FieldText field = NextField(name);
-    try {
-      Read(field, target);
-    } catch (const JobReadFailure&) {
-      throw;
-    } catch (const RuntimeFailure& failure) {
-      throw JobReadFailure(failure.kind(), fieldLine(), name, TakeLastText());
+    if constexpr (std::is_same_v<T, std::string>) {
+      StoreText(NextField(name).text, target);
+    } else {
+      const PlainNumber number = TakePlainNumber();
+      const FieldText field = number.length > 0 ? FieldText{} : NextField(name);
+      try {
+        number.length > 0 ? Store(number, target) : Store(field, target);
+      } catch (const RuntimeFailure& failure) {
+        throw JobReadFailure(failure.kind(), fieldLine(), name, TakeLastText());
+      }
     }
   }
 
+  /// Passes a field in memory that is a plain number from end to end, as nearly all are; of any
+  /// other gives the length 0, and nothing has happened.
+  PlainNumber TakePlainNumber();
   FieldText NextField(const FieldName& name);
   /// Where no text is left in memory.
   FieldText NextFieldOfFile(const FieldName& name);
@@ -103,10 +110,27 @@ class JobTextReader {
   [[nodiscard]] int fieldLine() const { return LineAt(fieldStart_); }
   [[nodiscard]] std::string TakeLastText();
 
-  void Read(FieldText field, std::string& target);
-  static void Read(FieldText field, Integer& target);
-  static void Read(FieldText field, double& target);
-  void Read(FieldText field, TaggedField& target);
+  static void Store(const PlainNumber& number, Integer& target) {
+    target = ToInteger(number.value);
+  }
+  static void Store(const PlainNumber& number, double& target) { target = number.value; }
+  static void Store(const PlainNumber& number, TaggedField& target) {
+    StoreNumber(number.value, !number.hasPoint, target);
+  }
+  static void Store(const FieldText& field, Integer& target);
+  static void Store(const FieldText& field, double& target);
+  void Store(const FieldText& field, TaggedField& target);
+  /// The number in the kind that a tagged field holds it in: whole digits within 16 bits are an
+  /// integer.
+  static void StoreNumber(double number, bool wholeDigits, TaggedField& target) {
+    const bool fits = number >= std::numeric_limits<Integer>::min() &&
+                      number <= std::numeric_limits<Integer>::max();
+    if (wholeDigits && fits) {
+      target = static_cast<Integer>(number);
+    } else {
+      target = number;
+    }
+  }
   template <typename T>
   void StoreText(std::string_view text, T& target);
 
@@ -119,6 +143,26 @@ class JobTextReader {
   std::size_t nextOfFile_ = 0;
   std::string textOfFile_;  ///< of the field that was read last
 };
+
+/// Whether a character ends a field. The first test alone decides for digits and letters.
+inline bool IsFieldEnd(char c) { return c <= ',' && (c == ',' || c == '\r' || c == '\n'); }
+
+// Here to be compiled into the way through the fields: this is most of the work on a job.
+inline PlainNumber JobTextReader::TakePlainNumber() {
+  // Positions in a long file are beyond the text that is in memory: there is none.
+  if (position_ >= text_.size()) return {};
+  const std::string_view rest(text_.data() + position_, text_.size() - position_);
+  const PlainNumber number = PlainNumberAt(rest);
+  if (number.length == 0 || number.length == rest.size()) return {};
+  const char separator = rest[number.length];
+  if (!IsFieldEnd(separator)) return {};
+  fieldStart_ = position_;
+  lastText_ = {rest.data(), number.length};
+  position_ += number.length + 1;
+  const bool isReturn = separator == '\r';
+  if (isReturn && position_ < text_.size() && text_[position_] == '\n') ++position_;
+  return number;
+}
 
 /// The number of tasks that `reader`, which stands in front of the first field, finds; 0 where it
 /// cannot be read. The reader then stands behind it.

@@ -4,6 +4,7 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <cstdint>
 #include <cstdlib>
 #include <limits>
 #include <string>
@@ -171,10 +172,16 @@ std::string PlainText(double value) {
   if (value == 0) return "0";
   std::array<char, 32> buffer{};
   char* const begin = buffer.data();
+  // Whole numbers without an exponent have no digit behind the point; to write them so is faster.
+  constexpr double kFirstWithExponent = 1e15;
+  if (std::fabs(value) < kFirstWithExponent && std::trunc(value) == value) {
+    return {begin,
+            std::to_chars(begin, begin + buffer.size(), static_cast<std::int64_t>(value)).ptr};
+  }
   auto end = std::to_chars(begin, begin + buffer.size(), value, std::chars_format::general,
                            kSignificantDigits)
                  .ptr;
-  if (!std::isfinite(NearestDouble({begin, end}))) {
+  if (std::fabs(value) > 1e308 && !std::isfinite(NearestDouble({begin, end}))) {
     // The 15 digits of the very largest doubles round up to a number beyond a double.
     end = std::to_chars(begin, begin + buffer.size(), std::copysign(1.79769313486231E+308, value),
                         std::chars_format::general, kSignificantDigits)

@@ -2,9 +2,7 @@
 
 namespace halvane {
 
-double TaggedField::AsDouble() const {
-  if (const auto* integer = std::get_if<Integer>(&value_)) return *integer;
-  if (const auto* number = std::get_if<double>(&value_)) return *number;
+double TaggedField::NumberOfText() const {
   if (const auto* text = std::get_if<std::string>(&value_)) return ReadsAs(*text);
   return 0;
 }

@@ -44,12 +44,27 @@ class TaggedField {
     return *this;
   }
 
+  // A number goes to its place without a field in between that would have to be taken apart again.
+  TaggedField& operator=(Integer value) {
+    value_ = value;
+    return *this;
+  }
+  TaggedField& operator=(double value) {
+    value_ = value;
+    return *this;
+  }
+
   /// An `int` would have to become one of the two kinds of number; the caller has to say which.
   TaggedField(int value) = delete;
+  TaggedField& operator=(int value) = delete;
 
   /// What the field counts as in a calculation: its number, the number that its text reads as, 0
   /// when empty. Throws `Overflow` for a text that reads as a number beyond a double.
-  [[nodiscard]] double AsDouble() const;
+  [[nodiscard]] double AsDouble() const {
+    if (const auto* integer = std::get_if<Integer>(&value_)) return *integer;
+    if (const auto* number = std::get_if<double>(&value_)) return *number;
+    return NumberOfText();
+  }
 
   /// What a text box shows: the text, the plain text of the number, nothing when empty.
   [[nodiscard]] std::string AsText() const&;
@@ -62,6 +77,9 @@ class TaggedField {
   bool operator==(const TaggedField&) const = default;
 
  private:
+  /// What a field without a number counts as.
+  [[nodiscard]] double NumberOfText() const;
+
   Value value_;
 };
 

@@ -10,8 +10,10 @@ namespace halvane {
 std::vector<int> ActiveTasks() {
   std::vector<int> tasks;
   const double taskCount = Module1.TaskCount.AsDouble();
+  const TaskArray<TaggedField>& active = Module1.TaskActive;
+  tasks.reserve(static_cast<std::size_t>(std::max(active.upperBound(), 0)));
   for (int task = 1; task <= taskCount; ++task) {
-    if (Module1.TaskActive.at(task).AsDouble() == 1) tasks.push_back(task);
+    if (active.at(task).AsDouble() == 1) tasks.push_back(task);
   }
   return tasks;
 }
@@ -43,7 +45,7 @@ std::string TaskKey(int task) { return PlainText(task) + "_"; }
 
 int TaskOfKey(std::string_view key) { return ToInteger(ReadsAs(key)); }
 
-std::string ShownTaskName(int task) {
+std::string_view ShownTaskName(int task) {
   return FirstCharacters(Module1.TaskNames.at(task), kShownNameLength);
 }
 

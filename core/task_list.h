@@ -32,7 +32,8 @@ int TaskOfKey(std::string_view key);
 
 /// How much of a task's name the tables of reports show, in characters.
 inline constexpr std::size_t kShownNameLength = 25;
-/// The part of a task's name that reports show. Throws `SubscriptOutOfRange`.
-std::string ShownTaskName(int task);
+/// The part of a task's name that reports show, as it stands in the job. Throws
+/// `SubscriptOutOfRange`.
+std::string_view ShownTaskName(int task);
 
 }  // namespace halvane

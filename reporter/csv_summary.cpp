@@ -1,5 +1,7 @@
 #include "reporter/csv_summary.h"
 
+#include <algorithm>
+
 #include "core/number_text.h"
 #include "reporter/file_text.h"
 #include "reporter/printable_text.h"
@@ -16,7 +18,7 @@ constexpr std::string_view kCsvLineEnd = "\r\n";
 bool NeedsQuotes(std::string_view text) {
   if (text.empty()) return false;
   return text.front() == ' ' || text.back() == ' ' ||
-         text.find_first_of(",;\"") != std::string_view::npos;
+         std::ranges::any_of(text, [](char c) { return c == ',' || c == ';' || c == '"'; });
 }
 
 void AppendQuoted(std::string& out, std::string_view text) {
@@ -33,6 +35,18 @@ void AppendCell(std::string& out, std::string_view text) {
     AppendQuoted(out, text);
   } else {
     out += text;
+  }
+}
+
+void AppendPrintable(std::string& out, std::string_view text) {
+  // A spreadsheet passes over blanks in front of a formula.
+  const std::size_t start = text.find_first_not_of(' ');
+  const bool likeFormula =
+      start != std::string_view::npos && kFormulaStarts.find(text[start]) != std::string_view::npos;
+  if (likeFormula) {
+    AppendCell(out, std::string(1, '\'').append(text));
+  } else {
+    AppendCell(out, text);
   }
 }
 
@@ -69,13 +83,11 @@ std::string ReasonsOf(const JobSummary& summary, const SummaryTools& tools) {
 }  // namespace
 
 void AppendCsvText(std::string& out, std::string_view text) {
-  std::string printable = PrintableText(text);
-  // A spreadsheet passes over blanks in front of a formula.
-  const std::size_t start = printable.find_first_not_of(' ');
-  const bool likeFormula =
-      start != std::string::npos && kFormulaStarts.find(printable[start]) != std::string::npos;
-  if (likeFormula) printable.insert(0, 1, '\'');
-  AppendCell(out, printable);
+  if (IsPrintableAscii(text)) {
+    AppendPrintable(out, text);
+  } else {
+    AppendPrintable(out, PrintableText(text));
+  }
 }
 
 void CsvSummary::Begin(std::string& out) {

@@ -1,6 +1,7 @@
 #include "reporter/folder_walk.h"
 
 #include <algorithm>
+#include <functional>
 
 #include "core/ascii.h"
 #include "core/file_calls.h"
@@ -12,15 +13,8 @@ namespace halvane {
 namespace {
 
 constexpr std::string_view kJobFileEnd = ".qjt";
-/// How many names of a folder are held at a time.
+/// How many names of a folder are held at a time, and up to twice as many while it is read.
 constexpr std::size_t kMostNames = 4096;
-
-bool IsJobFileName(std::string_view name) {
-  if (name.size() <= kJobFileEnd.size()) return false;
-  const std::string_view end = name.substr(name.size() - kJobFileEnd.size());
-  return std::ranges::equal(end, kJobFileEnd,
-                            [](char c, char wanted) { return LowerCase(c) == wanted; });
-}
 
 /// Whether a name, with or without a slash behind it, comes before or behind `other`; false where
 /// the slash would decide.
@@ -38,7 +32,20 @@ std::string WantedName(const FolderReader& entry) {
   return IsJobFileName(name) && !entry.IsLinkToFolder() ? name : std::string();
 }
 
+/// Leaves the lowest names, as many as are held; the highest of them is the last one then.
+void KeepLowest(std::vector<std::string>& names) {
+  std::ranges::nth_element(names, names.begin() + (kMostNames - 1));
+  names.resize(kMostNames);
+}
+
 }  // namespace
+
+bool IsJobFileName(std::string_view name) {
+  if (name.size() <= kJobFileEnd.size()) return false;
+  const std::string_view end = name.substr(name.size() - kJobFileEnd.size());
+  return std::ranges::equal(end, kJobFileEnd,
+                            [](char c, char wanted) { return LowerCase(c) == wanted; });
+}
 
 FolderWalk::FolderWalk(std::string folder) { Enter(std::move(folder)); }
 
@@ -49,29 +56,29 @@ void FolderWalk::Enter(std::string path) {
 
 /// Reads the names behind `level.last`; gives what went wrong.
 std::optional<std::string> FolderWalk::Refill(Level& level) {
-  // A heap with the highest name on top, so that the lowest ones are kept.
   std::vector<std::string>& names = level.names;
-  level.isComplete = true;
+  // Whether names were left out, and `highest` is the highest that was not.
+  bool isCut = false;
+  std::string highest;
+  const auto cut = [&] {
+    if (names.size() <= kMostNames) return;
+    KeepLowest(names);
+    highest = names.back();
+    isCut = true;
+  };
   FolderReader reader(level.path);
   while (reader.Next()) {
     // Most entries of a large folder are decided by their name, which is much faster.
     if (IsBefore(reader.name(), level.last)) continue;
-    const bool isFull = names.size() == kMostNames;
-    if (isFull && IsBehind(reader.name(), names.front())) {
-      level.isComplete = false;
-      continue;
-    }
+    if (isCut && IsBehind(reader.name(), highest)) continue;
     std::string name = WantedName(reader);
     if (name <= level.last) continue;
     names.push_back(std::move(name));
-    std::ranges::push_heap(names);
-    if (!isFull) continue;
-    std::ranges::pop_heap(names);
-    names.pop_back();
-    level.isComplete = false;
+    if (names.size() == 2 * kMostNames) cut();
   }
-  std::ranges::sort_heap(names);
-  std::ranges::reverse(names);
+  cut();
+  level.isComplete = !isCut;
+  std::ranges::sort(names, std::greater<>());
   if (!names.empty()) level.last = names.front();
   if (!reader.error()) return std::nullopt;
   level.isComplete = true;

@@ -2,9 +2,13 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace halvane {
+
+/// Whether a name is that of a job file: *.qjt in upper or lower case.
+bool IsJobFileName(std::string_view name);
 
 /// The job files (*.qjt in upper or lower case) below a folder, sorted by the bytes of their paths.
 /// Links to files are files, links to folders are passed over, since they can lead back.

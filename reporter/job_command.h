@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "core/file_calls.h"
 #include "reporter/job_source.h"
 
 namespace halvane {
@@ -20,6 +21,7 @@ struct JobResult {
   std::string text;
   std::optional<double> rank;  ///< of a row that is sorted
   JobOutcome outcome;
+  std::string folder;  ///< the name of the job where it is no file but a folder; else empty
 };
 
 /// Does one job after the other in one thread. Several of a command may work at once.
@@ -31,6 +33,13 @@ class JobWorker {
   JobWorker& operator=(const JobWorker&) = delete;
 
   virtual JobResult Do(const JobSource& job) = 0;
+
+  /// The same of what may be a folder.
+  JobResult DoFileOrFolder(const JobSource& job) {
+    JobResult result = Do(job);
+    if (result.outcome.failed && files::IsFolder(job.path)) result.folder = job.name;
+    return result;
+  }
 };
 
 /// What is done with each job file that the user names. Each function appends to `out`.

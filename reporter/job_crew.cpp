@@ -10,10 +10,16 @@
 namespace halvane {
 namespace {
 
-/// Given and not taken, for each thread: enough that none of them waits for the one that takes.
-constexpr std::size_t kJobsOfAThread = 32;
+/// Given and not taken, for each thread: enough that none of them waits for the one that takes,
+/// which is woken seldom.
+constexpr std::size_t kJobsOfAThread = 256;
 /// Some three dozen usual reports; with more, the memory would go by how far a thread is ahead.
 constexpr std::size_t kBytesOfAThread = std::size_t{1} << 18;
+/// Given and not yet handed over to the threads that work: they share a lock, and each time that
+/// one has to wait for it costs as much as a job.
+constexpr std::size_t kHandedOverAtOnce = 16;
+/// The most bytes that are taken from them at once, a single result aside.
+constexpr std::size_t kBytesTakenAtOnce = std::size_t{1} << 16;
 /// How long what is done may lie until it is taken.
 constexpr std::chrono::milliseconds kPatience{100};
 
@@ -31,21 +37,27 @@ JobCrew::~JobCrew() {
   for (std::thread& thread : threads_) thread.join();
 }
 
-bool JobCrew::isFull() const {
-  return jobs_.size() >= kJobsOfAThread * std::max<std::size_t>(most_, 1);
-}
+bool JobCrew::isFull() const { return size() >= kJobsOfAThread * std::max<std::size_t>(most_, 1); }
 
 void JobCrew::Give(JobSource source) {
+  given_.push_back(std::move(source));
+  // Each of the first jobs may need a thread that is still to be started.
+  if (threads_.size() < most_ || given_.size() == kHandedOverAtOnce) HandOver();
+}
+
+void JobCrew::HandOver() {
+  if (given_.empty()) return;
   bool needsThread = false;
   {
     const std::lock_guard lock(mutex_);
-    jobs_.push_back({std::move(source)});
+    for (JobSource& source : given_) jobs_.push_back({std::move(source)});
     needsThread = jobs_.size() - begun_ > idle_ && threads_.size() < most_;
   }
+  given_.clear();
   if (needsThread) {
     StartThread();
   } else {
-    workCame_.notify_one();
+    workCame_.notify_all();
   }
 }
 
@@ -90,7 +102,7 @@ void JobCrew::Work(JobWorker& worker) {
 
 void JobCrew::DoJob(JobWorker& worker, Job& job) const {
   try {
-    job.result = worker.Do(job.source);
+    job.result = worker.DoFileOrFolder(job.source);
   } catch (...) {
     job.thrown = std::current_exception();
   }
@@ -101,7 +113,19 @@ bool JobCrew::isMuchDone() const {
 }
 
 JobResult JobCrew::Take(bool urgent) {
-  if (threads_.empty()) return TakeDoneHere();
+  if (taken_.empty()) {
+    HandOver();
+    if (threads_.empty()) return TakeDoneHere();
+    TakeDone(urgent);
+  }
+  Job job = std::move(taken_.front());
+  taken_.pop_front();
+  if (job.thrown) std::rethrow_exception(job.thrown);
+  return std::move(job.result);
+}
+
+/// Waits until the oldest job is done, and moves it and what is done behind it into `taken_`.
+void JobCrew::TakeDone(bool urgent) {
   std::unique_lock lock(mutex_);
   if (!urgent && !isFrontDone()) {
     waitsForMuch_ = true;
@@ -110,24 +134,27 @@ JobResult JobCrew::Take(bool urgent) {
   }
   workDone_.wait(lock, [this] { return isFrontDone(); });
   const bool wasHeldUp = isHeldUp();
-  Job job = std::move(jobs_.front());
-  jobs_.pop_front();
-  --begun_;
-  --done_;
-  bytesDone_ -= job.result.text.size();
+  std::size_t bytes = 0;
+  while (!jobs_.empty() && isFrontDone() && bytes < kBytesTakenAtOnce) {
+    bytes += jobs_.front().result.text.size();
+    taken_.push_back(std::move(jobs_.front()));
+    jobs_.pop_front();
+    --begun_;
+    --done_;
+  }
+  bytesDone_ -= bytes;
   lock.unlock();
   if (wasHeldUp) workCame_.notify_all();
-  if (job.thrown) std::rethrow_exception(job.thrown);
-  return std::move(job.result);
 }
 
 JobResult JobCrew::TakeDoneHere() {
   const JobSource source = std::move(jobs_.front().source);
   jobs_.pop_front();
-  return workers_.front()->Do(source);
+  return workers_.front()->DoFileOrFolder(source);
 }
 
 void JobCrew::DropWaiting() {
+  given_.clear();
   const std::lock_guard lock(mutex_);
   jobs_.erase(jobs_.begin() + static_cast<std::ptrdiff_t>(begun_), jobs_.end());
 }

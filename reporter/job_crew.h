@@ -14,9 +14,9 @@
 namespace halvane {
 
 /// Does jobs in several threads and gives what they came to in the order in which they were given.
-/// It holds a few dozen results for each thread, and while these are large, no more than a quarter
-/// of a megabyte for each thread beside those that the threads are at. All functions are called by
-/// one thread.
+/// It holds a few hundred results for each thread, and while these are large, no more than a
+/// quarter of a megabyte for each thread beside those that the threads are at. All functions are
+/// called by one thread.
 class JobCrew {
  public:
   /// `most` threads at most, which are started when there is work for them; each has a worker of
@@ -28,10 +28,12 @@ class JobCrew {
   JobCrew& operator=(const JobCrew&) = delete;
 
   /// Whether all that was given has been taken.
-  [[nodiscard]] bool isEmpty() const { return jobs_.empty(); }
+  [[nodiscard]] bool isEmpty() const { return size() == 0; }
   /// Whether a job has to be taken before another one is given.
   [[nodiscard]] bool isFull() const;
-  [[nodiscard]] std::size_t size() const { return jobs_.size(); }
+  [[nodiscard]] std::size_t size() const { return given_.size() + jobs_.size() + taken_.size(); }
+  /// Whether a job can be taken that is known to be done.
+  [[nodiscard]] bool hasTaken() const { return !taken_.empty(); }
 
   void Give(JobSource source);
   /// Waits until the oldest job is done, and takes it. Throws what its worker threw. Unless it is
@@ -48,6 +50,8 @@ class JobCrew {
     bool isDone = false;
   };
 
+  void HandOver();
+  void TakeDone(bool urgent);
   void StartThread();
   void Work(JobWorker& worker);
   JobResult TakeDoneHere();
@@ -61,6 +65,10 @@ class JobCrew {
   std::size_t most_;  ///< threads; 0 where the system gives none
   std::vector<std::unique_ptr<JobWorker>> workers_;
   std::vector<std::thread> threads_;
+
+  // What the thread that gives and takes has for itself, so that it holds up the others seldom.
+  std::vector<JobSource> given_;  ///< not yet in `jobs_`
+  std::deque<Job> taken_;         ///< no longer in `jobs_`
 
   // What the threads share; only the one that gives and takes changes how many jobs there are.
   mutable std::mutex mutex_;

@@ -8,14 +8,24 @@ namespace halvane {
 JobList::JobList(std::vector<std::string> names, std::optional<InputLines> list)
     : names_(std::move(names)), list_(std::move(list)) {}
 
+JobList JobList::OfFolder(std::string name) {
+  JobList list({});
+  list.Enter(std::move(name));
+  return list;
+}
+
+void JobList::Enter(std::string folder) {
+  folder_.emplace(folder);
+  folderName_ = std::move(folder);
+  folderHasFiles_ = false;
+}
+
 std::optional<std::string> JobList::Next(std::vector<std::string>& complaints) {
   while (true) {
     if (auto path = NextInFolder(complaints)) return path;
     auto name = NextName(complaints);
-    if (!name || isStandardInput_ || !files::IsFolder(*name)) return name;
-    folder_.emplace(*name);
-    folderName_ = *std::move(name);
-    folderHasFiles_ = false;
+    if (!name || isStandardInput_ || IsJobFileName(*name) || !files::IsFolder(*name)) return name;
+    Enter(*std::move(name));
   }
 }
 

@@ -18,8 +18,12 @@ class JobList {
   /// folders.
   explicit JobList(std::vector<std::string> names, std::optional<InputLines> list = std::nullopt);
 
+  /// Those in a folder, whatever its name.
+  static JobList OfFolder(std::string name);
+
   /// The path of the next one; nothing behind the last one. What is wrong with a name on the way
-  /// comes as a sentence in `complaints`.
+  /// comes as a sentence in `complaints`. A folder that is named as job files are is given as one:
+  /// to ask the system for each of them takes longer than to see it when one cannot be read.
   std::optional<std::string> Next(std::vector<std::string>& complaints);
 
   /// Whether asking for the next one does not wait for who writes the list.
@@ -33,6 +37,7 @@ class JobList {
   [[nodiscard]] std::optional<std::size_t> CountLeft() const;
 
  private:
+  void Enter(std::string folder);
   std::optional<std::string> NextName(std::vector<std::string>& complaints);
   std::optional<std::string> NextInFolder(std::vector<std::string>& complaints);
 

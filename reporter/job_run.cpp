@@ -92,7 +92,7 @@ int JobRun::Do() {
     if (!file || IsInterrupted()) break;
     if (DoesAtOnce(*file)) {
       TakeAll();
-      DoHere(*file);
+      DoHere(*file, list_.isStandardInput());
     } else {
       while (crew_->isFull()) TakeOne();
       // What was dropped for an interruption leaves no gap that another job may stand behind.
@@ -111,16 +111,28 @@ bool JobRun::DoesAtOnce(const std::string& file) const {
   return !crew_ || PipedJob::IsPiped(file, list_.isStandardInput());
 }
 
-void JobRun::DoHere(const std::string& file) {
+void JobRun::DoHere(const std::string& file, bool isStandardInput) {
   std::optional<JobSource> job;
   const auto unread = Try([&]() -> std::optional<ReportFailure> {
-    job = piped_.SourceOf(file, list_.isStandardInput());
+    job = piped_.SourceOf(file, isStandardInput);
     return std::nullopt;
   });
   // What cannot be taken from its pipe fails as a file of this name does.
-  JobResult result = worker_->Do(job.value_or(JobSource(file)));
+  JobResult result = worker_->DoFileOrFolder(job.value_or(JobSource(file)));
   if (unread) result.outcome.complaints = {Complaint(file, *unread)};
   Finish(result);
+}
+
+/// Does what is in a folder that was taken for a job file by its name.
+void JobRun::DoFolder(const std::string& folder) {
+  JobList files = JobList::OfFolder(folder);
+  std::vector<std::string> complaints;
+  while (!IsInterrupted()) {
+    const auto file = files.Next(complaints);
+    Tell(complaints);
+    if (!file) break;
+    DoHere(*file, false);
+  }
 }
 
 void JobRun::TakeAll() {
@@ -137,10 +149,15 @@ void JobRun::TakeOne() {
 }
 
 void JobRun::Finish(JobResult& result) {
+  if (!result.folder.empty()) {
+    DoFolder(result.folder);
+    return;
+  }
   command_->Take(output_.pending(), result);
   ++jobs_;
   if (result.outcome.failed) status_ = kSomeFailed;
-  if (flushesEachJob_) {
+  // Who reads along waits for nothing that is done.
+  if (flushesEachJob_ && !(crew_ && crew_->hasTaken())) {
     output_.Flush();
   } else {
     output_.WriteSome();

@@ -31,7 +31,8 @@ class JobRun {
 
  private:
   [[nodiscard]] bool DoesAtOnce(const std::string& file) const;
-  void DoHere(const std::string& file);
+  void DoHere(const std::string& file, bool isStandardInput);
+  void DoFolder(const std::string& folder);
   void TakeAll();
   void TakeOne();
   void Finish(JobResult& result);

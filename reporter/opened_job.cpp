@@ -14,12 +14,13 @@ constexpr std::size_t kLongName = std::size_t{1} << 16;
 /// Runs `action` with each name of the job and its number.
 template <typename Action>
 void ForEachName(const Action& action) {
+  JobState& job = Module1;
   int number = 0;
-  action(number++, Module1.JobAnalyst);
-  action(number++, Module1.JobName);
-  action(number++, Module1.JobWorkstationId);
-  for (int task = 0; task <= Module1.TaskNames.upperBound(); ++task) {
-    action(number++, Module1.TaskNames.at(task));
+  action(number++, job.JobAnalyst);
+  action(number++, job.JobName);
+  action(number++, job.JobWorkstationId);
+  for (int task = 0; task <= job.TaskNames.upperBound(); ++task) {
+    action(number++, job.TaskNames.at(task));
   }
 }
 
@@ -31,6 +32,68 @@ std::size_t LengthOf(const TaggedField& name) {
 
 void Store(TaggedField&& name, TaggedField& place) { place = std::move(name); }
 void Store(TaggedField&& name, std::string& place) { place = std::move(name).AsText(); }
+
+/// Runs `action` with what no tool stores and takes most of the time of a copy: the lists that only
+/// a user fills in, of two jobs.
+template <typename Action>
+void ForEachReadOnlyList(JobState& job, JobState& other, const Action& action) {
+  action(job.TaskNames, other.TaskNames);
+  action(job.TaskActive, other.TaskActive);
+  action(job.TaskSpare, other.TaskSpare);
+  action(job.OcraActionFrequency, other.OcraActionFrequency);
+  action(job.OcraTaskDuration, other.OcraTaskDuration);
+  action(job.OcraForceRating, other.OcraForceRating);
+  action(job.CtdHandSpan, other.CtdHandSpan);
+  action(job.CtdForceMvc, other.CtdForceMvc);
+  action(job.CtdLtShoulderFlexion, other.CtdLtShoulderFlexion);
+  action(job.CtdRtShoulderFlexion, other.CtdRtShoulderFlexion);
+  action(job.CtdLtShoulderAbduction, other.CtdLtShoulderAbduction);
+  action(job.CtdRtShoulderAbduction, other.CtdRtShoulderAbduction);
+  action(job.CtdLtElbowFlexion, other.CtdLtElbowFlexion);
+  action(job.CtdRtElbowFlexion, other.CtdRtElbowFlexion);
+  action(job.CtdBackFlexion, other.CtdBackFlexion);
+  action(job.CtdNeckFlexion, other.CtdNeckFlexion);
+  action(job.CtdRepetitions, other.CtdRepetitions);
+  action(job.CtdLoadHeld, other.CtdLoadHeld);
+  action(job.CtdPostureDuration, other.CtdPostureDuration);
+}
+
+JobState JobWithoutTheseLists() {
+  JobState job;
+  ForEachReadOnlyList(job, job, [](auto& list, auto& /*same*/) { list.Drop(); });
+  return job;
+}
+
+/// The job that is kept, without these lists.
+JobState& KeptState() {
+  // Lives on, so that the arrays keep their memory from job to job.
+  static thread_local JobState kept = JobWithoutTheseLists();
+  return kept;
+}
+
+/// Takes these lists out of `Module1` for as long as it lives, also where a copy fails.
+class ListsAside {
+ public:
+  ListsAside() { Swap(); }
+  ~ListsAside() { Swap(); }
+  ListsAside(const ListsAside&) = delete;
+  ListsAside& operator=(const ListsAside&) = delete;
+
+ private:
+  static void Swap() {
+    static thread_local JobState aside = JobWithoutTheseLists();
+    ForEachReadOnlyList(Module1, aside, [](auto& list, auto& other) { std::swap(list, other); });
+  }
+};
+
+/// Copies a job but for its long names and for the lists that no tool stores.
+void CopyWhatToolsStore(JobState& to, JobState& from) {
+  const ListsAside listsAside;
+  LongNames longNames;
+  longNames.PutAside();
+  to = from;
+  longNames.PutBack();
+}
 
 }  // namespace
 
@@ -56,9 +119,16 @@ void LongNames::PutBack() {
   names_.clear();
 }
 
-JobState& OpenedState() {
-  // Lives on, so that the arrays keep their memory from job to job.
-  static thread_local JobState opened;
+void KeepOpenedState() { CopyWhatToolsStore(KeptState(), Module1); }
+
+void TakeOpenedState() { CopyWhatToolsStore(Module1, KeptState()); }
+
+JobState OpenedState() {
+  LongNames longNames;
+  longNames.PutAside();
+  JobState opened = KeptState();
+  ForEachReadOnlyList(opened, Module1, [](auto& list, const auto& present) { list = present; });
+  longNames.PutBack();
   return opened;
 }
 

@@ -35,22 +35,21 @@ class LongNames {
   std::vector<std::pair<int, TaggedField>> names_;  ///< by the number of the name in the job
 };
 
-/// The job as it was when `ForEachTool` was called last, without its long names.
-JobState& OpenedState();
+/// Keeps the job of `Module1`, and makes `Module1` that job again after a tool has run on it. What
+/// no tool stores is not copied but stays in `Module1`, so whatever else becomes of the job between
+/// the two has to be undone.
+void KeepOpenedState();
+void TakeOpenedState();
+
+/// The job that is kept, with what stayed in `Module1` and without its long names.
+JobState OpenedState();
 
 /// Runs `action` with each tool and its place in `tools`, `Module1` being the job each time as it
 /// stands when this is called: nothing that one tool stores comes through to the next.
 template <typename Action>
 void ForEachTool(std::span<const ToolRow* const> tools, const Action& action) {
-  LongNames longNames;
   for (std::size_t i = 0; i < tools.size(); ++i) {
-    longNames.PutAside();
-    if (i == 0) {
-      OpenedState() = Module1;
-    } else {
-      Module1 = OpenedState();
-    }
-    longNames.PutBack();
+    i == 0 ? KeepOpenedState() : TakeOpenedState();
     action(*tools[i], i);
   }
 }

@@ -22,8 +22,12 @@ bool IsControl(std::string_view character) {
 
 }  // namespace
 
+bool IsPrintableAscii(std::string_view text) {
+  return std::all_of(text.begin(), text.end(), IsPlain);
+}
+
 std::string PrintableText(std::string_view text) {
-  if (std::all_of(text.begin(), text.end(), IsPlain)) return std::string(text);
+  if (IsPrintableAscii(text)) return std::string(text);
   std::string printable;
   while (!text.empty()) {
     const std::string_view character =

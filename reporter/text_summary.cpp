@@ -17,7 +17,7 @@ constexpr std::string_view kCut = "...";
 std::string Shortened(std::string_view text) {
   std::string printable = PrintableText(text);
   if (CharacterCount(printable) <= kLongestText) return printable;
-  return FirstCharacters(printable, kLongestText - kCut.size()).append(kCut);
+  return std::string(FirstCharacters(printable, kLongestText - kCut.size())).append(kCut);
 }
 
 // How a row is kept: each cell with a mark in front, and behind it what no printable text holds.

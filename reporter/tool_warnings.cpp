@@ -34,16 +34,19 @@ class ToolWarnings {
   ToolWarnings(std::vector<JobProblem>& warnings, const FieldNotes& notes)
       : warnings_(warnings), notes_(notes) {}
 
-  /// Runs a tool on `Module1`, which is `opened`; `compute` is what it computes.
-  template <typename Compute>
-  void Try(const ToolRow& tool, const JobState& opened, const Compute& compute) {
+  /// Runs a tool on `Module1`; `compute` is what it computes, `openedState` gives the job as it was
+  /// before, which `Module1` is again after a failure.
+  template <typename OpenedState, typename Compute>
+  void Try(const ToolRow& tool, const OpenedState& openedState, const Compute& compute) {
     const auto failure = FailureOf(compute);
     if (!failure || !failed_.insert(tool.tool).second) return;
     const auto gap = GapMet(tool);
+    const auto& opened = openedState();
     const auto field = FieldThatFails(opened, [&] {
       const auto stopped = FailureOf(compute);
       return stopped && stopped->kind == failure->kind;
     });
+    Module1 = opened;
     if (!field) return;
     const FieldNote& note = NoteOf(notes_, field->name);
     if (gap) {
@@ -86,15 +89,17 @@ void WarnOfFailures(std::vector<JobProblem>& warnings, const FieldNotes& notes) 
   JobState job = Module1;
   Module1.Units = static_cast<Integer>(LengthUnit::Metric);
   ForEachTool(all, [&told](const ToolRow& tool, std::size_t /*place*/) {
-    told.Try(tool, OpenedState(), [&tool] { tool.headline->compute(); });
+    told.Try(tool, OpenedState, [&tool] { tool.headline->compute(); });
   });
   // Files do not say what their hand spans are taken in, and only one computation asks.
   Module1 = job;
   Module1.Units = static_cast<Integer>(LengthUnit::English);
   const JobState english = Module1;
-  told.Try(RowOf(Tool::Ctd), english, [] {
-    if (CtdOpen()) CTDcalculate();
-  });
+  told.Try(
+      RowOf(Tool::Ctd), [&english]() -> const JobState& { return english; },
+      [] {
+        if (CtdOpen()) CTDcalculate();
+      });
   Module1 = std::move(job);
 }
 

@@ -52,6 +52,18 @@ TaggedField NumberIn(const NumberField& field, int task) {
                     field);
 }
 
+double ValueIn(const NumberField& field, int task) {
+  const auto valueOf = [task](auto member) -> double {
+    const auto& place = Place(Module1.*member, task);
+    if constexpr (std::same_as<decltype(place), const TaggedField&>) {
+      return place.AsDouble();
+    } else {
+      return place;
+    }
+  };
+  return std::visit(valueOf, field);
+}
+
 void StoreNumber(const NumberField& field, int task, Integer number) { Store(field, task, number); }
 
 void StoreNumber(const NumberField& field, int task, double number) { Store(field, task, number); }

@@ -17,6 +17,10 @@ using NumberField = std::variant<Integer JobState::*, double JobState::*, Tagged
 /// `SubscriptOutOfRange` for a task that the field has no place for.
 TaggedField NumberIn(const NumberField& field, int task = 0);
 
+/// What it counts as in a calculation; throws `Overflow` besides for a text that reads as a number
+/// beyond a double.
+double ValueIn(const NumberField& field, int task = 0);
+
 /// Stores a number in a field. One that keeps the kind of its number keeps a whole one whole.
 /// Throws `SubscriptOutOfRange` as above, and `Overflow` for a number beyond a 16-bit field.
 void StoreNumber(const NumberField& field, int task, Integer number);

@@ -51,7 +51,12 @@ ROOMS = tuple(
     for name, pattern, uses, targets in (
         ("core", r"core/.*", (), ("halvane_core",)),
         ("platform", r"platform/.*", ("core",), ("halvane_platform",)),
-        ("widgets", r"widgets/.*", ("core", "platform"), ("halvane_widgets",)),
+        (
+            "widgets",
+            r"widgets/.*",
+            ("core", "platform"),
+            ("halvane_postures", "compile_postures", "halvane_widgets"),
+        ),
         (
             "help reader",
             r"help/(help_(archive|contents|file|markup)|verify_help_file)\.\w+",

@@ -73,6 +73,15 @@ TEST_F(FolderWalkTest, LinkToAFileIsAFileAndLinkToAFolderIsNotFollowed) {
   EXPECT_EQ(Walked("named"), (Names{"named/a.qjt", "named/broken.qjt", "named/link.qjt"}));
 }
 
+TEST_F(FolderWalkTest, FolderNamedAsAJobFileIsGoneThroughWhenItIsKnownToBeOne) {
+  Make("b.QJT/a.qjt");
+  Make("b.QJT/c/d.qjt");
+  EXPECT_EQ(Walked("b.QJT"), Names{"b.QJT"});
+  JobList list = JobList::OfFolder(folder_.File("b.QJT"));
+  EXPECT_EQ(NamesOf(list), (Names{"b.QJT/a.qjt", "b.QJT/c/d.qjt"}));
+  EXPECT_EQ(complaints_, Names{});
+}
+
 TEST_F(FolderWalkTest, MoreNamesThanAreHeldAtATimeComeInOrderAndOnce) {
   constexpr int kFiles = 20000;
   Make("source");

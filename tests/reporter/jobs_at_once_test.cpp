@@ -2,6 +2,7 @@
 
 #include <csignal>
 #include <filesystem>
+#include <regex>
 
 #include "tests/reporter/run_program.h"
 #include "tests/reporter/running_program.h"
@@ -85,6 +86,32 @@ TEST_F(JobsAtOnceTest, GiveTheSameBytesAsOneAfterTheOther) {
       // Not printed, since it is megabytes.
       EXPECT_TRUE(run.output == alone.output);
       EXPECT_EQ(run.error, alone.error);
+    }
+  }
+}
+
+TEST_F(JobsAtOnceTest, FolderNamedAsAJobFileIsGoneThroughInItsPlace) {
+  for (const char* name : {"named", "named.qjt"}) {
+    std::filesystem::create_directory_symlink("jobs2", folder_->File(name));
+  }
+  for (const Arguments& use : {Arguments{"--summary", "--format", "csv"}, Arguments{"--check"},
+                               Arguments{"--format", "json"}}) {
+    for (const char* jobs : {"1", "3"}) {
+      const auto run = [&](const std::string& name) {
+        return RunProgram(HALVANE_REPORT,
+                          Joined(use, {"--jobs", jobs, "jobs0", name, "gone.qjt", name, "jobs1"}),
+                          folder_->path());
+      };
+      const auto withPlainName = [](const std::string& text) {
+        return std::regex_replace(text, std::regex("named\\.qjt/"), "named/");
+      };
+      const ProgramRun plain = run("named");
+      const ProgramRun asJobFile = run("named.qjt");
+      SCOPED_TRACE(testing::PrintToString(use));
+      EXPECT_NE(plain.output.find("named/"), std::string::npos);
+      EXPECT_TRUE(withPlainName(asJobFile.output) == plain.output);
+      EXPECT_EQ(withPlainName(asJobFile.error), plain.error);
+      EXPECT_EQ(asJobFile.status, plain.status);
     }
   }
 }

@@ -156,11 +156,9 @@ const CtdRibbon& CtdRibbonAt(std::span<const CtdRibbon> ribbons, int index) {
   throw RuntimeFailure(FailureKind::SubscriptOutOfRange);
 }
 
-int CtdCodeOf(CtdGroup group, int task) {
-  return ToInteger(NumberIn(GroupRow(group).field, task).AsDouble());
-}
+int CtdCodeOf(CtdGroup group, int task) { return ToInteger(ValueIn(GroupRow(group).field, task)); }
 
-double CtdCategoryOf(int slot, int task) { return NumberIn(SlotRow(slot).field, task).AsDouble(); }
+double CtdCategoryOf(int slot, int task) { return ValueIn(SlotRow(slot).field, task); }
 
 void StoreCtdCategory(int slot, int task, Integer category) {
   StoreNumber(SlotRow(slot).field, task, category);

@@ -29,10 +29,10 @@ void WriteJob(RichText& RichTextBox1) {
   RichTextBox1.Append(kNewLine);
   AppendNames(RichTextBox1);
   RichTextBox1.Append(kNewLine, kNewLine);
-  const double hours = NumberIn(kHours.field).AsDouble();
+  const double hours = ValueIn(kHours.field);
   RichTextBox1.Append(kHours.label, " ");
   RichTextBox1.AppendNumber(hours, Pattern::Whole);
-  const double cycleTime = NumberIn(kCycleTime.field).AsDouble();
+  const double cycleTime = ValueIn(kCycleTime.field);
   RichTextBox1.Append(kNewLine, kCycleTime.label, " ");
   RichTextBox1.AppendNumber(cycleTime, Pattern::TwoDecimals);
   RichTextBox1.Append(kNewLine, kNewLine);

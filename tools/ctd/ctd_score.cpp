@@ -94,31 +94,53 @@ double NeckBase(double category) {
   return 0;
 }
 
-double LoadBase(int slot, int task, double category) {
+double LoadBase(const JobState& job, int slot, int task, double category) {
   if (slot == kCtdNeckSlot) return NeckBase(category);
-  return Finite((Module1.CtdLoadHeld.at(task, slot) * kPoundsPerKilogram + 5) / 50);
+  return Finite((job.CtdLoadHeld.at(task, slot) * kPoundsPerKilogram + 5) / 50);
 }
 
 double ShiftMinutes() { return Product(Module1.JobDurationPerDay.AsDouble(), kMinutesPerHour); }
 
-/// Capacity and score of one slot. `shift`: what the length of the shift does to the strain.
-void ScoreSlot(int slot, int task, double shift) {
-  const double category = CtdCategoryOf(slot, task);
-  const double held = Module1.CtdPostureDuration.at(task, slot);
-  double remaining = Module1.JobCycleTime - held;
-  if (remaining <= 0) remaining = kSmallGuard;
+/// What the strain on a slot comes from. `shift`: what the length of the shift does to it.
+struct Strain {
+  double load;
+  double held;
+  double remaining;
+  double shift;
 
-  double strain = 1.099646;
-  for (const double factor : {Power(LoadBase(slot, task, category), 1.862633),
-                              Power(held, 0.733872), Power(remaining, -0.412773), shift}) {
-    strain = Product(strain, factor);
+  /// Whether it is known to be a number without working it out, which takes several powers.
+  [[nodiscard]] bool isUsual() const {
+    constexpr double kLeast = 1e-50;
+    constexpr double kMost = 1e50;
+    return load >= 0 && load <= kMost && held >= 0 && held <= kMost && remaining >= kLeast &&
+           shift <= kMost;
   }
-  const double capacity = Finite((1 - strain) * 100 * CategoryMultiplier(slot, category));
+  [[nodiscard]] double Value() const {
+    double strain = 1.099646;
+    for (const double factor :
+         {Power(load, 1.862633), Power(held, 0.733872), Power(remaining, -0.412773), shift}) {
+      strain = Product(strain, factor);
+    }
+    return strain;
+  }
+};
 
-  TaggedField& slotCapacity = Module1.CtdPostureCapacity.at(slot);
-  TaggedField& slotScore = Module1.CtdPostureScore.at(slot);
-  slotCapacity = capacity <= 0 ? 0.0 : capacity;
-  slotScore = capacity <= 0 ? kNoCapacityScore : Finite(50 / capacity);
+/// Capacity and score of one slot.
+void ScoreSlot(JobState& job, int slot, int task, double shift) {
+  const double category = CtdCategoryOf(slot, task);
+  const double held = job.CtdPostureDuration.at(task, slot);
+  double remaining = job.JobCycleTime - held;
+  if (remaining <= 0) remaining = kSmallGuard;
+  const Strain strain{LoadBase(job, slot, task, category), held, remaining, shift};
+
+  TaggedField& slotCapacity = job.CtdPostureCapacity.at(slot);
+  TaggedField& slotScore = job.CtdPostureScore.at(slot);
+  // A neutral posture is rated whatever its strain, as long as that is a number.
+  if (category != 0 || !strain.isUsual()) {
+    const double capacity = Finite((1 - strain.Value()) * 100 * CategoryMultiplier(slot, category));
+    slotCapacity = capacity <= 0 ? 0.0 : capacity;
+    slotScore = capacity <= 0 ? kNoCapacityScore : Finite(50 / capacity);
+  }
   if (category == 0) {
     slotCapacity = kNeutralCapacity;
     slotScore = kNeutralScore;
@@ -126,12 +148,14 @@ void ScoreSlot(int slot, int task, double shift) {
 }
 
 void ScorePostures(int task) {
-  double& score = Module1.CtdTaskPostureScore.at(task);
+  // Looked up once: each thread has a job of its own.
+  JobState& job = Module1;
+  double& score = job.CtdTaskPostureScore.at(task);
   score = 0;
   const double shift = Power(ShiftMinutes(), 0.48053);
   for (int slot = 0; slot < kCtdSlotCount; ++slot) {
-    ScoreSlot(slot, task, shift);
-    score = Finite(score + Module1.CtdPostureScore.at(slot).AsDouble());
+    ScoreSlot(job, slot, task, shift);
+    score = Finite(score + job.CtdPostureScore.at(slot).AsDouble());
   }
   score /= kCtdSlotCount;
 }

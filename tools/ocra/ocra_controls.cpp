@@ -129,7 +129,7 @@ void OcraControls::Load() {
     CheckedSubscript(Module1.OcraComboChoice.at(list), kOcraAnswers.size());
   }
   for (std::size_t i = 0; i < kOcraTicks.size(); ++i) {
-    SetTick(static_cast<int>(i), NumberIn(kOcraTicks[i].field).AsDouble() == kOcraTicked);
+    SetTick(static_cast<int>(i), ValueIn(kOcraTicks[i].field) == kOcraTicked);
   }
   if (!tasks.empty()) TaskShown(tasks.front());
 }

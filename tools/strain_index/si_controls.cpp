@@ -87,7 +87,7 @@ const SiFrame& SiFrameOf(SiRibbonArray array) { return kFrames[Row(array)]; }
 void SiControls::Load() {
   ChooseHand(Module1.Hand);
   for (const SiFrame& frame : kFrames) {
-    PressRibbon(frame.array, ToInteger(NumberIn(frame.pick).AsDouble()));
+    PressRibbon(frame.array, ToInteger(ValueIn(frame.pick)));
   }
 }
 

@@ -250,6 +250,24 @@ TEST_F(CtdScore, NeutralSlotsScoreAHalfWhateverTheyHold) {
   EXPECT_EQ(Module1.CtdPostureFactor, 0.5);
 }
 
+TEST_F(CtdScore, NeutralSlotFailsWhereItsStrainIsNoNumber) {
+  struct Row {
+    double load, held;
+    std::string_view failure;
+  };
+  constexpr std::array kRows{
+      Row{1E50, 0.5, "none"},      Row{-2.28, 0.5, "InvalidCall"}, Row{1, -0.1, "InvalidCall"},
+      Row{1E170, 0.5, "Overflow"}, Row{1E150, 1E120, "Overflow"},  Row{1E50, 1E60, "none"},
+  };
+  for (const Row& row : kRows) {
+    StartFresh();
+    StoreCtdCategory(1, 1, 0);
+    Module1.CtdLoadHeld.at(1, 1) = row.load;
+    Module1.CtdPostureDuration.at(1, 1) = row.held;
+    EXPECT_EQ(FailureOf(CTDcalculate), row.failure) << row.load << ", " << row.held;
+  }
+}
+
 TEST_F(CtdScore, DurationFromTheCycleTimeOnTakesTheWholeCapacity) {
   for (const double held : {1.0, 1.5, 100.0}) {
     Module1.CtdPostureDuration.at(1, 0) = held;
