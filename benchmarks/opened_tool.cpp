@@ -74,6 +74,10 @@ OpenedTool::~OpenedTool() = default;
 
 void OpenedTool::BeQuiet() {
   RunEventsFor(kQuietMilliseconds);
+  BeIdle();
+}
+
+void OpenedTool::BeIdle() {
   double before = 0;
   do {
     before = CpuSeconds();

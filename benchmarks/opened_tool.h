@@ -20,6 +20,8 @@ class OpenedTool {
 
   /// Lets the program stand unused for a second, and for as long as it still works then.
   static void BeQuiet();
+  /// Lets it stand unused for as long as it works.
+  static void BeIdle();
 
   /// Runs with a form that has been shown and painted, as often as that happens until it closes.
   using Use = std::function<void(ToolForm& form)>;

@@ -13,6 +13,8 @@ void Measure(Tool tool, const std::string& /*argument*/) {
   opened.OpenFor(tool, [](ToolForm& form) {
     OnEveryPage(form, [&form](const QString& page) {
       const auto pictures = UsableOnView<RibbonButton>(form);
+      // A user looks at them first.
+      OpenedTool::BeIdle();
       for (int turn = 0; turn < kTurns; ++turn) {
         for (RibbonButton* picture : pictures) {
           // One that another has hidden is on another page.

@@ -1,12 +1,17 @@
 #pragma once
 
-#include <QByteArray>
 #include <QColor>
-#include <QPixmap>
-#include <QString>
 #include <span>
 
+#include "widgets/posture_outlines.h"
+
 namespace halvane {
+
+/// The colour in the files of what parts limbs from each other; on a screen it is the ground's.
+inline constexpr const char* kEdgeInk = "#ffffff";
+
+/// The colour of signs on buttons, which stands out on every ground.
+inline constexpr const char* kSignInk = "#3a72ee";
 
 /// One ink of the posture pictures. The files have those of light grounds.
 struct PictureInk {
@@ -15,14 +20,10 @@ struct PictureInk {
   const char* onDark;
 };
 
-/// The inks, but for the one that parts what touches: that is the ground's own colour.
+/// The inks, but for the one that parts what touches.
 [[nodiscard]] std::span<const PictureInk> PictureInks();
 
-/// The drawing in the inks that stand out on `ground`.
-[[nodiscard]] QByteArray InkedDrawing(QByteArray svg, const QColor& ground);
-
-/// The picture of an asset in the inks that stand out on `ground`, so many device pixels wide and
-/// high. Pictures are kept, so that a button painted again draws none anew.
-[[nodiscard]] QPixmap InkedPicture(const QString& assetName, const QColor& ground, int side);
+/// The colours of a posture that stand out on `ground`.
+[[nodiscard]] PostureColors ColorsOn(const QColor& ground);
 
 }  // namespace halvane

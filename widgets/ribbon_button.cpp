@@ -5,8 +5,7 @@
 #include <QPalette>
 #include <algorithm>
 
-#include "widgets/late_icon.h"
-#include "widgets/picture_inks.h"
+#include "widgets/posture_picture.h"
 
 namespace halvane {
 namespace {
@@ -38,7 +37,6 @@ RibbonButton::RibbonButton(const QString& name, const QString& caption, QWidget*
 
 void RibbonButton::SetPicture(const QString& assetName, int size) {
   picture_ = assetName;
-  setIcon(LateIcon(":/assets/" + assetName + ".svg"));
   setIconSize({size, size});
   measured_ = {};
   setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
@@ -78,12 +76,12 @@ int RibbonButton::CaptionWidth() const {
   int& width = Known().width;
   if (width == 0) width = MeasureCaption();
   // As narrow as picture and words allow, so that a row of pictures fits a small window.
-  return oneLine_ || icon().isNull() ? width : std::max(width, iconSize().width());
+  return oneLine_ || picture_.isEmpty() ? width : std::max(width, iconSize().width());
 }
 
 int RibbonButton::MeasureCaption() const {
   if (oneLine_) return fontMetrics().horizontalAdvance(ShownText()) + 1;
-  if (icon().isNull()) {
+  if (picture_.isEmpty()) {
     return std::min(fontMetrics().horizontalAdvance(text()) + 1,
                     kWidestLine * fontMetrics().averageCharWidth());
   }
@@ -100,7 +98,7 @@ int RibbonButton::SideRoom() const {
 }
 
 int RibbonButton::PictureRoom() const {
-  if (icon().isNull()) return 0;
+  if (picture_.isEmpty()) return 0;
   // The least one fits a small window by standing close to the edges.
   const int size = iconSize().width();
   return size + std::max(size - kLeastPicture, 0) / kGrowingSide;
@@ -174,7 +172,7 @@ int RibbonButton::CaptionRoom() const {
 QSize RibbonButton::sizeHint() const { return minimumSizeHint().expandedTo({0, largestHeight_}); }
 
 QSize RibbonButton::minimumSizeHint() const {
-  const int picture = icon().isNull() ? 0 : iconSize().height() + kPadding;
+  const int picture = picture_.isEmpty() ? 0 : iconSize().height() + kPadding;
   return {GroupWidth(), picture + CaptionRoom() + 2 * kPadding};
 }
 
@@ -200,7 +198,7 @@ void RibbonButton::paintEvent(QPaintEvent* /*event*/) {
   const int way = isDown() ? kGivesWay : 0;
   const int captionWidth = EvenWidth(width() - 2 * SideRoom());
   QRect caption((width() - captionWidth) / 2, 0, captionWidth, height());
-  if (!icon().isNull()) {
+  if (!picture_.isEmpty()) {
     const int top = (height() - iconSize().height() - kPadding - CaptionRoom()) / 2;
     PaintPicture(painter, {(width() - iconSize().width()) / 2 + way, top + way});
     // From below the picture on, so that first lines of a row stand level.
@@ -240,16 +238,29 @@ void RibbonButton::PaintTick(QPainter& painter) const {
   painter.restore();
 }
 
-void RibbonButton::PaintPicture(QPainter& painter, QPoint corner) const {
+bool RibbonButton::DrawAhead() const {
+  const int side = PictureSide(devicePixelRatioF());
+  if (picture_.isEmpty() || IsPostureDrawn(picture_, PictureGround(), side)) return false;
+  (void)PosturePicture(picture_, PictureGround(), side);
+  return true;
+}
+
+QColor RibbonButton::PictureGround() const {
   // The inks of a picture would be lost on the highlight.
-  const QColor ground = isChecked() ? palette().color(Group(), QPalette::Base) : Fill();
+  return isChecked() ? palette().color(Group(), QPalette::Base) : Fill();
+}
+
+int RibbonButton::PictureSide(double ratio) const { return qRound(iconSize().width() * ratio); }
+
+void RibbonButton::PaintPicture(QPainter& painter, QPoint corner) const {
+  const QColor ground = PictureGround();
   if (isChecked()) {
     const QRect place = QRect(corner, iconSize()).adjusted(-kEdge, -kEdge, kEdge, kEdge);
     const QRect inside = rect().adjusted(kEdge, kEdge, -kEdge, -kEdge);
     painter.fillRect(place.intersected(inside), ground);
   }
   const double ratio = painter.device()->devicePixelRatio();
-  const QIcon inked(InkedPicture(picture_, ground, qRound(iconSize().width() * ratio)));
+  const QIcon inked(PosturePicture(picture_, ground, PictureSide(ratio)));
   QPixmap picture =
       inked.pixmap(iconSize() * ratio, 1.0, isEnabled() ? QIcon::Normal : QIcon::Disabled);
   picture.setDevicePixelRatio(ratio);

@@ -37,6 +37,11 @@ class RibbonButton : public QAbstractButton {
   /// Keeps as much height for the caption as the group of `other` does, which stands beside it.
   void StandLevelWith(const RibbonButton& other);
 
+  /// The asset name of its picture; empty when it has none.
+  [[nodiscard]] const QString& Picture() const { return picture_; }
+  /// Draws its picture for when it will be painted. False when that has been done.
+  bool DrawAhead() const;
+
   [[nodiscard]] QSize sizeHint() const override;
   [[nodiscard]] QSize minimumSizeHint() const override;
 
@@ -80,12 +85,16 @@ class RibbonButton : public QAbstractButton {
   /// The height that is kept for captions.
   [[nodiscard]] int CaptionRoom() const;
 
+  /// What the picture lies on.
+  [[nodiscard]] QColor PictureGround() const;
+  /// Width and height of the picture in device pixels.
+  [[nodiscard]] int PictureSide(double ratio) const;
   /// Draws the picture in the inks that stand out on what it lies on.
   void PaintPicture(QPainter& painter, QPoint corner) const;
   [[nodiscard]] QPalette::ColorGroup Group() const;
   [[nodiscard]] QColor TextColor() const;
 
-  QString picture_;  ///< asset name
+  QString picture_;
   mutable Measured measured_;
   bool oneLine_ = false;
   int largestHeight_ = 0;

@@ -9,6 +9,8 @@ namespace halvane {
 namespace {
 
 constexpr int kStep = RibbonButton::kPictureStep;
+/// Behind each picture that is drawn ahead, and before the first.
+constexpr int kPauseMilliseconds = 20;
 
 /// Has everything in a layout measured anew, what stands in widgets in it too.
 void Invalidate(QLayoutItem& item) {
@@ -24,7 +26,10 @@ void Invalidate(QLayoutItem& item) {
 
 }  // namespace
 
-RibbonPage::RibbonPage(QWidget* parent) : QWidget(parent), size_(RibbonButton::kLeastPicture) {}
+RibbonPage::RibbonPage(QWidget* parent) : QWidget(parent), size_(RibbonButton::kLeastPicture) {
+  ahead_.setInterval(kPauseMilliseconds);
+  connect(&ahead_, &QTimer::timeout, this, &RibbonPage::DrawAhead);
+}
 
 QSize RibbonPage::minimumSizeHint() const {
   return NeedWith(RibbonButton::kLeastPicture, width()).least;
@@ -42,7 +47,10 @@ bool RibbonPage::event(QEvent* event) {
   const bool handled = QWidget::event(event);
   // Measuring asks for a new layout itself, which changes nothing.
   const bool mayChange = event->type() == QEvent::LayoutRequest && isVisible();
-  if (mayChange && Measure(width()) != fitted_) FitAnew();
+  if (mayChange && IsChanged()) {
+    needs_.clear();
+    Fit();
+  }
   return handled;
 }
 
@@ -55,7 +63,8 @@ void RibbonPage::changeEvent(QEvent* event) {
 
 void RibbonPage::showEvent(QShowEvent* event) {
   QWidget::showEvent(event);
-  FitAnew();
+  if (IsChanged()) needs_.clear();
+  Fit();
 }
 
 void RibbonPage::resizeEvent(QResizeEvent* event) {
@@ -64,10 +73,7 @@ void RibbonPage::resizeEvent(QResizeEvent* event) {
   if (isVisible()) Fit();
 }
 
-void RibbonPage::FitAnew() {
-  needs_.clear();
-  Fit();
-}
+bool RibbonPage::IsChanged() const { return Measure(width()) != fitted_; }
 
 void RibbonPage::Fit() {
   int size = size_;
@@ -79,6 +85,15 @@ void RibbonPage::Fit() {
     if (layout() != nullptr) layout()->activate();
   }
   fitted_ = Measure(width());
+  // Again from the beginning of a pause, so that none is drawn for a size that does not last.
+  ahead_.start();
+}
+
+void RibbonPage::DrawAhead() {
+  for (const RibbonButton* ribbon : findChildren<RibbonButton*>()) {
+    if (isVisible() && !ribbon->isVisible() && ribbon->DrawAhead()) return;
+  }
+  ahead_.stop();
 }
 
 bool RibbonPage::HasRoomFor(int size) const {
@@ -88,7 +103,7 @@ bool RibbonPage::HasRoomFor(int size) const {
 
 void RibbonPage::SetPictures(int size) const {
   for (RibbonButton* ribbon : findChildren<RibbonButton*>()) {
-    if (!ribbon->icon().isNull()) ribbon->setIconSize({size, size});
+    if (!ribbon->Picture().isEmpty()) ribbon->setIconSize({size, size});
   }
   if (layout() != nullptr) Invalidate(*layout());
 }
@@ -104,7 +119,7 @@ RibbonPage::Need RibbonPage::NeedWith(int size, int width) const {
   // The layout itself knows it, and what changes on a page.
   if (size == size_) return Measure(width);
   // A hidden page is not told of what changes on it.
-  if (!isVisible()) needs_.clear();
+  if (!isVisible() && IsChanged()) needs_.clear();
   const auto key = std::pair(size, width);
   const auto known = needs_.find(key);
   if (known != needs_.end()) return known->second;

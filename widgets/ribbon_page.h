@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QTimer>
 #include <QWidget>
 #include <map>
 #include <utility>
@@ -31,10 +32,12 @@ class RibbonPage : public QWidget {
     bool operator==(const Need&) const = default;
   };
 
+  /// Whether what stands on the page needs another room than when the pictures were chosen.
+  [[nodiscard]] bool IsChanged() const;
   /// Gives the pictures the size that the page has room for.
   void Fit();
-  /// The same after something has changed.
-  void FitAnew();
+  /// Draws a picture that is hidden, while the user looks at the others.
+  void DrawAhead();
   [[nodiscard]] bool HasRoomFor(int size) const;
   void SetPictures(int size) const;
   /// What the page needs as it is.
@@ -42,6 +45,7 @@ class RibbonPage : public QWidget {
   /// What it needs with pictures of a size; known until something changes.
   [[nodiscard]] Need NeedWith(int size, int width) const;
 
+  QTimer ahead_;
   int size_;
   Need fitted_;  ///< with the pictures that it has, when they were chosen
   mutable std::map<std::pair<int, int>, Need> needs_;  ///< by size of the pictures and width

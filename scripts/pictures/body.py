@@ -4,6 +4,8 @@ Lengths are body units: a hundred of them are about one body height. From the si
 to the right: x is forward, y is down. A limb's outline hangs down from its upper joint.
 """
 
+from dataclasses import dataclass
+
 SHOULDER = (-0.6, -26.4)  # joints, from the hip
 NECK = (-0.2, -32.2)
 UPPER_ARM, FOREARM, HAND = 17.0, 15.0, 10.5
@@ -31,6 +33,32 @@ SIDE_CAP = [  # its peak tells at button size which way a figure looks
     (-6.6, -12.4), (-6, -17), (-2, -20.6), (3, -21), (6.8, -19.2), (8.8, -16.6), (15.6, -15.6),
     (16.2, -13.6), (8.8, -13.2), (2, -13),
 ]
+
+# Where the way that a mirrored figure looks must be told at button size: nose and chin stand out,
+# and the peak is long and off the nose.
+CLEAR_HEAD = [
+    (1.6, -19.8), (5.8, -18.8), (8.2, -15.8), (8.3, -13), (12, -9.8), (12.4, -8.6), (11.3, -7.9),
+    (9.4, -7.3), (9.6, -6), (9.2, -4.9), (10.3, -3.3), (9, -1.6), (5.6, -1.9), (2.6, -4.2),
+    (-1.4, -5.2), (-4.8, -7.6), (-6.2, -12.2), (-4, -17.6),
+]
+CLEAR_JAW = [(9, -1.6), (5.6, -1.9), (2.6, -4.2), (-0.6, -5.6)]
+CLEAR_CAP = [
+    (-6.6, -12.4), (-6, -17), (-2, -20.6), (3, -21), (6.8, -19.4), (9.2, -17.2), (18.6, -17),
+    (20, -15.4), (18.8, -14.2), (9.2, -13.9), (2, -13),
+]
+
+
+@dataclass(frozen=True)
+class Profile:
+    """Outlines of a head from the side."""
+
+    head: list
+    jaw: list
+    cap: list
+
+
+PLAIN = Profile(SIDE_HEAD, SIDE_JAW, SIDE_CAP)
+CLEAR = Profile(CLEAR_HEAD, CLEAR_JAW, CLEAR_CAP)
 SIDE_EYE = [(5.2, -11.4), (6.9, -11.2)]
 SIDE_EAR = [(-1.2, -7.8), (-2.6, -8.4), (-3.4, -10.8), (-2.4, -12.2), (-1, -11.4)]
 THROAT, NAPE = (2.6, -31), (-5.2, -30.6)  # where the neck grows from the trunk
@@ -77,6 +105,11 @@ FRONT_HEAD = [  # from the neck's joint
 FRONT_CAP = [
     (0, -21.4), (4.4, -20.2), (6.5, -16.4), (7.8, -14.2), (5, -13.6), (0, -13),
 ]
+PEAKED_CAP = [  # with a peak towards the reader
+    (0, -21.4), (4.4, -20.2), (6.5, -16.4), (8.4, -13.6), (7.4, -11.8), (4.4, -12.4), (0, -12.2),
+]
+PEAK_ROOT = [(-6.6, -15), (-3.4, -15.8), (0, -16), (3.4, -15.8), (6.6, -15)]
+COLLAR = [(-4.6, 1.2), (0, 8.4), (4.6, 1.2)]
 FRONT_NECK = [(0, -9), (3.5, -9), (3.4, -2), (6.4, 2.6), (0, 3.4)]
 FRONT_LEG = [
     (0.5, 3), (1, -2), (8.6, -3), (9.4, 2), (8.9, 9), (7.6, 18), (6.6, 25), (7.1, 30), (6.7, 35),

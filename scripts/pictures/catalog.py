@@ -7,6 +7,7 @@ where "{}" stands in a title.
 """
 
 from pictures import charts, grip, hand, icon, open_hand, symbols
+from pictures.either_side import to_either_side
 from pictures.postures import (
     front_arm,
     front_forearm,
@@ -33,18 +34,18 @@ CTD = [
     ("ctd/wrist_pronation", hand.turned, ("back",), "Forearm pronated"),
     ("ctd/wrist_supination", hand.turned, ("palm",), "Forearm supinated"),
     ("ctd/deviation_neutral", hand.from_above, (0,), "Hand straight"),
-    ("ctd/deviation_radial_over_15", hand.from_above, (-25, Range(-15)),
+    ("ctd/deviation_radial_over_15", hand.from_above, (-22, Range(-15)),
      "Radial deviation, {} degrees"),
     ("ctd/deviation_radial_5_15", hand.from_above, (-10, Range(-5, -15)),
      "Radial deviation, {} degrees"),
-    ("ctd/deviation_ulnar_over_15", hand.from_above, (25, Range(15)),
+    ("ctd/deviation_ulnar_over_15", hand.from_above, (22, Range(15)),
      "Ulnar deviation, {} degrees"),
     ("ctd/deviation_ulnar_5_15", hand.from_above, (10, Range(5, 15)),
      "Ulnar deviation, {} degrees"),
     ("ctd/flexion_neutral", hand.from_side, (0,), "Wrist straight"),
-    ("ctd/flexion_over_35", hand.from_side, (42, Range(35)), "Wrist flexed, {} degrees"),
+    ("ctd/flexion_over_35", hand.from_side, (45, Range(35)), "Wrist flexed, {} degrees"),
     ("ctd/flexion_5_15", hand.from_side, (10, Range(5, 15)), "Wrist flexed, {} degrees"),
-    ("ctd/extension_over_35", hand.from_side, (-42, Range(-35)), "Wrist extended, {} degrees"),
+    ("ctd/extension_over_35", hand.from_side, (-45, Range(-35)), "Wrist extended, {} degrees"),
     ("ctd/extension_5_15", hand.from_side, (-10, Range(-5, -15)), "Wrist extended, {} degrees"),
     ("ctd/shoulder_flexion_{side}_0", side_arm, (0,), "Arm hanging"),
     ("ctd/shoulder_flexion_{side}_20", side_arm, (33, Range(20)), "Arm forward, {} degrees"),
@@ -94,7 +95,7 @@ RULA = [
     ("rula/ssribbon3_2", hand.from_side, (-40, Range(-20)), "Wrist extended, {} degrees"),
     ("rula/ssribbon3_3", hand.from_side, (10, Range(0, 20)), "Wrist flexed, {} degrees"),
     ("rula/ssribbon3_4", hand.from_side, (40, Range(20)), "Wrist flexed, {} degrees"),
-    ("rula/ssribbon3_5", hand.to_either_side, (20,), "Hand bent sideways, {} degrees"),
+    ("rula/ssribbon3_5", to_either_side, (20,), "Hand bent sideways, {} degrees"),
     ("rula/ssribbon4_0", side_neck, (5, Range(0, 10)), "Neck bent, {} degrees"),
     ("rula/ssribbon4_1", side_neck, (-30, Range(0)), "Neck bent back, {} degrees"),
     ("rula/ssribbon4_2", side_neck, (16, Range(11, 20)), "Neck bent, {} degrees"),
@@ -117,7 +118,7 @@ REBA = [
     ("reba/ssribbon3_0", hand.from_side, (0,), "Wrist straight"),
     ("reba/ssribbon3_1", hand.from_side, (35, Range(15)), "Wrist flexed, {} degrees"),
     ("reba/ssribbon3_2", hand.from_side, (-35, Range(-15)), "Wrist extended, {} degrees"),
-    ("reba/ssribbon3_3", hand.to_either_side, (20, True), "Hand bent sideways or turned"),
+    ("reba/ssribbon3_3", to_either_side, (20, True), "Hand bent sideways or turned"),
     ("reba/ssribbon4_0", side_neck, (10, Range(0, 20)), "Neck bent, {} degrees"),
     ("reba/ssribbon4_1", side_neck, (-36, Range(-20)), "Neck bent back, {} degrees"),
     ("reba/ssribbon4_2", side_neck, (40, Range(20)), "Neck bent, {} degrees"),

@@ -25,10 +25,11 @@ class View:
     scale: float
     hip: tuple
     head: float = 1.0  # larger than life where a small figure has to show which way it looks
+    profile: body.Profile = body.PLAIN
 
 
 # One view a joint: its pictures share scale and ground in all tools.
-ARM_SIDE = View(0.68, (22, 40.4), head=1.2)
+ARM_SIDE = View(0.68, (22, 40.4), head=1.2, profile=body.CLEAR)
 TRUNK_SIDE = View(0.59, (19.4, 43), head=1.1)
 NECK_SIDE = View(1.24, (22, 83))
 LEGS = View(1.12, (20, -4.2))
@@ -129,7 +130,8 @@ class SideFigure:
                        torso.at(*body.THROAT), torso.at(-1, -28)])
 
     def head_paths(self):
-        return [outline(self.head, body.SIDE_HEAD), outline(self.head, body.SIDE_CAP),
+        profile = self.view.profile
+        return [outline(self.head, profile.head), outline(self.head, profile.cap),
                 self.neck_path()]
 
     def leg_paths(self):
@@ -174,10 +176,10 @@ class SideFigure:
 
     def draw_face(self, drawing, colour):
         """A line under the jaw, so that a bent head stays a head, a cap, the ear and an eye."""
-        jaw = smooth(self.head.all(body.SIDE_JAW), closed=False)
+        jaw = smooth(self.head.all(self.view.profile.jaw), closed=False)
         drawing.line(jaw, EDGE, CHIN * self.view.scale)
         if colour == FIGURE:
-            drawing.solid([outline(self.head, body.SIDE_CAP)], GUIDE, edge=0.5)
+            drawing.solid([outline(self.head, self.view.profile.cap)], GUIDE, edge=0.5)
         drawing.line(polyline(self.head.all(body.SIDE_EYE)), EDGE, 0.9)
         drawing.line(smooth(self.head.all(body.SIDE_EAR), closed=False), EDGE, 0.7)
 
@@ -268,8 +270,8 @@ class FrontArm:
         return self.upper_paths + self.lower_paths
 
 
-def front_body(drawing, view):
-    """Head, trunk and legs of the figure that faces the reader."""
+def front_body(drawing, view, facing=False):
+    """Head, trunk and legs from the front, plain or with what tells that it faces the reader."""
     s, torso = view.scale, Frame(view.hip, view.scale)
     legs = [cut(torso, [(side * x, y) for x, y in body.FRONT_LEG]) for side in (-1, 1)]
     root = Frame(torso.at(0, -31), s)
@@ -277,7 +279,11 @@ def front_body(drawing, view):
     head = front_whole(root, body.FRONT_HEAD)
     drawing.solid([*legs, *trunk, head], FIGURE)
     drawing.solid([head], FIGURE, edge=0.4)
-    drawing.raw(f'<path d="{front_whole(root, body.FRONT_CAP)}" fill="{GUIDE}"/>')
+    cap = body.PEAKED_CAP if facing else body.FRONT_CAP
+    drawing.raw(f'<path d="{front_whole(root, cap)}" fill="{GUIDE}"/>')
+    if facing:
+        drawing.line(smooth(root.all(body.PEAK_ROOT), closed=False), EDGE, 0.7)
+        drawing.line(polyline(root.all(body.COLLAR)), EDGE, 1.2)
 
 
 def front_legs(drawing, view, lifted):

@@ -23,6 +23,7 @@ from pictures.figure import (
     ground_line,
 )
 from pictures.inks import ACCENT, FIGURE, RANGE
+from pictures.limb_protractor import LimbProtractor
 from pictures.protractor import Protractor, Reach, axis_line, reference_line
 from pictures.svg import Drawing, Frame, capsule, disc, polar, polyline
 
@@ -37,8 +38,8 @@ def side_arm(title, angle, shown=None, mirrored=False):
     s = ARM_SIDE.scale
     figure = SideFigure(Pose(arm=angle, moving=ARM), ARM_SIDE)
     reach = Reach(segment=(WHOLE_ARM - 1.5) * s, sector=33.2, arc=18 * s,
-                  line=34.4, least=0.96, half=4 * s)
-    measure = Protractor(drawing, figure.shoulder, 180, -1, angle, reach, shown)
+                  line=34.4, least=0.92, half=4 * s)
+    measure = LimbProtractor(drawing, figure.shoulder, 180, -1, angle, reach, shown)
     measure.draw_range()
     figure.draw_upper(drawing, measure.draw_lines)
     measure.draw_axis()
@@ -51,7 +52,10 @@ def side_elbow(title, elbow, shown=None, neutral=0, mirrored=False):
     figure, s = ArmAlone(elbow), ArmAlone.SCALE
     reach = Reach(segment=(body.FOREARM + body.HAND - 1) * s, sector=41, arc=11 * s, line=31,
                   least=0.75, half=3.7 * s)
-    measure = Protractor(drawing, figure.arm.elbow, 180, -1, elbow, reach, shown)
+    # A forearm that sinks comes near its reference, so that an arrow has to lead it there.
+    sinks = shown is not None and shown.far is None and elbow < shown.near
+    kind = LimbProtractor if sinks else Protractor
+    measure = kind(drawing, figure.arm.elbow, 180, -1, elbow, reach, shown)
     measure.draw_range()
     figure.draw(drawing, measure.draw_lines)
     measure.draw_axis()
@@ -96,11 +100,11 @@ def front_arm(title, angle, shown=None, mirrored=False):
     drawing = Drawing(title.format(angle), mirrored=mirrored)
     s = ARM_FRONT.scale
     arm = FrontArm(ARM_FRONT, -1, angle)
-    reach = Reach(segment=(WHOLE_ARM - 1.5) * s, sector=34, arc=18 * s,
+    reach = Reach(segment=(WHOLE_ARM - 1.5) * s, sector=33.2, arc=18 * s,
                   line=35.4, half=4 * s)
-    measure = Protractor(drawing, arm.shoulder, 180, 1, angle, reach, shown)
+    measure = LimbProtractor(drawing, arm.shoulder, 180, 1, angle, reach, shown)
     measure.draw_range()
-    front_body(drawing, ARM_FRONT)
+    front_body(drawing, ARM_FRONT, facing=True)
     drawing.solid(FrontArm(ARM_FRONT, 1, 3).paths(), FIGURE)
     measure.draw_lines()
     drawing.solid(arm.paths(), ACCENT)
@@ -189,7 +193,7 @@ def part_arms_sideways(title):
     arm = FrontArm(view, -1, 12)
 
     def draw():
-        front_body(drawing, view)
+        front_body(drawing, view, facing=True)
         drawing.solid(FrontArm(view, 1, 6).paths(), FIGURE)
         drawing.solid(arm.paths(), ACCENT)
 
@@ -219,5 +223,5 @@ def part_neck_and_back(title):
         drawing.solid([capsule(torso.at(-half, y), 1, torso.at(half, y), 1)
                        for y, half in body.VERTEBRAE], ACCENT, edge=0.7)
 
-    _ring(drawing, torso.at(0, -19.6), 14.8, draw)
+    _ring(drawing, torso.at(0, -19.3), 14.2, draw)
     return drawing

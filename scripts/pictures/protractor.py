@@ -23,7 +23,6 @@ HEAD = [(0, -2.6), (2.5, 1.8), (-2.5, 1.8)]  # of the arrow at an open end
 BESIDE = 3.5  # from an arc beyond the segment to the rim of the sector
 INNER = 0.3  # share of it where the limits of a limb's sector begin
 NEARLY = 0.01  # pixels
-SIDE = 1.6  # what stays free at the picture's edge
 
 
 @dataclass(frozen=True)
@@ -67,6 +66,8 @@ class Protractor:
     grows clockwise and -1 where it grows the other way.
     """
 
+    SIDE = 1.6  # what stays free at the picture's edge
+
     def __init__(self, drawing, joint, zero, sense, angle, reach, shown=None):
         self.drawing, self.joint, self.reach = drawing, joint, reach
         self.zero, self.sense, self.angle, self.range = zero, sense, angle, shown
@@ -77,12 +78,15 @@ class Protractor:
         asked = self.reach.sector
         if self.range is None:
             return asked
+        least = max(self.reach.least * asked, 0 if self.reach.half else self.reach.arc + BESIDE)
+        return max(least, min(asked, self._asked_room()))
+
+    def _asked_room(self):
+        """How far the rim can reach along its whole way."""
         last = self.range.far
         if last is None:
             last = self.angle + OPEN / 2 * self._open_end()[1]
-        room = min(self._room(angle) for angle in self._angles(self.range.near, last))
-        least = max(self.reach.least * asked, 0 if self.reach.half else self.reach.arc + BESIDE)
-        return max(least, min(asked, room))
+        return min(self._room(angle) for angle in self._angles(self.range.near, last))
 
     def direction(self, angle):
         return self.zero + self.sense * angle
@@ -93,7 +97,7 @@ class Protractor:
     def _room(self, angle):
         """How far a line from the joint can go before it leaves the picture."""
         way = polar((0, 0), 1, self.direction(angle))
-        rooms = [((PIXELS - SIDE if along > 0 else SIDE) - start) / along
+        rooms = [((PIXELS - self.SIDE if along > 0 else self.SIDE) - start) / along
                  for start, along in zip(self.joint, way) if abs(along) > 1e-6]
         return min(rooms)
 
@@ -155,6 +159,10 @@ class Protractor:
         head = Frame(self.at(self.radius, track[-1]), 1, turn).all(HEAD)
         self.drawing.raw(f'<path id="open" d="{polygon(head)}" fill="{GUIDE}"/>')
 
+    def _draw_open_end_behind(self):
+        """The rim of an open sector, where it lies under the segment."""
+        self._draw_rim()
+
     def draw_lines(self):
         """Reference, limits and arc, which lie under the moving segment."""
         reach = self.reach
@@ -164,7 +172,7 @@ class Protractor:
             if self.range.far is not None:
                 self._draw_limit("far", self.range.far)
             else:
-                self._draw_rim()
+                self._draw_open_end_behind()
         if self.angle:
             path = arc(self.joint, reach.arc, self.direction(0), self.direction(self.angle))
             self.drawing.raw(f'<path d="{path}" fill="none" stroke="{EDGE}" stroke-width="3"/>')

@@ -9,6 +9,7 @@ import math
 from pictures.inks import ACCENT, EDGE
 
 EDGE_WIDTH = 0.9
+ARROW_HEAD = [(0, -3.2), (3, 2), (-3, 2)]
 
 PIXELS = 56  # width and height of a posture picture
 
@@ -196,13 +197,12 @@ class Drawing:
                 f'stroke-linejoin="round"/>'
             )
 
-    def arrow(self, path, *heads):
+    def arrow(self, path, *tips, head=ARROW_HEAD, width=1.7):
         """A line with a head at each (tip, degrees from straight up that it points to)."""
-        corners = [(0, -3.2), (3, 2), (-3, 2)]
-        shapes = "".join(polygon(Frame(tip, 1, degrees).all(corners)) for tip, degrees in heads)
+        shapes = "".join(polygon(Frame(tip, 1, degrees).all(head)) for tip, degrees in tips)
         self.raw(f'<path d="{shapes}" fill="{EDGE}" stroke="{EDGE}" stroke-width="1.4" '
                  f'stroke-linejoin="round"/>')
-        self.line(path, ACCENT, 1.7, edge=0.7)
+        self.line(path, ACCENT, width, edge=0.7)
         self.raw(f'<path d="{shapes}" fill="{ACCENT}"/>')
 
     def contents(self):

@@ -35,6 +35,11 @@ QStringList PosturePictures() {
   return names;
 }
 
+QStringList CompiledPictures() {
+  return PosturePictures() << "main_window/file"
+                           << "main_window/help";
+}
+
 QString TitleOf(const QString& asset) {
   const QString text = QString::fromUtf8(ContentOf(SourceFile("assets/" + asset + ".svg")));
   return text.section("<title>", 1).section("</title>", 0, 0);

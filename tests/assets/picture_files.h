@@ -18,6 +18,9 @@ QStringList FilesBelow(const QString& folder, const QString& suffix);
 /// The asset names, without suffix, of the pictures on ribbons.
 QStringList PosturePictures();
 
+/// Those, and signs that stand on buttons as they do.
+QStringList CompiledPictures();
+
 /// The content of the document's title element.
 QString TitleOf(const QString& asset);
 

@@ -25,7 +25,7 @@ SPAN = 0.85  # share of the moving segment that its axis runs through
 # reference of a knee is its own thigh.
 JOINTS = {
     "arm": (180, -1), "arm out": (180, 1), "elbow": (180, -1), "trunk": (0, 1), "neck": (0, 1),
-    "wrist": (90, 1), "deviation": (0, 1), "knee": (None, 1),
+    "wrist": (90, 1), "deviation": (0, 1), "either side": (0, 1), "knee": (None, 1),
 }
 
 # Picture, joint, least and most of its caption in degrees; None where the caption has no end. An
@@ -104,10 +104,10 @@ PLAIN = [
     ("ctd/back_0", "trunk", 0),
     ("ctd/neck_0", "neck", 0),
     ("rula/ssribbon3_0", "wrist", 0),
-    ("rula/ssribbon3_5", "deviation", None),
+    ("rula/ssribbon3_5", "either side", None),
     ("rula/ssribbon5_0", "trunk", 0),
     ("reba/ssribbon3_0", "wrist", 0),
-    ("reba/ssribbon3_3", "deviation", None),
+    ("reba/ssribbon3_3", "either side", None),
     ("reba/ssribbon5_0", "trunk", 0),
 ]
 # Where one caption "greater than" ends because the next begins.

@@ -17,6 +17,7 @@
 
 #include "widgets/contrast.h"
 #include "widgets/picture_inks.h"
+#include "widgets/posture_picture.h"
 #include "widgets/ribbon_button.h"
 
 namespace halvane {
@@ -208,7 +209,10 @@ Findings CheckPictures(QWidget& window) {
   constexpr int kLeastBorder = 8;
   Findings findings;
   for (auto* button : window.findChildren<RibbonButton*>()) {
-    if (!button->isVisible() || !button->isEnabled() || button->icon().isNull()) continue;
+    if (!button->isVisible() || !button->isEnabled() || button->Picture().isEmpty()) continue;
+    if (PosturePicture(button->Picture(), Qt::white, RibbonButton::kLeastPicture).isNull()) {
+      findings.push_back({NameOfControl(*button), "has a picture that is not there"});
+    }
     const QImage picture = PictureOf(*button);
     const QColor ground = GroundOf(picture);
     for (const auto& [colors, length] : BordersOf(picture, PartsOf(picture))) {

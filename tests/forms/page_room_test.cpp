@@ -32,7 +32,7 @@ class PageRoom : public EveryWindow {
   static std::vector<RibbonButton*> PictureRibbons(const QWidget& form) {
     std::vector<RibbonButton*> shown;
     for (auto* ribbon : form.findChildren<RibbonButton*>()) {
-      if (ribbon->isVisible() && !ribbon->icon().isNull()) shown.push_back(ribbon);
+      if (ribbon->isVisible() && !ribbon->Picture().isEmpty()) shown.push_back(ribbon);
     }
     return shown;
   }

@@ -10,6 +10,7 @@
 #include "shell/frm_hand_main.h"
 #include "tests/support/form_support.h"
 #include "widgets/gradient_panel.h"
+#include "widgets/picture_inks.h"
 
 namespace halvane {
 namespace {
@@ -214,6 +215,18 @@ TEST_F(MainWindowShape, ButtonsStandInTheirOrder) {
   EXPECT_GT(place("SSRibbon1(0)").top(), above);
   EXPECT_EQ(place("SSRibbon1(0)").top(), place("SSRibbon1(1)").top());
   EXPECT_LT(place("SSRibbon1(0)").right(), place("SSRibbon1(1)").left());
+}
+
+TEST_F(MainWindowShape, FileAndHelpHaveTheirSigns) {
+  const auto window = IdleMainWindow();
+  for (const char* name : {"SSRibbon1(0)", "SSRibbon1(1)"}) {
+    const QImage image = Find<QWidget>(*window, name).grab().toImage();
+    int pixels = 0;
+    for (int y = 0; y < image.height(); ++y) {
+      for (int x = 0; x < image.width(); ++x) pixels += image.pixelColor(x, y) == QColor(kSignInk);
+    }
+    EXPECT_GT(pixels, 10) << name;
+  }
 }
 
 TEST_F(MainWindowShape, LargeFontsAreNotClipped) {

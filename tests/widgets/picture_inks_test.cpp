@@ -6,11 +6,14 @@
 #include <QMap>
 #include <QPixmapCache>
 #include <QSet>
+#include <QStringList>
 #include <array>
+#include <string>
 #include <vector>
 
 #include "tests/support/palettes.h"
 #include "widgets/contrast.h"
+#include "widgets/posture_picture.h"
 #include "widgets/ribbon_button.h"
 
 namespace halvane {
@@ -58,22 +61,24 @@ TEST(PictureInks, ThoseThatTouchStandOutFromEachOther) {
 }
 
 TEST(PictureInks, AreChosenByTheGround) {
-  const QByteArray drawn = "#797d85 #082a84 #14171c #b9cdf5 #e3e6ea #ffffff #3a72ee";
-  for (const char* ground : kLightGrounds) {
-    EXPECT_EQ(InkedDrawing(drawn, QColor(ground)),
-              "#797d85 #082a84 #14171c #b9cdf5 #e3e6ea " + QByteArray(ground) + " #3a72ee");
-  }
-  for (const char* ground : kDarkGrounds) {
-    EXPECT_EQ(InkedDrawing(drawn, QColor(ground)),
-              "#757a83 #cae0ff #ffffff #36599b #565c66 " + QByteArray(ground) + " #3a72ee");
-  }
+  const auto names = [](const char* ground) {
+    QStringList colors;
+    for (const QColor& color : ColorsOn(QColor(ground))) colors << color.name();
+    return colors.join(' ').toStdString();
+  };
+  for (const char* ground : kLightGrounds)
+    EXPECT_EQ(names(ground),
+              std::string(ground) + " #797d85 #082a84 #14171c #b9cdf5 #e3e6ea #3a72ee");
+  for (const char* ground : kDarkGrounds)
+    EXPECT_EQ(names(ground),
+              std::string(ground) + " #757a83 #cae0ff #ffffff #36599b #565c66 #3a72ee");
 }
 
 TEST(PictureInks, APictureIsDrawnInThem) {
   for (const char* ground : {"#efefef", "#2d2d30"}) {
     const bool dark = QColor(ground) == QColor("#2d2d30");
     const QMap<QString, QColor> inks = InksOn(QColor(ground), dark);
-    const QImage image = InkedPicture("ctd/back_0", QColor(ground), 112).toImage();
+    const QImage image = PosturePicture("ctd/back_0", QColor(ground), 112).toImage();
     ASSERT_EQ(image.size(), QSize(112, 112));
     QMap<QRgb, int> found;
     for (int y = 0; y < 112; ++y) {
@@ -86,17 +91,17 @@ TEST(PictureInks, APictureIsDrawnInThem) {
 }
 
 TEST(PictureInks, APictureThatIsNotThereIsNone) {
-  EXPECT_TRUE(InkedPicture("ctd/no_such_picture", Qt::white, 56).isNull());
+  EXPECT_TRUE(PosturePicture("ctd/no_such_picture", Qt::white, 56).isNull());
 }
 
 TEST(PictureInks, APictureIsDrawnOnce) {
-  const qint64 drawn = InkedPicture("ctd/back_0", Qt::white, 56).cacheKey();
+  const qint64 drawn = PosturePicture("ctd/back_0", Qt::white, 56).cacheKey();
   // What the toolkit's own cache does by itself after a while.
   QPixmapCache::clear();
-  EXPECT_EQ(InkedPicture("ctd/back_0", Qt::white, 56).cacheKey(), drawn);
-  EXPECT_NE(InkedPicture("ctd/back_0", Qt::white, 64).cacheKey(), drawn);
-  EXPECT_NE(InkedPicture("ctd/back_0", Qt::black, 56).cacheKey(), drawn);
-  EXPECT_NE(InkedPicture("ctd/neck_45", Qt::white, 56).cacheKey(), drawn);
+  EXPECT_EQ(PosturePicture("ctd/back_0", Qt::white, 56).cacheKey(), drawn);
+  EXPECT_NE(PosturePicture("ctd/back_0", Qt::white, 64).cacheKey(), drawn);
+  EXPECT_NE(PosturePicture("ctd/back_0", Qt::black, 56).cacheKey(), drawn);
+  EXPECT_NE(PosturePicture("ctd/neck_45", Qt::white, 56).cacheKey(), drawn);
 }
 
 TEST(PictureInks, AButtonTakesThoseOfItsOwnGround) {

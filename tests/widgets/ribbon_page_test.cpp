@@ -7,10 +7,12 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPainter>
+#include <QTest>
 #include <algorithm>
+#include <set>
 
 #include "widgets/choice_group.h"
-#include "widgets/picture_inks.h"
+#include "widgets/posture_picture.h"
 #include "widgets/ribbon_button.h"
 
 namespace halvane {
@@ -116,6 +118,76 @@ TEST_F(Ribbons, GetSmallerWhenSomethingElseNeedsTheRoom) {
   EXPECT_GE(Picture(), 56);
 }
 
+/// A ribbon that notes with which sizes of its picture it was measured.
+class MeasuredRibbon : public RibbonButton {
+ public:
+  explicit MeasuredRibbon(QWidget& parent) : RibbonButton("a", "a", &parent) {
+    SetPicture("ctd/deviation_neutral");
+  }
+  [[nodiscard]] QSize minimumSizeHint() const override {
+    pictures.insert(iconSize().width());
+    return RibbonButton::minimumSizeHint();
+  }
+  mutable std::set<int> pictures{};
+};
+
+TEST_F(Ribbons, AreNotMeasuredWithOtherPicturesWhenAPageIsShownAgain) {
+  auto& ribbon = *new MeasuredRibbon(page);
+  page.layout()->addWidget(&ribbon);
+  ribbon.show();
+  Resize({1000, 800});
+  EXPECT_GT(ribbon.pictures.size(), 1U);
+  ASSERT_EQ(Picture(), 112);
+  const QSize least = page.minimumSizeHint();
+  for (int turn = 0; turn < 2; ++turn) {
+    ribbon.pictures.clear();
+    page.hide();
+    EXPECT_EQ(page.minimumSizeHint(), least);
+    page.show();
+    QCoreApplication::sendPostedEvents();
+    EXPECT_EQ(Picture(), 112);
+  }
+  ribbon.pictures.erase(112);
+  EXPECT_EQ(ribbon.pictures, std::set<int>{});
+}
+
+TEST_F(Ribbons, FitAPageThatHasChangedWhileItWasHidden) {
+  Resize(page.minimumSizeHint() + QSize(300, 60));
+  const int before = Picture();
+  ASSERT_GT(before, 56);
+  const QSize least = page.minimumSizeHint();
+  page.hide();
+  auto* more = new QWidget(&page);
+  more->setFixedHeight(40);
+  page.layout()->addWidget(more);
+  EXPECT_GE(page.minimumSizeHint().height(), least.height() + 40);
+  page.show();
+  QCoreApplication::sendPostedEvents();
+  EXPECT_LT(Picture(), before);
+}
+
+TEST_F(Ribbons, ThatAreHiddenHaveTheirPicturesDrawnBeforeTheyAreShown) {
+  ribbons[1]->SetPicture("ctd/neck_60");
+  ribbons[1]->hide();
+  const QColor ground = ribbons[1]->palette().color(QPalette::Button);
+  const auto isDrawn = [&] { return IsPostureDrawn("ctd/neck_60", ground, 112); };
+  Resize({1000, 800});
+  ASSERT_FALSE(isDrawn());
+  EXPECT_TRUE(QTest::qWaitFor(isDrawn));
+  EXPECT_FALSE(IsPostureDrawn("ctd/neck_60", ground, 56));
+  EXPECT_FALSE(ribbons[1]->DrawAhead());
+}
+
+TEST_F(Ribbons, OfAPageThatIsClosedAreNotDrawn) {
+  ribbons[1]->SetPicture("ctd/neck_45");
+  ribbons[1]->hide();
+  const QColor ground = ribbons[1]->palette().color(QPalette::Button);
+  Resize({1000, 800});
+  window.hide();
+  QTest::qWait(100);
+  EXPECT_FALSE(IsPostureDrawn("ctd/neck_45", ground, 112));
+}
+
 TEST_F(Ribbons, PageKnowsTheFont) {
   const QSize least = page.minimumSizeHint();
   QFont large = page.font();
@@ -193,7 +265,7 @@ TEST_F(Ribbons, PictureIsDrawnInTheSizeThatItHas) {
   QImage expected(112, 112, QImage::Format_RGB32);
   expected.fill(drawn.pixelColor(3, 3));
   QPainter painter(&expected);
-  painter.drawPixmap(0, 0, InkedPicture("ctd/deviation_neutral", drawn.pixelColor(3, 3), 112));
+  painter.drawPixmap(0, 0, PosturePicture("ctd/deviation_neutral", drawn.pixelColor(3, 3), 112));
   // Pixel for pixel, so it is not a small picture that was stretched.
   EXPECT_EQ(drawn.copy(QRect(corner, QSize(112, 112))).convertToFormat(QImage::Format_RGB32),
             expected);

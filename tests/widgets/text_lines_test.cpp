@@ -6,8 +6,6 @@
 #include <QFontMetrics>
 #include <QWidget>
 
-#include "widgets/late_icon.h"
-
 namespace halvane {
 namespace {
 
@@ -36,17 +34,6 @@ TEST(TextLines, TheWidthForSomeLinesIsTheLeastInWhichTheyAreEnough) {
         }
       }
     }
-  }
-}
-
-TEST(LateIcons, ShowTheirFile) {
-  const QString file = ":/assets/ctd/task.svg";
-  const QIcon late = LateIcon(file);
-  EXPECT_FALSE(late.isNull());
-  for (const int size : {16, 56}) {
-    const QImage picture = late.pixmap(size, size).toImage();
-    ASSERT_EQ(picture.size(), QSize(size, size));
-    EXPECT_EQ(picture, QIcon(file).pixmap(size, size).toImage());
   }
 }
 
