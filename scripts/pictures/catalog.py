@@ -67,7 +67,7 @@ CTD = [
     ("ctd/neck_0", side_neck, (0,), "Neck upright"),
     ("ctd/neck_30", side_neck, (38, Range(30)), "Neck bent, {} degrees"),
     ("ctd/neck_45", side_neck, (53, Range(45)), "Neck bent, {} degrees"),
-    ("ctd/neck_60", side_neck, (66, Range(60)), "Neck bent, {} degrees"),
+    ("ctd/neck_60", side_neck, (67, Range(60)), "Neck bent, {} degrees"),
     ("ctd/part_shoulder_flexion", part_arm_forward, (), "Shoulder flexion and extension"),
     ("ctd/part_shoulder_abduction", part_arms_sideways, (), "Shoulder abduction"),
     ("ctd/part_elbow", part_elbow, (), "Elbow flexion and extension"),

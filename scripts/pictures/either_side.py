@@ -1,9 +1,9 @@
 """The right hand bent to either side, and maybe turned: ways that have no limits."""
 
 from pictures.hand import forearm_up, hand_above
-from pictures.inks import GUIDE, RANGE
+from pictures.inks import GUIDE
 from pictures.protractor import DASH, Protractor, Reach
-from pictures.svg import Drawing, Frame, arc, polar, sector, smooth
+from pictures.svg import Drawing, Frame, arc, polar, smooth
 
 WRIST, SCALE = (28, 45), 0.83
 REACH = Reach(segment=23, sector=42.4, arc=26.6, line=44, marked=False)
@@ -18,8 +18,6 @@ def to_either_side(title, angle, twisted=False):
     drawing = Drawing(title.format(abs(angle)))
     end = angle + BEYOND
     tips = [(polar(WRIST, BOTH_WAYS, side * end), side * (86 + end)) for side in (-1, 1)]
-    path = sector(WRIST, BOTH_WAYS, -end, end)
-    drawing.raw(f'<path d="{path}" fill="{RANGE}"/>')
     if twisted:
         _turn(drawing)
     else:

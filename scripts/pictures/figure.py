@@ -30,7 +30,7 @@ class View:
 
 # One view a joint: its pictures share scale and ground in all tools.
 ARM_SIDE = View(0.68, (22, 40.4), head=1.2, profile=body.CLEAR)
-TRUNK_SIDE = View(0.59, (19.4, 43), head=1.1)
+TRUNK_SIDE = View(0.65, (19.4, 44.6), head=1.06, profile=body.CLEAR)
 NECK_SIDE = View(1.24, (22, 83))
 LEGS = View(1.12, (20, -4.2))
 LEGS_FRONT = View(0.82, (28, 10.6))
@@ -61,7 +61,13 @@ def outline(frame, corners):
 
 def below(frame, corners):
     """An outline whose part above the picture is cut off."""
-    return smooth([(x, max(y, UPPER)) for x, y in frame.all(corners)], tension=8)
+    points, kept = frame.all(corners), []
+    for (x, y), (next_x, next_y) in zip(points, points[1:] + points[:1]):
+        if y >= UPPER:
+            kept.append((x, y))
+        if (y < UPPER) != (next_y < UPPER):
+            kept.append((x + (next_x - x) * (UPPER - y) / (next_y - y), UPPER))
+    return smooth(kept, tension=8)
 
 
 def cut(frame, corners, lower=LOWER):
@@ -175,11 +181,12 @@ class SideFigure:
         drawing.solid([*self.leg_paths(), *self.pelvis_paths()], FIGURE)
 
     def draw_face(self, drawing, colour):
-        """A line under the jaw, so that a bent head stays a head, a cap, the ear and an eye."""
+        """A line under the jaw, so that a bent head stays a head, cap and hair, the ear and an eye."""
         jaw = smooth(self.head.all(self.view.profile.jaw), closed=False)
         drawing.line(jaw, EDGE, CHIN * self.view.scale)
         if colour == FIGURE:
-            drawing.solid([outline(self.head, self.view.profile.cap)], GUIDE, edge=0.5)
+            drawing.solid([outline(self.head, self.view.profile.cap),
+                           outline(self.head, body.SIDE_HAIR)], GUIDE, edge=0.5)
         drawing.line(polyline(self.head.all(body.SIDE_EYE)), EDGE, 0.9)
         drawing.line(smooth(self.head.all(body.SIDE_EAR), closed=False), EDGE, 0.7)
 

@@ -148,9 +148,9 @@ def chuck_pinch(title):
             ([(41, 24), (42.4, 14), (41.4, 8), (39, 4.2)], [2.8, 2.5, 2.2, 1.7]),
             ([(37, 22), (35.4, 11.6), (31.6, 6), (27, 3.6)], [3.2, 2.8, 2.4, 1.9])):
         _soft(drawing, joints, radii, FIGURE)
-    _soft(drawing, [(30.4, 20), (16, 8), (6, 13.4), (4.8, 26.4)], PINCHING_FINGER)
-    _object(drawing, [disc((10, 35.5), 7)])
-    _soft(drawing, [(33, 26.4), (23.4, 17.6), (15.4, 20.6), (14.2, 28)], PINCHING_FINGER)
+    _soft(drawing, [(30.4, 19), (15, 5.4), (4.6, 11), (3.6, 27.4)], PINCHING_FINGER)
+    _object(drawing, [disc((10, 36.4), 7.6)])
+    _soft(drawing, [(34.4, 27), (25.6, 19.8), (17.8, 22.6), (16, 30.4)], PINCHING_FINGER)
     _back(drawing)
-    _soft(drawing, [(44.6, 37), (34, 46.4), (22.6, 48.6), (12, 45)], PINCHING_THUMB)
+    _soft(drawing, [(44.6, 37), (34, 47), (22.6, 50), (12, 46.4)], PINCHING_THUMB)
     return drawing

@@ -4,6 +4,8 @@ Each hand has its own frame with the wrist as origin and the fingers pointing up
 from above, the thumb of the right hand is on the left.
 """
 
+import math
+
 from pictures.inks import ACCENT, EDGE, FIGURE, GUIDE, RANGE
 from pictures.limb_protractor import LimbProtractor
 from pictures.protractor import DASH, Reach
@@ -110,16 +112,21 @@ FINGERS_SIDE = [
 ]
 THUMB_SIDE = ([(3.4, 3), (8.6, 6.8), (13.4, 8.6), (17.8, 8.6)], [2.9, 2.4, 2.1, 1.7])
 SIDE_WRIST = (9, 28.2)
+STRONGLY = 20  # degrees from which on a bent hand needs more room on its side
+MORE_ROOM = 10
 
 
 def from_side(title, angle, shown=None):
     """The palm-down hand bent at the wrist by `angle`: flexion positive, extension negative."""
     drawing = Drawing(title.format(abs(angle)))
-    wrist = SIDE_WRIST
-    frame = Frame(wrist, 0.78, angle)
-    x, y = wrist
+    x, y = SIDE_WRIST
     # The arc lies within the hand where it would fill the sector beyond a strongly bent one.
-    arc_at, half = (27.4, 0) if abs(angle) < 20 else (17, 3.2)
+    arc_at, half = 27.4, 0
+    if abs(angle) > STRONGLY:
+        y -= math.copysign(MORE_ROOM, angle)
+        arc_at, half = 17, 3.2
+    wrist = x, y
+    frame = Frame(wrist, 0.78, angle)
     reach = Reach(segment=23.2, sector=45.4, arc=arc_at, line=46.4, marked=False, least=0.72,
                   half=half)
     measure = LimbProtractor(drawing, wrist, 90, 1, angle, reach, shown)

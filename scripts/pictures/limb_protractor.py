@@ -1,19 +1,18 @@
 """How a picture tells the angle of a limb beside its own limit: an arrow leads away from that."""
 
 from pictures.inks import EDGE, GUIDE
-from pictures.protractor import HALO, LIMIT, STEP, Protractor
-from pictures.svg import PIXELS, Frame, number, polygon, polyline
+from pictures.protractor import HALO, LIMIT, SHORTEST, STEP, Protractor
+from pictures.svg import number, polygon, polyline
 
 ONWARD = 14.0  # degrees from the limb to the arrow's head
 SHAFT = 2.0  # width of the arrow from the limb to its head
-HEAD = [(0, -3.9), (3.5, 1.6), (-3.5, 1.6)]
-MARGIN = 0.5  # what stays free beside the head at the picture's edge
 
 
 class LimbProtractor(Protractor):
     """Measures a limb: on an open rim a thick arrow goes from it, and before it, onward."""
 
     SIDE = 1.2
+    HEAD = [(0, -3.9), (3.5, 1.6), (-3.5, 1.6)]
 
     def _asked_room(self):
         """Room for the rim, and for the head of the arrow where it has one."""
@@ -21,20 +20,13 @@ class LimbProtractor(Protractor):
             return super()._asked_room()
         last = self.angle + ONWARD * self._open_end()[1]
         room = min(self._room(angle) for angle in self._angles(self.range.near, last))
-        return min(room, self._room(last) - HEAD[1][0])
-
-    def _head(self, angle, away):
-        """The arrow's head on the rim."""
-        turn = self.direction(angle) + 90 * self.sense * away
-        return Frame(self.at(self.radius, angle), 1, turn).all(HEAD)
+        return min(room, self._room(last) - self.HEAD[1][0])
 
     def _draw_rim(self):
         """From the limit of an open sector to an arrow, as far as there is room."""
         away = self._open_end()[1]
         track = self._angles(self.range.near, self.angle + away * ONWARD)
-        while len(track) > 3 and not all(
-                MARGIN <= place <= PIXELS - MARGIN
-                for corner in self._head(track[-1], away) for place in corner):
+        while len(track) > SHORTEST and not self._is_inside(self._head(track[-1], away)):
             track.pop()
         onward = [angle for angle in track if away * (angle - self.angle) > -STEP]
         path, shaft = (polyline([self.at(self.radius, angle) for angle in angles])

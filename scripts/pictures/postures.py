@@ -30,6 +30,9 @@ from pictures.svg import Drawing, Frame, capsule, disc, polar, polyline
 ARM = frozenset({"upper_arm", "forearm"})
 WHOLE_ARM = body.UPPER_ARM + body.FOREARM + body.HAND
 
+LEANING_BACK = 37.0  # how far right a joint stands that leans back
+BENT_FAR = 9.5  # how much further left one that is bent by more than half a right angle
+
 
 def side_arm(title, angle, shown=None, mirrored=False):
     """The whole arm raised by `angle` in front of the body or behind it."""
@@ -67,14 +70,26 @@ def _reach_down(bottom, joint, degrees):
     return (bottom - joint[1]) / math.cos(math.radians(degrees))
 
 
+def _moved(view, hip):
+    """The view with its hip `hip` pixels from the left."""
+    return replace(view, hip=(hip, view.hip[1]))
+
+
+def _with_room(view, angle):
+    """The view, moved away from where something leans, so that its range stands beside it."""
+    if angle < 0:
+        return _moved(view, LEANING_BACK)
+    return _moved(view, view.hip[0] - BENT_FAR) if angle > 45 else view
+
+
 def side_trunk(title, angle, shown=None):
     """The trunk leaning by `angle` over standing legs; the arms hang plumb."""
     drawing = Drawing(title.format(abs(angle)))
     s = TRUNK_SIDE.scale
     # Plumb, or behind the trunk where only a bit of a hand would be seen.
     arm = -0.6 * angle if abs(angle) <= 16 else 0
-    figure = SideFigure(Pose(trunk=angle, neck=-angle / 4, arm=arm), TRUNK_SIDE)
-    reach = Reach(segment=30 * s, sector=41, arc=24 * s, line=41.8, least=0.9, half=6.6 * s)
+    figure = SideFigure(Pose(trunk=angle, neck=-angle / 4, arm=arm), _with_room(TRUNK_SIDE, angle))
+    reach = Reach(segment=30 * s, sector=43, arc=24 * s, line=43.6, least=0.9, half=6.6 * s)
     measure = Protractor(drawing, figure.hip, 0, 1, angle, reach, shown)
     measure.draw_range()
     figure.draw_trunk(drawing, measure.draw_lines)
@@ -86,7 +101,7 @@ def side_neck(title, angle, shown=None):
     """Head and neck bent by `angle` on an upright trunk."""
     drawing = Drawing(title.format(abs(angle)))
     s = NECK_SIDE.scale
-    figure = SideFigure(Pose(neck=angle), NECK_SIDE)
+    figure = SideFigure(Pose(neck=angle), _with_room(NECK_SIDE, angle))
     reach = Reach(segment=18.8 * s, sector=41, arc=27.4, line=43.4)
     measure = Protractor(drawing, figure.neck, 0, 1, angle, reach, shown)
     measure.draw_range()
@@ -138,7 +153,8 @@ def side_knees(title, bend, shown):
     sector = min(27, _reach_down(ground - 0.7, figure.knee, max(0, shown.near - bend / 2)))
     reach = Reach(segment=(body.SHANK + body.SOLE / 2) * s, sector=sector, arc=12, line=22,
                   least=1, half=2.3 * s)
-    measure = Protractor(drawing, figure.knee, 180 - bend / 2, 1, bend, reach, shown)
+    kind = Protractor if shown.far is not None else LimbProtractor
+    measure = kind(drawing, figure.knee, 180 - bend / 2, 1, bend, reach, shown)
 
     def guides():
         measure.draw_range()
@@ -173,15 +189,10 @@ def _ring(drawing, centre, radius, draw):
     drawing.line(path, ACCENT, 1.6, edge=0.7)
 
 
-def _in_the_middle(view, hip):
-    """The view of a figure that nothing is measured beside; `hip` is how far right its hip is."""
-    return replace(view, hip=(hip, view.hip[1]))
-
-
 def part_arm_forward(title):
     """Selector: the shoulder from the side."""
     drawing = Drawing(title)
-    figure = SideFigure(Pose(arm=4, elbow=10, moving=ARM), _in_the_middle(ARM_SIDE, 25))
+    figure = SideFigure(Pose(arm=4, elbow=10, moving=ARM), _moved(ARM_SIDE, 25))
     _ring(drawing, figure.shoulder, 9.4, lambda: figure.draw_upper(drawing))
     return drawing
 
@@ -189,7 +200,7 @@ def part_arm_forward(title):
 def part_arms_sideways(title):
     """Selector: the shoulder from the front."""
     drawing = Drawing(title)
-    view = _in_the_middle(ARM_FRONT, 31)
+    view = _moved(ARM_FRONT, 31)
     arm = FrontArm(view, -1, 12)
 
     def draw():

@@ -19,7 +19,8 @@ FADING = [(5.0, 0.7), (5.0, 0.45), (5.0, 0.2)]  # degrees and opacity of what fo
 LIMIT = 1.3  # width of what has to be seen at button size
 HALO = 0.7  # what parts it from the figure
 STEP = 3.0  # degrees between the corners of a sector's rim
-HEAD = [(0, -2.6), (2.5, 1.8), (-2.5, 1.8)]  # of the arrow at an open end
+SHORTEST = 3  # corners that the rim of an open sector has at least
+MARGIN = 0.5  # what stays free beside its arrow at the picture's edge
 BESIDE = 3.5  # from an arc beyond the segment to the rim of the sector
 INNER = 0.3  # share of it where the limits of a limb's sector begin
 NEARLY = 0.01  # pixels
@@ -67,6 +68,7 @@ class Protractor:
     """
 
     SIDE = 1.6  # what stays free at the picture's edge
+    HEAD = [(0, -2.6), (2.5, 1.8), (-2.5, 1.8)]  # of the arrow at an open end
 
     def __init__(self, drawing, joint, zero, sense, angle, reach, shown=None):
         self.drawing, self.joint, self.reach = drawing, joint, reach
@@ -143,6 +145,15 @@ class Protractor:
         self.drawing.raw(f'<path id="{name}" d="{path}" fill="none" stroke="{GUIDE}" '
                          f'stroke-width="{LIMIT}"/>')
 
+    def _head(self, angle, away):
+        """The arrow's head on the rim."""
+        turn = self.direction(angle) + 90 * self.sense * away
+        return Frame(self.at(self.radius, angle), 1, turn).all(self.HEAD)
+
+    @staticmethod
+    def _is_inside(corners):
+        return all(MARGIN <= place <= PIXELS - MARGIN for corner in corners for place in corner)
+
     def _draw_rim(self):
         """From the limit of an open sector to an arrow, as far as there is room."""
         end, away = self._open_end()
@@ -152,12 +163,13 @@ class Protractor:
             if radius < self.radius - NEARLY:
                 break
             track.append(angle)
+        while len(track) > SHORTEST and not self._is_inside(self._head(track[-1], away)):
+            track.pop()
         path = polyline([self.at(self.radius, angle) for angle in track])
         self.drawing.raw(f'<path id="rim" d="{path}" fill="none" stroke="{GUIDE}" '
                          f'stroke-width="{LIMIT}"/>')
-        turn = self.direction(track[-1]) + 90 * self.sense * away
-        head = Frame(self.at(self.radius, track[-1]), 1, turn).all(HEAD)
-        self.drawing.raw(f'<path id="open" d="{polygon(head)}" fill="{GUIDE}"/>')
+        head = polygon(self._head(track[-1], away))
+        self.drawing.raw(f'<path id="open" d="{head}" fill="{GUIDE}"/>')
 
     def _draw_open_end_behind(self):
         """The rim of an open sector, where it lies under the segment."""

@@ -72,12 +72,6 @@ def arc(centre, radius, start, end):
     return "M" + points(polar(centre, radius, start)) + _sweep(centre, radius, start, end)
 
 
-def sector(centre, radius, start, end):
-    """A slice of a disc."""
-    return ("M" + points(centre) + "L" + points(polar(centre, radius, start))
-            + _sweep(centre, radius, start, end) + "Z")
-
-
 def disc(centre, radius):
     return arc(centre, radius, 0, 360) + "Z"
 

@@ -27,6 +27,8 @@ JOINTS = {
     "arm": (180, -1), "arm out": (180, 1), "elbow": (180, -1), "trunk": (0, 1), "neck": (0, 1),
     "wrist": (90, 1), "deviation": (0, 1), "either side": (0, 1), "knee": (None, 1),
 }
+# Angles beyond which the joint stands in another place, the same in all tools.
+ROOM = {"trunk": (0, 45), "neck": (0, 45), "wrist": (-20, 20)}
 
 # Picture, joint, least and most of its caption in degrees; None where the caption has no end. An
 # elbow counts from the straight arm; captions of the CTD form count from the right angle.
@@ -216,12 +218,21 @@ class PostureAngles(unittest.TestCase):
                                        msg=asset)
 
     def test_joint_stands_where_it_does_in_all_tools(self):
-        places = {}
+        places, heights = {}, {}
         for picture, asset, joint in self.each(ALL):
-            if joint != "knee":
-                place = places.setdefault(joint, picture.joint)
-                self.assertLess(math.dist(place, picture.joint), 0.02, msg=asset)
-        self.assertEqual(len(places), len(JOINTS) - 1)
+            if joint == "knee":
+                continue
+            # What bends far needs room on its side, and stands away from it.
+            back, far = ROOM.get(joint, (-180, 180))
+            angle = self.angle(picture, joint)
+            side = -1 if angle < back - NEAR else 1 if angle > far + NEAR else 0
+            place = places.setdefault((joint, side), picture.joint)
+            self.assertLess(math.dist(place, picture.joint), 0.02, msg=asset)
+            if joint != "wrist":
+                height = heights.setdefault(joint, place[1])
+                self.assertAlmostEqual(height, place[1], delta=0.02, msg=asset)
+        self.assertEqual(len({joint for joint, _ in places}), len(JOINTS) - 1)
+        self.assertEqual(len(places), len(JOINTS) - 1 + 2 * len(ROOM))
 
     def test_arc_goes_from_the_reference_to_the_axis(self):
         for picture, asset, joint in self.each(ALL):

@@ -152,12 +152,14 @@ QImage PictureOf(QAbstractButton& button) {
   return image.copy(image.rect().adjusted(edge, edge, -edge, -edge));
 }
 
-/// The colour of a picture that covers most of it: what the figure stands on.
-QColor GroundOf(const QImage& picture) {
+/// The colour of a picture that covers most of it but for what is around its plate: what the figure
+/// stands on.
+QColor GroundOf(const QImage& picture, QRgb around) {
   std::map<QRgb, int> counts;
   for (int y = 0; y < picture.height(); ++y) {
     for (int x = 0; x < picture.width(); ++x) ++counts[picture.pixel(x, y)];
   }
+  counts.erase(around);
   const auto most =
       std::max_element(counts.begin(), counts.end(),
                        [](const auto& a, const auto& b) { return a.second < b.second; });
@@ -214,7 +216,8 @@ Findings CheckPictures(QWidget& window) {
       findings.push_back({NameOfControl(*button), "has a picture that is not there"});
     }
     const QImage picture = PictureOf(*button);
-    const QColor ground = GroundOf(picture);
+    const QRgb around = button->palette().color(QPalette::Highlight).rgb();
+    const QColor ground = GroundOf(picture, around);
     for (const auto& [colors, length] : BordersOf(picture, PartsOf(picture))) {
       const QColor one = QColor::fromRgb(colors.first);
       const QColor other = QColor::fromRgb(colors.second);
@@ -222,7 +225,6 @@ Findings CheckPictures(QWidget& window) {
       if (length < kLeastBorder || contrast >= kPartContrast) continue;
       if (IsTint(colors.first, ground) || IsTint(colors.second, ground)) continue;
       // Where a picture fills its plate, it touches what is around that.
-      const QRgb around = button->palette().color(QPalette::Highlight).rgb();
       if (colors.first == around || colors.second == around) continue;
       findings.push_back({NameOfControl(*button),
                           QString("has parts of its picture of contrast %1: %2 beside %3")
