@@ -11,19 +11,11 @@
 #include "core/job_state.h"
 #include "core/task_list.h"
 #include "tests/support/test_support.h"
+#include "tests/tools/ctd/ctd_support.h"
 #include "tools/ctd/ctd_controls.h"
 
 namespace halvane {
 namespace {
-
-struct TaskRow {
-  double workTime, repetitions, force, span;
-  int grip, wrist, radialUlnar, flexionExtension;
-  std::string_view categories;  ///< by slot
-  std::array<double, 7> loads;
-  std::array<double, 8> durations;
-  bool active;
-};
 
 // Deviations of 5-15 degrees both ways, and a posture in five of the slots.
 constexpr TaskRow kWorkedTask{
@@ -41,26 +33,6 @@ constexpr TaskRow kWorkedTask{
     true,
 };
 
-int AddTask(const TaskRow& row) {
-  const int task = AddTaskRecord();
-  Module1.TaskActive.at(task) = static_cast<Integer>(row.active ? 1 : 0);
-  Module1.CtdWorkTime.at(task) = row.workTime;
-  Module1.CtdRepetitions.at(task) = row.repetitions;
-  Module1.CtdForceMvc.at(task) = row.force;
-  Module1.CtdHandSpan.at(task) = row.span;
-  Module1.CtdGripType.at(task) = static_cast<Integer>(row.grip);
-  Module1.CtdWristPosition.at(task) = static_cast<Integer>(row.wrist);
-  Module1.CtdRadUlnDeviation.at(task) = row.radialUlnar;
-  Module1.CtdFlexExtDeviation.at(task) = static_cast<Integer>(row.flexionExtension);
-  for (int slot = 0; slot < kCtdSlotCount; ++slot) {
-    const auto i = static_cast<std::size_t>(slot);
-    StoreCtdCategory(slot, task, static_cast<Integer>(row.categories[i] - '0'));
-    if (i < row.loads.size()) Module1.CtdLoadHeld.at(task, slot) = row.loads[i];
-    Module1.CtdPostureDuration.at(task, slot) = row.durations[i];
-  }
-  return task;
-}
-
 /// An English job of 8 hours and a cycle of one minute with the worked task.
 class CtdScore : public testing::Test {
  protected:
@@ -69,11 +41,6 @@ class CtdScore : public testing::Test {
   void StartFresh() {
     StartJob();
     AddTask(kWorkedTask);
-  }
-  static void StartJob() {
-    Module1 = JobState{};
-    Module1.Units = 1;
-    Module1.JobCycleTime = 1;
   }
   static double Score(int slot) { return Module1.CtdPostureScore.at(slot).AsDouble(); }
   static double Capacity(int slot) { return Module1.CtdPostureCapacity.at(slot).AsDouble(); }
@@ -503,98 +470,6 @@ TEST_F(CtdScore, WorkingValuesNameEachResult) {
   EXPECT_EQ(names,
             "CtdCyclesPerShift CtdPostureFactor CtdPostureFactorTask CtdForceFrequencyFactor "
             "CtdGrandScore CtdTaskPostureScore CtdRestTime CtdPostureCapacity CtdPostureScore ");
-}
-
-// Whole jobs with results worked out elsewhere.
-struct JobRow {
-  Integer units;
-  double hours, cycleTime;
-  std::vector<TaskRow> tasks;
-  double cycles, forceFrequency, posture;
-  Integer worst;
-  double grand;
-};
-
-std::vector<JobRow> JobRows() {
-  // clang-format off
-  return {
-    {1, 10, 6,
-     {{0.02, 3, 80, 3.5, 4, 1, 0, 7, "21002131", {4, 0, 4, 0, 0, 0, 0.5}, {0.05, 0.3, 0, 0.2, 0.1, 0.2, 0.3, 0.05}, true},
-      {0.1, 12.5, 0, 1, 3, 2, 3, 8, "02212100", {4, 0, 2, 0, 1, 2, 0}, {0, 0, 0.05, 0.05, 0, 0.2, 0.2, 0.2}, true},
-      {0.02, 10, 20, 1, 2, 2, 0, 7, "01100033", {0.5, 4, 0.5, 2, 4, 0.5, 0.5}, {0.2, 0.2, 0, 0.2, 0.2, 0.05, 0, 0.1}, false}},
-     100.0, 0.24160312484762864, 0.7714901380034289, 1, 2.937511301045552},
-    {0, 4, 1,
-     {{0.02, 12.5, 80, 1, 0, 1, 1, 7, "20221000", {0.5, 4, 0.5, 0, 4, 1, 1}, {0.3, 0.2, 0.05, 0.3, 0.2, 0.3, 0.05, 0.2}, true}},
-     240.0, 6.327782243284468, 0.7823495729672538, 1, 15.168747257577941},
-    {1, 4, 0.75,
-     {{0.02, 3, 5, 2, 3, 3, 4, 0, "30000221", {2, 1, 2, 4, 2, 1, 4}, {0.05, 0, 0.05, 0.05, 0.2, 0.3, 0.3, 0.3}, true},
-      {0.02, 3, 0, 1, 2, 3, 3, 5, "00121210", {1, 0.5, 2, 1, 4, 4, 0.5}, {0.3, 0, 0, 0.2, 0.1, 0.1, 0, 0}, true},
-      {0.05, 12.5, 0, 2.5, 2, 1, 0, 0, "32011103", {0, 2, 0, 2, 4, 0, 4}, {0.2, 0.2, 0.3, 0, 0.3, 0, 0, 0}, true}},
-     320.0, 0.592, 1.2662810249026346, 1, 5.213141659190378},
-    {1, 10, 2.5,
-     {{0, 12.5, 45.5, 3.5, 4, 0, 4, 8, "02030003", {4, 2, 1, 0, 1, 1, 0.5}, {0.3, 0.05, 0.3, 0.05, 0.1, 0.2, 0.2, 0.05}, true},
-      {0, 10, 5, 3.5, 0, 1, 3, 5, "21111100", {1, 0.5, 0, 2, 2, 1, 0.5}, {0.2, 0.2, 0.3, 0.2, 0.1, 0.3, 0.2, 0.1}, true}},
-     240.0, 0.8427366740256533, 0.7736953239724927, 1, 4.149195424979936},
-    {1, 4, 1,
-     {{0.1, 10, 20, 1, 0, 3, 3, 5, "02110203", {0, 4, 1, 0, 0.5, 0.5, 2}, {0.1, 0.05, 0, 0.2, 0.3, 0, 0.05, 0.05}, true},
-      {0.1, 3, 45.5, 2, 0, 3, 3, 5, "33101223", {1, 0.5, 0, 0, 0.5, 0.5, 2}, {0, 0.1, 0.3, 0.1, 0.1, 0, 0.1, 0.3}, true},
-      {0.3, 10, 80, 3.5, 2, 3, 0, 5, "03012113", {0.5, 4, 4, 2, 2, 4, 0}, {0.05, 0.2, 0.3, 0.3, 0.1, 0.3, 0.05, 0.3}, true}},
-     240.0, 8.938485483168854, 1.0740739211251, 3, 21.328279977448204},
-    {0, 4, 0,
-     {{0.3, 3, 20, 2, 4, 2, 4, 7, "13002100", {4, 2, 4, 4, 0, 2, 0}, {0.05, 0, 0.3, 0.2, 0.2, 0.2, 0.1, 0.05}, true},
-      {0.02, 10, 45.5, 3.5, 4, 2, 0, 5, "30212001", {0.5, 0.5, 0, 1, 1, 1, 0.5}, {0.3, 0.2, 0, 0.2, 0.3, 0, 0.3, 0.3}, true}},
-     24000.0, 204.01167459148303, 75.3125, 2, 648.333145881332},
-    {1, 10, 1,
-     {{0.3, 3, 80, 2, 4, 1, 4, 5, "11211221", {0.5, 0.5, 0, 0.5, 0.5, 0.5, 0}, {0.1, 0.2, 0, 0.2, 0.2, 0.3, 0.05, 0.05}, true},
-      {0.05, 1, 5, 2.5, 2, 0, 4, 6, "10300031", {0.5, 0.5, 0, 0.5, 0.5, 0.5, 1}, {0, 0.3, 0, 0.05, 0.2, 0, 0, 0.1}, true}},
-     600.0, 4.478535661498675, 0.8815842650614243, 2, 11.778423428538673},
-    {1, 4, 6,
-     {{0.1, 1, 0, 2, 0, 3, 3, 6, "23110202", {0, 2, 4, 4, 0.5, 4, 4}, {0.1, 0.1, 0.1, 0, 0.05, 0.2, 0.05, 0.1}, false}},
-     40.0, 0.0, 0, 1, 0},
-    {0, 4, 6,
-     {{0.3, 3, 5, 1, 2, 2, 3, 0, "02011222", {0.5, 2, 4, 0.5, 4, 0, 2}, {0.3, 0.2, 0.05, 0, 0.2, 0.3, 0, 0}, true}},
-     40.0, 0.012, 0.6254928051492256, 1, 2.0131151203745374},
-    {0, 7.5, 2.5,
-     {{0.3, 1, 5, 3.5, 0, 0, 2, 6, "22302100", {2, 0.5, 2, 2, 0.5, 2, 4}, {0.3, 0.3, 0, 0.2, 0.2, 0.2, 0.1, 0.3}, true},
-      {0.1, 10, 80, 2.5, 3, 2, 4, 6, "20012013", {2, 0, 1, 2, 0, 4, 1}, {0, 0.05, 0.2, 0.2, 0.1, 0.05, 0, 0.3}, true}},
-     180.0, 0.9494746880402779, 0.8648842820220295, 1, 4.653079291662771},
-    {0, 10, 0.75,
-     {{0.05, 1, 80, 3.5, 3, 0, 1, 0, "21021033", {4, 1, 4, 2, 1, 4, 0.5}, {0.1, 0.05, 0.05, 0.2, 0, 0.3, 0.1, 0.3}, true}},
-     800.0, 0.3239606822539491, 1.1838795922409788, 1, 4.413954310563227},
-    {1, 4, 2.5,
-     {{0.02, 10, 5, 2, 0, 1, 0, 0, "02230200", {0.5, 4, 1, 0, 0, 0.5, 4}, {0.05, 0.1, 0.2, 0.2, 0.1, 0.05, 0.1, 0.1}, true},
-      {0.02, 1, 0, 3.5, 4, 1, 3, 7, "23120222", {4, 0.5, 2, 1, 4, 0, 2}, {0.1, 0, 0.3, 0, 0.2, 0.3, 0.3, 0.2}, true},
-      {0.3, 10, 0, 1, 2, 1, 4, 0, "23220022", {1, 0, 1, 2, 4, 4, 1}, {0.2, 0.3, 0.1, 0.2, 0.1, 0.05, 0.2, 0.3}, true}},
-     96.0, 0.2016, 1.0213000488389756, 3, 3.651740555307943},
-    {1, 4, 1,
-     {{0.3, 12.5, 5, 2.5, 3, 1, 4, 8, "11031010", {4, 0.5, 4, 1, 0, 2, 0}, {0.3, 0.3, 0.1, 0.3, 0, 0.1, 0, 0.1}, true},
-      {0.1, 1, 0, 2, 0, 3, 1, 5, "32331121", {2, 2, 4, 0, 4, 0, 2}, {0.1, 0, 0.2, 0, 0.2, 0.3, 0, 0.3}, true}},
-     240.0, 0.4645719799220889, 1.5189228027843467, 2, 5.761176760618088},
-    {1, 8, 6,
-     {{0.02, 3, 5, 3.5, 0, 2, 1, 7, "32201102", {0.5, 0.5, 0, 2, 0, 4, 2}, {0, 0.1, 0, 0.05, 0.05, 0.1, 0.05, 0.3}, true},
-      {0.3, 3, 45.5, 2, 2, 3, 1, 6, "32331203", {0.5, 2, 0, 0.5, 0.5, 2, 4}, {0.3, 0.1, 0, 0.05, 0, 0.2, 0.1, 0.2}, true}},
-     80.0, 0.09116715669845445, 1.1513034957006414, 2, 3.8438440983517426},
-  };
-  // clang-format on
-}
-
-TEST_F(CtdScore, WholeJobsGiveTheFiguresOfASecondComputation) {
-  int number = 0;
-  for (const JobRow& row : JobRows()) {
-    SCOPED_TRACE("job " + std::to_string(number++));
-    StartJob();
-    Module1.Units = row.units;
-    Module1.JobDurationPerDay = row.hours;
-    Module1.JobCycleTime = row.cycleTime;
-    for (const TaskRow& task : row.tasks) AddTask(task);
-    CTDcalculate();
-    EXPECT_DOUBLE_EQ(Module1.CtdCyclesPerShift, row.cycles);
-    EXPECT_NEAR(Module1.CtdForceFrequencyFactor, row.forceFrequency, 1E-11 * row.forceFrequency);
-    EXPECT_NEAR(Module1.CtdPostureFactor, row.posture, 1E-11 * row.posture);
-    EXPECT_EQ(Module1.CtdPostureFactorTask, row.worst);
-    EXPECT_NEAR(Module1.CtdGrandScore.AsDouble(), row.grand, 1E-11 * row.grand);
-    EXPECT_EQ(Module1.JobCycleTime, row.cycleTime);
-  }
 }
 
 }  // namespace
