@@ -59,6 +59,7 @@ class Profile:
 
 PLAIN = Profile(SIDE_HEAD, SIDE_JAW, SIDE_CAP)
 CLEAR = Profile(CLEAR_HEAD, CLEAR_JAW, CLEAR_CAP)
+# Below the cap: the dark back of a head tells at button size which way a figure looks.
 SIDE_HAIR = [(-6.4, -13.2), (-6.4, -10), (-5.6, -7.4), (-3.2, -6), (-3.6, -9), (-2.6, -13.2)]
 SIDE_EYE = [(5.2, -11.4), (6.9, -11.2)]
 SIDE_EAR = [(-1.2, -7.8), (-2.6, -8.4), (-3.4, -10.8), (-2.4, -12.2), (-1, -11.4)]
