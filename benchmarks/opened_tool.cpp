@@ -21,15 +21,22 @@ constexpr int kPauseMilliseconds = 200;
 constexpr double kIdleSeconds = 0.002;
 
 /// Calls what is to be done with a form when it has been painted for the first time since it was
-/// shown.
+/// shown or has to be loaded again.
 class ShowWatch : public QObject {
  public:
   explicit ShowWatch(OpenedTool::Use use) : use_(std::move(use)) { qApp->installEventFilter(this); }
 
   bool eventFilter(QObject* watched, QEvent* event) override {
     auto* form = qobject_cast<ToolForm*>(watched);
-    if (form != nullptr && event->type() == QEvent::Show) isExpected_ = true;
-    if (form != nullptr && event->type() == QEvent::Paint && isExpected_) {
+    if (form != nullptr && event->type() == QEvent::Show) {
+      isExpected_ = true;
+      connect(form, &ToolForm::finished, this, [this](int result) {
+        if (result == ToolForm::Reload) isExpected_ = true;
+      });
+    }
+    // A form that stays on the screen is asked to draw what has changed, which need not be itself.
+    const bool isPainted = event->type() == QEvent::Paint || event->type() == QEvent::UpdateRequest;
+    if (form != nullptr && isPainted && isExpected_) {
       isExpected_ = false;
       // What is painted reaches the screen at the end of the turn.
       QTimer::singleShot(0, this, [this, form] { use_(*form); });

@@ -12,6 +12,7 @@
 #include "platform/platform.h"
 #include "shell/frm_about.h"
 #include "shell/hand_frame.h"
+#include "widgets/input_lock.h"
 #include "widgets/layout.h"
 #include "widgets/menu_item.h"
 #include "widgets/menu_letters.h"
@@ -134,6 +135,28 @@ void ToolForm::load() {
 void ToolForm::DrawAhead() {
   place_->TakePlace();
   grab();
+}
+
+int ToolForm::exec() {
+  lock_.reset();
+  setResult(Rejected);
+  show();
+  loop_.exec(QEventLoop::DialogExec);
+  return result();
+}
+
+void ToolForm::done(int result) {
+  if (result != Reload || !loop_.isRunning()) return QDialog::done(result);
+  setResult(result);
+  // Whatever the user did meanwhile is still handed out in this turn of the loop.
+  lock_ = std::make_unique<InputLock>(*this);
+  loop_.exit();
+  emit finished(result);
+}
+
+void ToolForm::setVisible(bool visible) {
+  QDialog::setVisible(visible);
+  if (!visible) loop_.exit();
 }
 
 void ToolForm::ShowReport() {

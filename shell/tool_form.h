@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QDialog>
+#include <QEventLoop>
+#include <memory>
 
 #include "core/rich_text.h"
 #include "core/tool_names.h"
@@ -15,6 +17,7 @@ class QVBoxLayout;
 namespace halvane {
 
 class HandFrame;
+class InputLock;
 class RichTextBox;
 
 /// What all six tools share: window, menus, file and report commands, identification strip, report
@@ -23,7 +26,8 @@ class RichTextBox;
 class ToolForm : public QDialog {
   Q_OBJECT
  public:
-  /// Result of `exec`: the job was replaced, and the form has to be loaded and shown again.
+  /// Result of `exec`: the job was replaced, and the form has to be loaded and shown again. Until
+  /// then it stays on the screen, where only what changes is drawn, and takes no keys and no mouse.
   static constexpr int Reload = 2;
 
   ~ToolForm() override;
@@ -34,6 +38,12 @@ class ToolForm : public QDialog {
   /// Lays the form out and draws it without showing it, so that its pictures and fonts are there
   /// when it is shown.
   void DrawAhead();
+
+  /// Shows the form, where it is not on the screen yet, until it is closed or has to be loaded
+  /// again; gives the result.
+  int exec() override;
+  void done(int result) override;
+  void setVisible(bool visible) override;
 
   /// What the tool that the form is for is called.
   [[nodiscard]] const ToolName& toolName() const { return toolName_; }
@@ -107,6 +117,10 @@ class ToolForm : public QDialog {
   RichTextBox* pane_;
   QMenu* mnuEdit_ = nullptr;
   QVBoxLayout* body_;
+  /// Of `exec`.
+  QEventLoop loop_;
+  /// From the end of the job that the form shows to the next one.
+  std::unique_ptr<InputLock> lock_;
 };
 
 }  // namespace halvane

@@ -90,11 +90,33 @@ def on_screen(desktop, program):
     run_.end()
 
 
+# By how much a window is moved and made smaller.
+FIRST, LAST = (0, 0), (21, 13)
+
+
+class Watch:
+    """Counts how often a window is taken from the screen."""
+
+    def __init__(self, desktop, window):
+        self.said = os.path.join(desktop.folder, "what became of the window")
+        with open(self.said, "wb") as file:
+            self.process = desktop.start(["stdbuf", "-oL", "xev", "-id", window, "-event", "structure"], stdout=file)
+
+    def times(self):
+        with open(self.said, encoding="utf-8") as file:
+            return file.read().count("UnmapNotify")
+
+    def end(self):
+        self.process.terminate()
+        self.process.wait()
+
+
 def reopened(desktop, program):
-    """A tool stays where it is through closing and opening it, through New and Open, also where it was moved to."""
+    """A tool stays where it is through closing and opening it, also where it was moved to, and stands there all the while
+    for New and Open."""
     run_ = Program(desktop, program)
     window = run_.open(RULA)
-    for by in ((0, 0), (21, 13)):
+    for by in (FIRST, LAST):
         place = settled(desktop, window)[0]
         desktop.xdotool("windowsize", window, place[2] - by[0], place[3] - by[1])
         desktop.xdotool("windowmove", window, place[0] + by[0], place[1] + by[1])
@@ -107,6 +129,7 @@ def reopened(desktop, program):
             window = run_.open(RULA)
             again = settled(desktop, window)[0]
             assert again == before, f"reopened at {again} and not at {before}"
+        watch = Watch(desktop, window)
         for _ in range(5):
             # A changed job, so that the question always comes.
             desktop.type("x")
@@ -131,7 +154,11 @@ def reopened(desktop, program):
             desktop.gone("Open")
             window, (again, _) = settled_again(desktop, RULA.title)
             assert again == before, f"after Open at {again} and not at {before}"
-    run_.leave()
+        assert watch.times() == 0, f"off the screen {watch.times()} times"
+        if by == LAST:
+            run_.leave()
+            wait_until(watch.times, "what the window's end leaves")
+        watch.end()
     assert desktop.window(MAIN)
     run_.end()
 

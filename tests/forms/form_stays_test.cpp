@@ -1,0 +1,130 @@
+#include <QApplication>
+#include <QEvent>
+#include <QTest>
+
+#include "app/tool_forms.h"
+#include "shell/frm_hand_main.h"
+#include "shell/tool_form.h"
+#include "tests/support/form_support.h"
+
+namespace halvane {
+namespace {
+
+/// Counts what happens to a form and how much of it is drawn.
+class FormWatch : public QObject {
+ public:
+  explicit FormWatch(QWidget& form) : form_(form) { qApp->installEventFilter(this); }
+
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (watched == &form_ && event->type() == QEvent::Hide) ++hidden;
+    if (watched == &form_ && event->type() == QEvent::Show) ++shown;
+    auto* widget = qobject_cast<QWidget*>(watched);
+    if (event->type() == QEvent::Paint && widget != nullptr && widget->window() == &form_) {
+      const QPoint place = widget->mapTo(&form_, QPoint());
+      drawn += static_cast<QPaintEvent*>(event)->region().translated(place);
+    }
+    return QObject::eventFilter(watched, event);
+  }
+
+  int hidden = 0;
+  int shown = 0;
+  QRegion drawn;
+
+ private:
+  QWidget& form_;
+};
+
+int AreaOf(const QRegion& region) {
+  int area = 0;
+  for (const QRect& rect : region) area += rect.width() * rect.height();
+  return area;
+}
+
+/// New and Open on a tool put another job onto the form that is on the screen.
+class FormThatStays : public ShellTest, public testing::WithParamInterface<Tool> {
+ protected:
+  void SetUp() override {
+    form_ = MakeToolForm(GetParam(), nullptr);
+    WriteBytes(folder.File("job.qjt"), EmptyJobText());
+  }
+
+  /// Runs the form as the main window does.
+  void Run() {
+    do {
+      form_->load();
+      Module1.JobDirty = kFalse;
+      ++loads_;
+    } while (form_->exec() == ToolForm::Reload);
+  }
+
+  /// Lays out and draws all that is to be.
+  static void Draw() { QCoreApplication::sendPostedEvents(); }
+
+  std::unique_ptr<ToolForm> form_;
+  int loads_ = 0;
+};
+
+TEST_P(FormThatStays, IsNeitherHiddenNorDrawnWholeForAnotherJob) {
+  ModalSteps steps;
+  std::unique_ptr<FormWatch> watch;
+  const QString name = form_->objectName();
+  steps.Then(name, [&](QWidget& form) { watch = std::make_unique<FormWatch>(form); });
+  // The first layout goes on behind the first picture.
+  for (int turn = 0; turn < 5; ++turn) steps.Then(name, [](QWidget&) { Draw(); });
+  steps.Then(name, [&](QWidget& form) {
+    watch = std::make_unique<FormWatch>(form);
+    Choose(form, "mnuFileNew");
+    // Typed before the new job is shown.
+    QTest::keyClick(form.focusWidget(), 'x');
+  });
+  steps.Then(name, [&](QWidget& form) {
+    Draw();
+    EXPECT_EQ(loads_, 2);
+    EXPECT_EQ(Module1.JobAnalyst, TaggedField(""));
+    EXPECT_EQ(Module1.JobName, TaggedField(""));
+    EXPECT_EQ(Module1.JobWorkstationId, "");
+    EXPECT_LT(AreaOf(watch->drawn), form.width() * form.height() / 2);
+    platform.WillOpen(File("job.qjt"));
+    Choose(form, "mnuFileOpen");
+  });
+  steps.Then(name, [&](QWidget& form) {
+    Draw();
+    EXPECT_EQ(loads_, 3);
+    EXPECT_EQ(watch->hidden, 0);
+    EXPECT_EQ(watch->shown, 0);
+    EXPECT_TRUE(form.isActiveWindow());
+    Choose(form, "mnuFileExit");
+  });
+  Run();
+  EXPECT_EQ(watch->hidden, 1);
+  EXPECT_FALSE(form_->isVisible());
+  EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+}
+
+TEST_P(FormThatStays, EndsWhenItIsHiddenOrClosed) {
+  for (const bool isClosed : {false, true}) {
+    ModalSteps steps;
+    steps.Then(form_->objectName(), [isClosed](QWidget& form) {
+      if (isClosed) {
+        form.close();
+      } else {
+        form.hide();
+      }
+    });
+    form_->load();
+    EXPECT_EQ(form_->exec(), QDialog::Rejected);
+    EXPECT_FALSE(form_->isVisible());
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(EveryTool, FormThatStays,
+                         testing::Values(Tool::Ocra, Tool::Ctd, Tool::StrainIndex, Tool::Reba,
+                                         Tool::Rula, Tool::Hal),
+                         [](const auto& tool) {
+                           std::string name(NameOf(tool.param).key);
+                           std::erase(name, '-');
+                           return name;
+                         });
+
+}  // namespace
+}  // namespace halvane
