@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "app/tool_forms.h"
+#include "benchmarks/action.h"
 #include "benchmarks/benchmark_jobs.h"
 #include "benchmarks/cpu_seconds.h"
 #include "shell/tool_form.h"
@@ -21,7 +22,7 @@ constexpr int kPauseMilliseconds = 200;
 constexpr double kIdleSeconds = 0.002;
 
 /// Calls what is to be done with a form when it has been painted for the first time since it was
-/// shown or has to be loaded again.
+/// shown, or when all that another job changes has been.
 class ShowWatch : public QObject {
  public:
   explicit ShowWatch(OpenedTool::Use use) : use_(std::move(use)) { qApp->installEventFilter(this); }
@@ -30,13 +31,11 @@ class ShowWatch : public QObject {
     auto* form = qobject_cast<ToolForm*>(watched);
     if (form != nullptr && event->type() == QEvent::Show) {
       isExpected_ = true;
-      connect(form, &ToolForm::finished, this, [this](int result) {
-        if (result == ToolForm::Reload) isExpected_ = true;
+      connect(form, &ToolForm::finished, this, [this, form](int result) {
+        if (result == ToolForm::Reload) UseAgain(*form);
       });
     }
-    // A form that stays on the screen is asked to draw what has changed, which need not be itself.
-    const bool isPainted = event->type() == QEvent::Paint || event->type() == QEvent::UpdateRequest;
-    if (form != nullptr && isPainted && isExpected_) {
+    if (form != nullptr && event->type() == QEvent::Paint && isExpected_) {
       isExpected_ = false;
       // What is painted reaches the screen at the end of the turn.
       QTimer::singleShot(0, this, [this, form] { use_(*form); });
@@ -45,6 +44,16 @@ class ShowWatch : public QObject {
   }
 
  private:
+  /// The form stays on the screen, and what does not change is not painted.
+  void UseAgain(ToolForm& form) {
+    QTimer::singleShot(0, this, [this, &form] {
+      // The same turn of the loop may still be that of the job before.
+      if (form.result() == ToolForm::Reload) return UseAgain(form);
+      FinishTurn();
+      use_(form);
+    });
+  }
+
   OpenedTool::Use use_;
   bool isExpected_ = false;
 };

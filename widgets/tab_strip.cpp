@@ -45,6 +45,18 @@ TabStrip::TabStrip(const QString& name, QWidget* parent) : QTabWidget(parent) {
           [this] { Go(-1); });
 }
 
+bool TabStrip::event(QEvent* event) {
+  if (event->type() != QEvent::LayoutRequest) return QTabWidget::event(event);
+  const QSize hint = tabBar()->sizeHint();
+  const bool isAsBefore = isVisible() && hint == barHint_;
+  barHint_ = hint;
+  if (!isAsBefore) return QTabWidget::event(event);
+  // The toolkit would lay out the tabs and draw all pages again for anything on a page that asks
+  // for another size. All that can come of it is that the window needs another one.
+  updateGeometry();
+  return true;
+}
+
 void TabStrip::keyPressEvent(QKeyEvent* event) {
   // The toolkit's own Ctrl+Tab, which a key that is held down would still come to.
   event->ignore();
