@@ -13,6 +13,7 @@
 #include "shell/held_keys.h"
 #include "widgets/readable_style.h"
 #include "widgets/spoken.h"
+#include "widgets/user_input.h"
 
 namespace halvane {
 namespace {
@@ -31,27 +32,6 @@ QString SentenceOn(const JobKeeper::Rescue& rescue) {
 }
 
 QString TextOf(const std::exception& failure) { return QString::fromUtf8(failure.what()); }
-
-/// Whether an event can change the job.
-bool IsInput(const QEvent& event) {
-  switch (event.type()) {
-    case QEvent::KeyPress:
-    case QEvent::KeyRelease:
-    case QEvent::InputMethod:
-    case QEvent::MouseButtonPress:
-    case QEvent::MouseButtonRelease:
-    case QEvent::MouseButtonDblClick:
-    case QEvent::Wheel:
-    case QEvent::Drop:
-    case QEvent::Shortcut:
-    case QEvent::TouchBegin:
-    case QEvent::TouchUpdate:
-    case QEvent::TouchEnd: return true;
-    // A slider that is dragged.
-    case QEvent::MouseMove: return QGuiApplication::mouseButtons() != Qt::NoButton;
-    default: return false;
-  }
-}
 
 }  // namespace
 
@@ -97,7 +77,7 @@ void HalvaneApplication::RescueAtExit() {
 
 bool HalvaneApplication::notify(QObject* receiver, QEvent* event) {
   // The event may be gone behind its handler.
-  const bool isInput = IsInput(*event);
+  const bool isInput = IsUserInput(*event);
   if (isInput) keeper_.NoteInput();
   bool result = true;
   try {

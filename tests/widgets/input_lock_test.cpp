@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QLineEdit>
+#include <QShortcut>
 #include <QTest>
 #include <QWindow>
 #include <memory>
@@ -30,6 +31,22 @@ TEST(InputLock, KeepsKeysAndMouseFromItsWindowAloneUntilItsEnd) {
   EXPECT_EQ(box.selectedText(), "all");
   QTest::keyClick(&box, 'x');
   EXPECT_EQ(box.text(), "x");
+}
+
+TEST(InputLock, KeepsShortcutsFromItsWindow) {
+  QWidget locked;
+  int times = 0;
+  QObject::connect(new QShortcut(Qt::Key_F1, &locked), &QShortcut::activated,
+                   [&times] { ++times; });
+  locked.show();
+  locked.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&locked));
+  auto lock = std::make_unique<InputLock>(locked);
+  QTest::keyClick(locked.windowHandle(), Qt::Key_F1);
+  EXPECT_EQ(times, 0);
+  lock.reset();
+  QTest::keyClick(locked.windowHandle(), Qt::Key_F1);
+  EXPECT_EQ(times, 1);
 }
 
 TEST(InputLock, LetsItsWindowBeClosed) {
