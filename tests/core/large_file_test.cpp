@@ -209,9 +209,8 @@ TEST_F(LargeFile, QuoteThatNeverClosesTakesTheRestOfTheFile) {
   ExpectPeakBelow(opening, kJobBytes);
 }
 
-// A look at the first bytes takes some milliseconds, some dozens in a sanitized build beside other
-// work; a look at all of them takes seconds.
-constexpr double kAtOnce = 200;
+// A look at the first bytes takes some milliseconds; a look at all of them takes seconds.
+constexpr double kAtOnce = 50;
 constexpr double kFewBytes = 10e6;
 
 TEST_F(LargeFile, ForeignFileIsRefusedByItsFirstBytes) {
