@@ -129,6 +129,8 @@ void ToolForm::load() {
   pane_->ShowReport(report_);
   loadFromJob();
   identification_->ShowJob();
+  // What has the focus already would not be brought into view.
+  for (auto* page : findChildren<ScrollPage*>()) page->ShowTop();
   identification_->FocusFirst();
 }
 

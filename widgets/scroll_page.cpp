@@ -4,6 +4,7 @@
 #include <QEvent>
 #include <QFrame>
 #include <QLayout>
+#include <QScrollBar>
 #include <algorithm>
 
 #include "widgets/layout.h"
@@ -92,6 +93,11 @@ bool ScrollPage::eventFilter(QObject* watched, QEvent* event) {
     FitBar();
   }
   return QScrollArea::eventFilter(watched, event);
+}
+
+void ScrollPage::ShowTop() {
+  verticalScrollBar()->setValue(0);
+  horizontalScrollBar()->setValue(0);
 }
 
 void ScrollPage::resizeEvent(QResizeEvent* event) {

@@ -8,6 +8,8 @@ namespace halvane {
 /// for room like the page itself, captions that wrap included, so that a layout around it treats
 /// both alike. What gets the focus is brought into view.
 class ScrollPage : public QScrollArea {
+  Q_OBJECT
+
  public:
   /// Takes `page` over.
   ScrollPage(QWidget* page, QWidget* parent);
@@ -19,6 +21,9 @@ class ScrollPage : public QScrollArea {
   [[nodiscard]] QSize minimumSizeHint() const override;
   [[nodiscard]] QSize sizeHint() const override;
   bool eventFilter(QObject* watched, QEvent* event) override;
+
+  /// Brings the page's upper left corner into view.
+  void ShowTop();
 
  protected:
   void resizeEvent(QResizeEvent* event) override;

@@ -38,20 +38,6 @@ def settled(desktop, window):
     return seen[-1]
 
 
-def settled_again(desktop, title):
-    """The window with this title, which New and Open put in place of the one before, and its measures."""
-    seen = []
-
-    def at_rest():
-        active = desktop.active(title)
-        seen.append((active, active and measure(desktop, active[1])))
-        return len(seen) >= SETTLED and seen[-1][1] and len(set(seen[-SETTLED:])) == 1
-
-    wait_until(at_rest, f"the window '{title}' at rest")
-    (_, window), measures = seen[-1]
-    return window, measures
-
-
 def assert_on_screen(desktop, title, framed):
     x, y, width, height = framed
     right, below = desktop.size[0] - x - width, desktop.size[1] - y - height
@@ -137,7 +123,8 @@ def reopened(desktop, program):
             desktop.window(MESSAGE)
             desktop.keys("n")
             desktop.gone(MESSAGE)
-            window, (again, _) = settled_again(desktop, RULA.title)
+            assert desktop.window(RULA.title) == window
+            again = settled(desktop, window)[0]
             assert again == before, f"after New at {again} and not at {before}"
         saved = os.path.join(desktop.folder, f"moved by {by[0]}.qjt")
         run_.save_as(saved)
@@ -152,7 +139,8 @@ def reopened(desktop, program):
             desktop.type(saved)
             desktop.keys("Return")
             desktop.gone("Open")
-            window, (again, _) = settled_again(desktop, RULA.title)
+            assert desktop.window(RULA.title) == window
+            again = settled(desktop, window)[0]
             assert again == before, f"after Open at {again} and not at {before}"
         assert watch.times() == 0, f"off the screen {watch.times()} times"
         if by == LAST:

@@ -1,11 +1,16 @@
 #include <QApplication>
-#include <QEvent>
+#include <QLineEdit>
+#include <QPaintEvent>
+#include <QRegion>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QTabWidget>
 #include <QTest>
 
 #include "app/tool_forms.h"
-#include "shell/frm_hand_main.h"
 #include "shell/tool_form.h"
 #include "tests/support/form_support.h"
+#include "widgets/ribbon_button.h"
 
 namespace halvane {
 namespace {
@@ -60,6 +65,12 @@ class FormThatStays : public ShellTest, public testing::WithParamInterface<Tool>
   /// Lays out and draws all that is to be.
   static void Draw() { QCoreApplication::sendPostedEvents(); }
 
+  /// Gives a form the rounds that its first layout takes behind its first picture.
+  void LetRest(ModalSteps& steps) {
+    for (int round = 0; round < 5; ++round)
+      steps.Then(form_->objectName(), [](QWidget&) { Draw(); });
+  }
+
   std::unique_ptr<ToolForm> form_;
   int loads_ = 0;
 };
@@ -69,8 +80,7 @@ TEST_P(FormThatStays, IsNeitherHiddenNorDrawnWholeForAnotherJob) {
   std::unique_ptr<FormWatch> watch;
   const QString name = form_->objectName();
   steps.Then(name, [&](QWidget& form) { watch = std::make_unique<FormWatch>(form); });
-  // The first layout goes on behind the first picture.
-  for (int turn = 0; turn < 5; ++turn) steps.Then(name, [](QWidget&) { Draw(); });
+  LetRest(steps);
   steps.Then(name, [&](QWidget& form) {
     watch = std::make_unique<FormWatch>(form);
     Choose(form, "mnuFileNew");
@@ -99,6 +109,73 @@ TEST_P(FormThatStays, IsNeitherHiddenNorDrawnWholeForAnotherJob) {
   EXPECT_EQ(watch->hidden, 1);
   EXPECT_FALSE(form_->isVisible());
   EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+}
+
+TEST_P(FormThatStays, LooksLikeAFreshOne) {
+  QApplication::setCursorFlashTime(0);
+  const auto fresh = MakeToolForm(GetParam(), nullptr);
+  const QString name = form_->objectName();
+  QImage expected;
+  ModalSteps steps;
+  LetRest(steps);
+  steps.Then(name, [&](QWidget& form) {
+    expected = form.grab().toImage();
+    form.close();
+  });
+  fresh->load();
+  fresh->exec();
+
+  // A job of twenty tasks, answers everywhere and another tab leave nothing behind.
+  for (int task = 1; task <= 20; ++task) {
+    Module1.TaskCount = static_cast<Integer>(task);
+    NewTaskRecord();
+  }
+  LetRest(steps);
+  steps.Then(name, [&](QWidget& form) {
+    for (auto* tabs : form.findChildren<QTabWidget*>()) tabs->setCurrentIndex(tabs->count() - 1);
+    for (auto* ribbon : form.findChildren<RibbonButton*>()) {
+      if (ribbon->isEnabled()) ribbon->click();
+    }
+    for (auto* box : form.findChildren<QLineEdit*>()) {
+      if (box->isEnabled() && !box->isReadOnly()) QTest::keyClick(box, '7');
+    }
+    Draw();
+    platform.WillAnswer(Answer::No);
+    Choose(form, "mnuFileNew");
+  });
+  LetRest(steps);
+  steps.Then(name, [&](QWidget& form) {
+    EXPECT_TRUE(form.grab().toImage() == expected);
+    form.close();
+  });
+  Run();
+}
+
+TEST_P(FormThatStays, ShowsAnotherJobFromItsTop) {
+  const QString name = form_->objectName();
+  ModalSteps steps;
+  steps.Then(name, [](QWidget& form) {
+    form.setMinimumSize(1, 1);
+    form.resize(500, 300);
+  });
+  LetRest(steps);
+  steps.Then(name, [](QWidget& form) {
+    int scrolled = 0;
+    for (auto* page : form.findChildren<QScrollArea*>()) {
+      page->verticalScrollBar()->setValue(page->verticalScrollBar()->maximum());
+      scrolled += page->verticalScrollBar()->value();
+    }
+    ASSERT_GT(scrolled, 0);
+    Choose(form, "mnuFileNew");
+  });
+  steps.Then(name, [](QWidget& form) {
+    for (auto* page : form.findChildren<QScrollArea*>()) {
+      EXPECT_EQ(page->verticalScrollBar()->value(), 0);
+      EXPECT_EQ(page->horizontalScrollBar()->value(), 0);
+    }
+    form.close();
+  });
+  Run();
 }
 
 TEST_P(FormThatStays, EndsWhenItIsHiddenOrClosed) {
