@@ -6,6 +6,8 @@
 #include <system_error>
 
 #include "core/job_state.h"
+#include "tools/reba/reba_controls.h"
+#include "tools/rula/rula_controls.h"
 
 namespace halvane {
 namespace {
@@ -70,6 +72,18 @@ void FillJob(int tasks, int number) {
   Module1.SiIntensityPick = Integer{5};
   Module1.SiPosturePick = Integer{11};
   Module1.SiSpeedPick = 6;
+  // The last ribbon of each group and every tick.
+  for (int control = 0; control < Module1.RulaControlState.size(); ++control) {
+    const int highest = HighestState(kRulaControls, control);
+    Module1.RulaControlState.at(control) = static_cast<Integer>(highest);
+  }
+  for (int control = 0; control < Module1.RebaControlState.size(); ++control) {
+    const int highest = HighestState(kRebaControls, control);
+    Module1.RebaControlState.at(control) = static_cast<Integer>(highest);
+  }
+  Module1.HalExertionFrequency = Integer{30};
+  Module1.HalDutyCycle = Integer{60};
+  Module1.HalActivityLevel = Integer{6};
   ResizeTaskArrays();
   for (int task = 1; task <= tasks; ++task) {
     Module1.TaskCount = static_cast<Integer>(task);

@@ -165,4 +165,13 @@ void ReadableStyle::drawComplexControl(ComplexControl control, const QStyleOptio
   }
 }
 
+QRect ReadableStyle::subControlRect(ComplexControl control, const QStyleOptionComplex* option,
+                                    SubControl part, const QWidget* widget) const {
+  if (control == CC_GroupBox && part == SC_GroupBoxCheckBox &&
+      !option->subControls.testFlag(SC_GroupBoxCheckBox)) {
+    return {};
+  }
+  return QProxyStyle::subControlRect(control, option, part, widget);
+}
+
 }  // namespace halvane

@@ -23,6 +23,9 @@ class ReadableStyle : public QProxyStyle {
                    const QWidget* widget) const override;
   void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
                           QPainter* painter, const QWidget* widget) const override;
+  /// A frame's box that can't be ticked has no place: its caption would be measured for it.
+  [[nodiscard]] QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option,
+                                     SubControl part, const QWidget* widget) const override;
 };
 
 }  // namespace halvane

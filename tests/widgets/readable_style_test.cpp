@@ -7,6 +7,7 @@
 #include <QLineEdit>
 #include <QRadioButton>
 #include <QSlider>
+#include <QStyleOptionGroupBox>
 #include <QTabBar>
 
 #include "tests/support/form_support.h"
@@ -114,6 +115,22 @@ TEST(ReadableStyle, TheTabThatIsChosenIsToldFromTheOthers) {
   };
   EXPECT_EQ(topOf(0), palette.color(QPalette::Highlight));
   EXPECT_NE(topOf(1), palette.color(QPalette::Highlight));
+}
+
+TEST(ReadableStyle, FramesHaveABoxWhereTheyCanBeTicked) {
+  QGroupBox frame("Caption");
+  ReadableStyle style;
+  frame.setStyle(&style);
+  QStyleOptionGroupBox option;
+  option.initFrom(&frame);
+  option.text = frame.title();
+  option.subControls = QStyle::SC_GroupBoxFrame | QStyle::SC_GroupBoxLabel;
+  const auto box = [&] {
+    return style.subControlRect(QStyle::CC_GroupBox, &option, QStyle::SC_GroupBoxCheckBox, &frame);
+  };
+  EXPECT_TRUE(box().isEmpty());
+  option.subControls |= QStyle::SC_GroupBoxCheckBox;
+  EXPECT_FALSE(box().isEmpty());
 }
 
 }  // namespace
