@@ -111,6 +111,9 @@ QRadioButton* PostureFrame::AddOption(const QString& name, std::string_view capt
 
 void PostureFrame::SetOptionsInARow() { options_->setDirection(QBoxLayout::LeftToRight); }
 
-void PostureFrame::AddBelow(QWidget* panel) { column_->addWidget(panel); }
+void PostureFrame::AddBelow(QWidget* panel) {
+  column_->addSpacing(kPadding);
+  column_->addWidget(panel);
+}
 
 }  // namespace halvane
