@@ -2,8 +2,8 @@
 
 #include <QColor>
 #include <QPainter>
-#include <algorithm>
-#include <cmath>
+
+#include "widgets/strips.h"
 
 namespace halvane {
 namespace {
@@ -12,25 +12,16 @@ namespace {
 constexpr QColor kShadow(51, 63, 120, 52);
 constexpr QPoint kShadowOffset(2, 3);
 constexpr int kShadowLayers = 3;
-/// Of the device, filled at once. What has some more of them the toolkit gives to threads, which
-/// take longer to wake up than to fill all of a panel.
-constexpr int kRowsAtOnce = 40;
 
 QRectF WithinOutline(const QRect& whole) { return QRectF(whole).adjusted(1, 1, -1, -1); }
 
 }  // namespace
 
 void FillRounded(QPainter& painter, const QRectF& shape, double rounding) {
-  const double ratio = painter.device()->devicePixelRatio();
-  const int rows = std::max(1, static_cast<int>(std::floor(kRowsAtOnce / ratio)));
   // With the pixels that an edge shares at a scale that is no whole number.
   const QRect around = shape.toAlignedRect().adjusted(-1, -1, 1, 1);
-  painter.save();
-  for (int top = around.top(); top <= around.bottom(); top += rows) {
-    painter.setClipRect(around.left(), top, around.width(), rows);
-    painter.drawRoundedRect(shape, rounding, rounding);
-  }
-  painter.restore();
+  DrawInStrips(painter, around, kSmoothRows,
+               [&] { painter.drawRoundedRect(shape, rounding, rounding); });
 }
 
 QRectF RaisedTop(const QRect& whole) {

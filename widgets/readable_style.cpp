@@ -5,6 +5,7 @@
 #include <array>
 
 #include "widgets/contrast.h"
+#include "widgets/strips.h"
 
 namespace halvane {
 namespace {
@@ -120,7 +121,12 @@ void ReadableStyle::polish(QPalette& palette) {
 
 void ReadableStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
                                   QPainter* painter, const QWidget* widget) const {
-  QProxyStyle::drawPrimitive(element, option, painter, widget);
+  const auto draw = [&] { QProxyStyle::drawPrimitive(element, option, painter, widget); };
+  if (element == PE_FrameGroupBox || element == PE_FrameTabWidget) {
+    DrawInStrips(*painter, option->rect, kPlainRows, draw);
+  } else {
+    draw();
+  }
   if (!HasHighContrast(option->palette)) return;
   // The mark of the focus stands where the outline would.
   const bool hasMark =

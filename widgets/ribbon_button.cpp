@@ -207,8 +207,22 @@ void RibbonButton::paintEvent(QPaintEvent* /*event*/) {
   }
   if (isChecked()) PaintTick(painter);
   painter.setPen(TextColor());
-  painter.drawText(caption.translated(way, way), CaptionFlags(), ShownText());
+  PaintCaption(painter, caption.translated(way, way));
   if (hasFocus()) PaintFocus(painter);
+}
+
+void RibbonButton::PaintCaption(QPainter& painter, const QRect& place) const {
+  QStaticText& caption = Known().shown;
+  if (caption.textWidth() != place.width()) {
+    QTextOption option(Qt::AlignHCenter);
+    option.setWrapMode(oneLine_ ? QTextOption::ManualWrap : QTextOption::WordWrap);
+    caption.setTextFormat(Qt::PlainText);
+    caption.setTextOption(option);
+    caption.setTextWidth(place.width());
+    caption.setText(ShownText());
+  }
+  const double above = (place.height() - caption.size().height()) / 2;
+  painter.drawStaticText(QPointF(place.left(), place.top() + above), caption);
 }
 
 void RibbonButton::PaintGround(QPainter& painter) const {

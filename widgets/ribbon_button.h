@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QPointer>
+#include <QStaticText>
 #include <QString>
 #include <map>
 #include <vector>
@@ -61,6 +62,7 @@ class RibbonButton : public QAbstractButton {
     QString text;
     int width = 0;                 ///< 0: not yet known
     std::map<int, QSize> sizes{};  ///< by the width that it has
+    QStaticText shown{};           ///< laid out for where it was painted last
   };
   [[nodiscard]] Measured& Known() const;
 
@@ -91,6 +93,8 @@ class RibbonButton : public QAbstractButton {
   [[nodiscard]] int PictureSide(double ratio) const;
   /// Draws the picture in the inks that stand out on what it lies on.
   void PaintPicture(QPainter& painter, QPoint corner) const;
+  /// Draws the caption in the middle of its place.
+  void PaintCaption(QPainter& painter, const QRect& place) const;
   [[nodiscard]] QPalette::ColorGroup Group() const;
   [[nodiscard]] QColor TextColor() const;
 

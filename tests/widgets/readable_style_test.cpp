@@ -5,10 +5,14 @@
 #include <QComboBox>
 #include <QGroupBox>
 #include <QLineEdit>
+#include <QPainter>
+#include <QProxyStyle>
 #include <QRadioButton>
 #include <QSlider>
 #include <QStyleOptionGroupBox>
+#include <QStyleOptionTabWidgetFrame>
 #include <QTabBar>
+#include <algorithm>
 
 #include "tests/support/form_support.h"
 #include "tests/support/palettes.h"
@@ -131,6 +135,35 @@ TEST(ReadableStyle, FramesHaveABoxWhereTheyCanBeTicked) {
   EXPECT_TRUE(box().isEmpty());
   option.subControls |= QStyle::SC_GroupBoxCheckBox;
   EXPECT_FALSE(box().isEmpty());
+}
+
+/// Measures how high the largest piece is that it is asked to draw.
+class MeasuringStyle : public QProxyStyle {
+ public:
+  void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override {
+    const QRectF place = painter->hasClipping() ? painter->clipBoundingRect() : option->rect;
+    highest = std::max(highest, (place & QRectF(option->rect)).height());
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
+  }
+  mutable double highest = 0;
+};
+
+TEST(ReadableStyle, FramesAreDrawnWithoutWakingThreads) {
+  for (const auto element : {QStyle::PE_FrameGroupBox, QStyle::PE_FrameTabWidget}) {
+    SCOPED_TRACE(element);
+    auto* base = new MeasuringStyle;
+    ReadableStyle style;
+    style.setBaseStyle(base);  // which is the style's from now on
+    QImage ground(200, 500, QImage::Format_RGB32);
+    ground.fill(Qt::white);
+    QStyleOptionTabWidgetFrame option;
+    option.rect = ground.rect();
+    QPainter painter(&ground);
+    style.drawPrimitive(element, &option, &painter, nullptr);
+    EXPECT_GT(base->highest, 0);
+    EXPECT_LT(base->highest, 96);
+  }
 }
 
 }  // namespace

@@ -108,5 +108,30 @@ TEST(RibbonButton, GivesWayUnderTheMouse) {
   EXPECT_EQ(FillOf(ribbon).rgb(), QColor(Qt::lightGray).darker(108).rgb());
 }
 
+TEST(RibbonButton, ShowsTheCaptionThatItHasNow) {
+  const auto shown = [](RibbonButton& button) { return button.grab().toImage(); };
+  const auto fresh = [&](const QString& caption, int width, const QFont& font) {
+    RibbonButton button("Ribbon", caption, nullptr);
+    button.setFont(font);
+    button.resize(width, 90);
+    return shown(button);
+  };
+  RibbonButton button("Ribbon", "Radial Deviation", nullptr);
+  const QFont font = button.font();
+  button.resize(80, 90);
+  const QImage first = shown(button);
+  EXPECT_EQ(first, fresh("Radial Deviation", 80, font));
+  button.setText("Ulnar Deviation");
+  EXPECT_EQ(shown(button), fresh("Ulnar Deviation", 80, font));
+  EXPECT_NE(shown(button), first);
+  button.resize(180, 90);
+  EXPECT_EQ(shown(button), fresh("Ulnar Deviation", 180, font));
+  QFont larger = font;
+  larger.setPointSizeF(1.5 * font.pointSizeF());
+  button.setFont(larger);
+  EXPECT_EQ(shown(button), fresh("Ulnar Deviation", 180, larger));
+  EXPECT_NE(shown(button), fresh("Ulnar Deviation", 180, font));
+}
+
 }  // namespace
 }  // namespace halvane

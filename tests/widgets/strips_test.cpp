@@ -1,0 +1,82 @@
+#include "widgets/strips.h"
+
+#include <gtest/gtest.h>
+
+#include <QImage>
+#include <QPainter>
+#include <algorithm>
+
+namespace halvane {
+namespace {
+
+constexpr QSize kGround(60, 300);
+/// At an odd place.
+constexpr QRect kArea(7, 5, 40, 283);
+
+/// A ground of so many device pixels a logical one, and what is drawn on it.
+template <typename Draw>
+QImage Drawn(double ratio, Draw draw) {
+  QImage image((QSizeF(kGround) * ratio).toSize(), QImage::Format_ARGB32_Premultiplied);
+  image.setDevicePixelRatio(ratio);
+  image.fill(Qt::white);
+  QPainter painter(&image);
+  // What two strips both drew would be darker.
+  painter.setPen(QColor(51, 63, 120, 100));
+  painter.setBrush(QColor(51, 63, 120, 30));
+  draw(painter);
+  return image;
+}
+
+class Strips : public testing::TestWithParam<double> {};
+
+TEST_P(Strips, ShowWhatIsDrawnAsAWhole) {
+  // Its lines are partly beyond the area.
+  const QImage whole = Drawn(GetParam(), [](QPainter& painter) { painter.drawRect(kArea); });
+  const QImage strips = Drawn(GetParam(), [](QPainter& painter) {
+    DrawInStrips(painter, kArea, kPlainRows, [&] { painter.drawRect(kArea); });
+  });
+  EXPECT_EQ(strips, whole);
+}
+
+INSTANTIATE_TEST_SUITE_P(Scales, Strips, testing::Values(1, 1.1, 1.25, 1.5, 1.75, 2, 3));
+
+/// The largest strip of the area, in rows of the device, and how many there are.
+std::pair<double, int> StripsAt(double ratio, const QRect& area) {
+  double rows = 0;
+  int count = 0;
+  Drawn(ratio, [&](QPainter& painter) {
+    DrawInStrips(painter, area, kPlainRows, [&] {
+      const QRectF strip = painter.hasClipping() ? painter.clipBoundingRect() : QRectF(area);
+      rows = std::max(rows, (strip & QRectF(area)).height() * ratio);
+      ++count;
+    });
+  });
+  return {rows, count};
+}
+
+TEST(Strips, HaveFewRowsOfTheDevice) {
+  for (const double ratio : {1.0, 1.25, 1.5, 2.0, 3.0}) {
+    SCOPED_TRACE(ratio);
+    const auto [rows, count] = StripsAt(ratio, kArea);
+    EXPECT_LE(rows, kPlainRows);
+    EXPECT_GE(count, kArea.height() * ratio / kPlainRows);
+  }
+}
+
+TEST(Strips, WhatIsLowIsDrawnOnce) {
+  EXPECT_EQ(StripsAt(1, QRect(7, 5, 40, kPlainRows)), std::pair(double{kPlainRows}, 1));
+}
+
+TEST(Strips, LeaveTheClipOfThePainter) {
+  const QRect clip(0, 0, 60, 20);
+  const QImage image = Drawn(1, [&](QPainter& painter) {
+    painter.setClipRect(clip);
+    DrawInStrips(painter, kArea, kPlainRows, [&] { painter.drawRect(kArea); });
+    EXPECT_EQ(painter.clipBoundingRect(), QRectF(clip));
+  });
+  EXPECT_EQ(image.pixelColor(20, clip.bottom() + 1), QColor(Qt::white));
+  EXPECT_NE(image.pixelColor(20, clip.bottom()), QColor(Qt::white));
+}
+
+}  // namespace
+}  // namespace halvane
