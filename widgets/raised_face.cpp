@@ -20,8 +20,7 @@ QRectF WithinOutline(const QRect& whole) { return QRectF(whole).adjusted(1, 1, -
 void FillRounded(QPainter& painter, const QRectF& shape, double rounding) {
   // With the pixels that an edge shares at a scale that is no whole number.
   const QRect around = shape.toAlignedRect().adjusted(-1, -1, 1, 1);
-  DrawInStrips(painter, around, kSmoothRows,
-               [&] { painter.drawRoundedRect(shape, rounding, rounding); });
+  DrawInStrips(painter, around, [&] { painter.drawRoundedRect(shape, rounding, rounding); });
 }
 
 QRectF RaisedTop(const QRect& whole) {

@@ -123,7 +123,7 @@ void ReadableStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* 
                                   QPainter* painter, const QWidget* widget) const {
   const auto draw = [&] { QProxyStyle::drawPrimitive(element, option, painter, widget); };
   if (element == PE_FrameGroupBox || element == PE_FrameTabWidget) {
-    DrawInStrips(*painter, option->rect, kPlainRows, draw);
+    DrawInStrips(*painter, option->rect, draw);
   } else {
     draw();
   }
@@ -149,7 +149,12 @@ void ReadableStyle::drawControl(ControlElement element, const QStyleOption* opti
 
 void ReadableStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
                                        QPainter* painter, const QWidget* widget) const {
-  QProxyStyle::drawComplexControl(control, option, painter, widget);
+  const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option);
+  if (control == CC_ScrollBar && bar != nullptr) {
+    DrawScrollBar(*bar, *painter, widget);
+  } else {
+    QProxyStyle::drawComplexControl(control, option, painter, widget);
+  }
   if (!HasHighContrast(option->palette)) return;
   const QColor color = OutlineColor(*option);
   const auto place = [&](SubControl part) {
@@ -169,6 +174,19 @@ void ReadableStyle::drawComplexControl(ComplexControl control, const QStyleOptio
     Outline(*painter, option->rect, color);
     Outline(*painter, place(SC_ScrollBarSlider), color);
   }
+}
+
+void ReadableStyle::DrawScrollBar(const QStyleOptionSlider& option, QPainter& painter,
+                                  const QWidget* widget) const {
+  const auto draw = [&](SubControls parts) {
+    QStyleOptionSlider some = option;
+    some.subControls &= parts;
+    QProxyStyle::drawComplexControl(CC_ScrollBar, &some, &painter, widget);
+  };
+  // The groove has a clip of its own.
+  draw(SC_ScrollBarGroove);
+  DrawInStrips(painter, option.rect, [&] { draw(SC_ScrollBarSlider); });
+  draw(~SubControls(SC_ScrollBarGroove | SC_ScrollBarSlider));
 }
 
 QRect ReadableStyle::subControlRect(ComplexControl control, const QStyleOptionComplex* option,

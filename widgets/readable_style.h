@@ -2,6 +2,8 @@
 
 #include <QProxyStyle>
 
+class QStyleOptionSlider;
+
 namespace halvane {
 
 /// Whether a palette is one of a desktop for people who see little, which knows no shades between
@@ -26,6 +28,10 @@ class ReadableStyle : public QProxyStyle {
   /// A frame's box that can't be ticked has no place: its caption would be measured for it.
   [[nodiscard]] QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option,
                                      SubControl part, const QWidget* widget) const override;
+
+ private:
+  void DrawScrollBar(const QStyleOptionSlider& option, QPainter& painter,
+                     const QWidget* widget) const;
 };
 
 }  // namespace halvane

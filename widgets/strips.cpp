@@ -15,13 +15,13 @@ constexpr int kBeyond = 4;
 
 }  // namespace
 
-void DrawInStrips(QPainter& painter, const QRect& area, int rows,
-                  const std::function<void()>& draw) {
+void DrawInStrips(QPainter& painter, const QRect& area, const std::function<void()>& draw) {
   const QTransform transform = painter.deviceTransform();
   const double scale = transform.m22();
   const bool fits = transform.type() <= QTransform::TxScale && scale > 0 &&
                     scale * kWhole == std::floor(scale * kWhole);
-  const int step = fits ? std::max(1, static_cast<int>(rows / scale) / kWhole) * kWhole : 0;
+  const int step =
+      fits ? std::max(1, static_cast<int>(kRowsOfAStrip / scale) / kWhole) * kWhole : 0;
   if (!fits || area.height() <= step) return draw();
   const QRect wide = area.adjusted(-kBeyond, 0, kBeyond, 0);
   for (int top = area.top(); top <= area.bottom(); top += step) {

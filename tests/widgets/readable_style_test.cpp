@@ -8,6 +8,7 @@
 #include <QPainter>
 #include <QProxyStyle>
 #include <QRadioButton>
+#include <QScrollBar>
 #include <QSlider>
 #include <QStyleOptionGroupBox>
 #include <QStyleOptionTabWidgetFrame>
@@ -142,11 +143,21 @@ class MeasuringStyle : public QProxyStyle {
  public:
   void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override {
-    const QRectF place = painter->hasClipping() ? painter->clipBoundingRect() : option->rect;
-    highest = std::max(highest, (place & QRectF(option->rect)).height());
+    Measure(*option, *painter);
     QProxyStyle::drawPrimitive(element, option, painter, widget);
   }
+  void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                          QPainter* painter, const QWidget* widget) const override {
+    if (option->subControls.testFlag(SC_ScrollBarSlider)) Measure(*option, *painter);
+    QProxyStyle::drawComplexControl(control, option, painter, widget);
+  }
   mutable double highest = 0;
+
+ private:
+  void Measure(const QStyleOption& option, const QPainter& painter) const {
+    const QRectF place = painter.hasClipping() ? painter.clipBoundingRect() : option.rect;
+    highest = std::max(highest, (place & QRectF(option.rect)).height());
+  }
 };
 
 TEST(ReadableStyle, FramesAreDrawnWithoutWakingThreads) {
@@ -161,6 +172,38 @@ TEST(ReadableStyle, FramesAreDrawnWithoutWakingThreads) {
     option.rect = ground.rect();
     QPainter painter(&ground);
     style.drawPrimitive(element, &option, &painter, nullptr);
+    EXPECT_GT(base->highest, 0);
+    EXPECT_LT(base->highest, 96);
+  }
+}
+
+TEST(ReadableStyle, ScrollBarsAreTheToolkitsWithoutWakingThreads) {
+  QScrollBar bar(Qt::Vertical);
+  bar.resize(16, 500);
+  bar.setRange(0, 30);
+  bar.setPageStep(60);
+  QStyleOptionSlider option;
+  option.initFrom(&bar);
+  option.orientation = bar.orientation();
+  option.maximum = bar.maximum();
+  option.pageStep = bar.pageStep();
+  for (const int place : {0, 10, 30}) {
+    SCOPED_TRACE(place);
+    option.sliderPosition = place;
+    option.subControls = QStyle::SC_All;
+    const auto drawn = [&](QStyle& style) {
+      QImage ground(bar.size(), QImage::Format_RGB32);
+      ground.fill(Qt::white);
+      QPainter painter(&ground);
+      style.drawComplexControl(QStyle::CC_ScrollBar, &option, &painter, nullptr);
+      return ground;
+    };
+    MeasuringStyle whole;
+    auto* base = new MeasuringStyle;
+    ReadableStyle style;
+    style.setBaseStyle(base);
+    EXPECT_EQ(drawn(style), drawn(whole));
+    EXPECT_EQ(whole.highest, bar.height());
     EXPECT_GT(base->highest, 0);
     EXPECT_LT(base->highest, 96);
   }

@@ -33,7 +33,7 @@ TEST_P(Strips, ShowWhatIsDrawnAsAWhole) {
   // Its lines are partly beyond the area.
   const QImage whole = Drawn(GetParam(), [](QPainter& painter) { painter.drawRect(kArea); });
   const QImage strips = Drawn(GetParam(), [](QPainter& painter) {
-    DrawInStrips(painter, kArea, kPlainRows, [&] { painter.drawRect(kArea); });
+    DrawInStrips(painter, kArea, [&] { painter.drawRect(kArea); });
   });
   EXPECT_EQ(strips, whole);
 }
@@ -45,7 +45,7 @@ std::pair<double, int> StripsAt(double ratio, const QRect& area) {
   double rows = 0;
   int count = 0;
   Drawn(ratio, [&](QPainter& painter) {
-    DrawInStrips(painter, area, kPlainRows, [&] {
+    DrawInStrips(painter, area, [&] {
       const QRectF strip = painter.hasClipping() ? painter.clipBoundingRect() : QRectF(area);
       rows = std::max(rows, (strip & QRectF(area)).height() * ratio);
       ++count;
@@ -58,20 +58,20 @@ TEST(Strips, HaveFewRowsOfTheDevice) {
   for (const double ratio : {1.0, 1.25, 1.5, 2.0, 3.0}) {
     SCOPED_TRACE(ratio);
     const auto [rows, count] = StripsAt(ratio, kArea);
-    EXPECT_LE(rows, kPlainRows);
-    EXPECT_GE(count, kArea.height() * ratio / kPlainRows);
+    EXPECT_LE(rows, kRowsOfAStrip);
+    EXPECT_GE(count, kArea.height() * ratio / kRowsOfAStrip);
   }
 }
 
 TEST(Strips, WhatIsLowIsDrawnOnce) {
-  EXPECT_EQ(StripsAt(1, QRect(7, 5, 40, kPlainRows)), std::pair(double{kPlainRows}, 1));
+  EXPECT_EQ(StripsAt(1, QRect(7, 5, 40, kRowsOfAStrip)), std::pair(double{kRowsOfAStrip}, 1));
 }
 
 TEST(Strips, LeaveTheClipOfThePainter) {
   const QRect clip(0, 0, 60, 20);
   const QImage image = Drawn(1, [&](QPainter& painter) {
     painter.setClipRect(clip);
-    DrawInStrips(painter, kArea, kPlainRows, [&] { painter.drawRect(kArea); });
+    DrawInStrips(painter, kArea, [&] { painter.drawRect(kArea); });
     EXPECT_EQ(painter.clipBoundingRect(), QRectF(clip));
   });
   EXPECT_EQ(image.pixelColor(20, clip.bottom() + 1), QColor(Qt::white));
