@@ -67,8 +67,9 @@ class FormThatStays : public ShellTest, public testing::WithParamInterface<Tool>
 
   /// Gives a form the rounds that its first layout takes behind its first picture.
   void LetRest(ModalSteps& steps) {
-    for (int round = 0; round < 5; ++round)
+    for (int round = 0; round < 5; ++round) {
       steps.Then(form_->objectName(), [](QWidget&) { Draw(); });
+    }
   }
 
   std::unique_ptr<ToolForm> form_;
