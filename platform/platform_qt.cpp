@@ -1,5 +1,6 @@
 #include "platform/platform_qt.h"
 
+#include <QApplication>
 #include <QClipboard>
 #include <QCoreApplication>
 #include <QCursor>
@@ -63,6 +64,12 @@ QString RunFileDialog(QFileDialog& dialog, const QString& filter) {
   // Each pattern has a name of its own; behind it the toolkit would show the pattern once more.
   dialog.setOption(QFileDialog::HideNameFilterDetails);
   dialog.setNameFilters(filter.split(";;"));
+  // The list of names below the box would stay until the dialog has written its settings to the
+  // disk, and keep the keys that come meanwhile.
+  const auto hideNames = [] {
+    if (QWidget* names = QApplication::activePopupWidget()) names->close();
+  };
+  QObject::connect(&dialog, &QDialog::finished, &dialog, hideNames, Qt::SingleShotConnection);
   return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
 }
 

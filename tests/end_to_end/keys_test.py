@@ -3,10 +3,12 @@
 the press, and in no other. Exit status 77 says that a tool is missing and the test was skipped."""
 
 import os
+import shutil
+import subprocess
 import sys
 
 from desktop import wait_until
-from program import CTD, MAIN, MESSAGE, OCRA, REBA, RULA, SI, Job, Program, run, write_job
+from program import CTD, MAIN, MESSAGE, OCRA, REBA, RULA, SI, SKIPPED, Job, Program, run, write_job
 
 OCRA_ANALYST = (207, 39)
 OCRA_ADD_TASK = (161, 543)
@@ -16,6 +18,10 @@ CTD_ADD_TASK = (51, 668)
 CTD_WORK_TIME = (855, 162)
 FILE_MENU = (19, 9)
 SAVE_AS = (62, 76)
+
+# A disk that takes 0.4 seconds for whatever has to be on it. The program itself is the child that is started.
+SLOW_DISK = ("strace", "-D", "-f", "-qq", "-o", os.devnull, "-e", "trace=fsync,fdatasync",
+             "-e", "inject=fsync,fdatasync:delay_enter=400000")
 
 # So long is a key down that a hand presses without haste, and one that it forgets.
 PRESSED = 0.12
@@ -167,6 +173,30 @@ def open_with_enter(desktop, program):
     run_.end()
 
 
+def keys_behind_dialogs(desktop, program):
+    """Keys reach the tool that come behind Save As and Open while these write their settings to a slow disk, also when the
+    box of the file's name offers names."""
+    if shutil.which("strace") is None or subprocess.run([*SLOW_DISK, "true"], check=False).returncode != 0:
+        print("skipped: programs can't be traced here")
+        return SKIPPED
+    run_ = Program(desktop, program, SLOW_DISK)
+    run_.open(RULA)
+    run_.save_as(os.path.join(desktop.folder, "job.qjt"))
+    for _ in range(3):
+        desktop.keys("alt+f", "Down", "Return")
+        # A job that the tool has shown may count as changed.
+        title = wait_until(lambda: desktop.active("Open", MESSAGE), "the dialog or the question")[0]
+        if title == MESSAGE:
+            desktop.keys("n")
+        desktop.window("Open")
+        desktop.type(os.path.join(desktop.folder, "job.qjt"))
+        desktop.keys("Return")
+        desktop.gone("Open")
+        desktop.window(RULA.title)
+    run_.end()
+    return 0
+
+
 def answer_is_kept(desktop, program):
     """Tab comes to the hand that is chosen, where Space changes nothing; the arrows choose from there."""
     run_ = Program(desktop, program)
@@ -245,6 +275,7 @@ CASES = {
     "key_down_elsewhere": key_down_elsewhere,
     "new_with_a_held_key": new_with_a_held_key,
     "open_with_enter": open_with_enter,
+    "keys_behind_dialogs": keys_behind_dialogs,
     "answer_is_kept": answer_is_kept,
     "tabs_by_key": tabs_by_key,
     "file_menu_by_letter": file_menu_by_letter,

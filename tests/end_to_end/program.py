@@ -50,13 +50,13 @@ def wait_for_buttons(desktop, main):
 
 
 class Program:
-    """A run of the program, its main window idle."""
+    """A run of the program, its main window idle; `below` is a command that it runs below."""
 
-    def __init__(self, desktop, program):
+    def __init__(self, desktop, program, below=()):
         self.desktop = desktop
         self.said = os.path.join(desktop.folder, "standard error")
         with open(self.said, "wb") as file:
-            self.process = desktop.start([program], stderr=file)
+            self.process = desktop.start([*below, program], stderr=file)
         self.main = desktop.shown(MAIN)
         wait_for_buttons(desktop, self.main)
 

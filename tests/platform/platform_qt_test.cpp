@@ -10,8 +10,10 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QLineEdit>
+#include <QListView>
 #include <QMessageBox>
 #include <QPageSetupDialog>
+#include <QPointer>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPushButton>
@@ -125,6 +127,29 @@ TEST_F(RealPlatform, OpenDialogOffersThePatternsAndGivesThePath) {
   EXPECT_EQ(platform.ChooseFileToOpen(nullptr, kFilter), File("job.qjt"));
   EXPECT_EQ(patterns, (QStringList{"*.qjt (*.qjt)", "All files (*)"}));
   EXPECT_EQ(shown, (QStringList{"*.qjt", "All files"}));
+}
+
+TEST_F(RealPlatform, OfferedNamesGoWithTheFileDialog) {
+  WriteBytes(folder.File("job.qjt"), "");
+  for (const bool isToOpen : {true, false}) {
+    ModalSteps steps;
+    QPointer<QFileDialog> dialog;
+    bool areShown = true;
+    steps.Then<QFileDialog>("QFileDialog", [&](QFileDialog& shown) {
+      dialog = &shown;
+      QTest::keyClicks(&Find<QLineEdit>(shown, "fileNameEdit"), File("jo"));
+    });
+    steps.Then<QListView>("QListView", [&](QListView& names) {
+      // Of those who hear of it the platform is the first.
+      QObject::connect(dialog, &QDialog::finished, [&] { areShown = names.isVisible(); });
+      QTest::keyClicks(&names, isToOpen ? "b.qjt" : "b 2.qjt");
+      QTest::keyClick(&names, Qt::Key_Return);
+    });
+    const QString chosen = isToOpen ? platform.ChooseFileToOpen(nullptr, kFilter)
+                                    : platform.ChooseFileToSave(nullptr, kFilter);
+    EXPECT_EQ(chosen, File(isToOpen ? "job.qjt" : "job 2.qjt"));
+    EXPECT_FALSE(areShown) << isToOpen;
+  }
 }
 
 TEST_F(RealPlatform, CancelledFileDialogsGiveNoPath) {
