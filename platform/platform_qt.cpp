@@ -11,6 +11,7 @@
 #include <QFontMetrics>
 #include <QGridLayout>
 #include <QGuiApplication>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QMouseEvent>
 #include <QPageSetupDialog>
@@ -45,6 +46,9 @@ constexpr std::array kButtons{
     ButtonRow{Answer::Cancel, QMessageBox::Cancel},
     ButtonRow{Answer::Ok, QMessageBox::Ok},
 };
+
+/// What is printed to when the user names no other file.
+constexpr const char* kPrintedFile = "print.pdf";
 
 /// A title bar has so much beside its title: icon and buttons.
 constexpr int kBesideTitle = 128;
@@ -133,6 +137,9 @@ bool QtPlatform::ChoosePrinter(QWidget* parent) {
   dialog.setOption(QAbstractPrintDialog::PrintSelection, false);
   dialog.setOption(QAbstractPrintDialog::PrintPageRange, false);
   dialog.setOption(QAbstractPrintDialog::PrintCurrentPage, false);
+  // On X11 alone the toolkit proposes a file in the folder.
+  auto* file = dialog.findChild<QLineEdit*>("filename");
+  if (file != nullptr && file->text().endsWith('/')) file->setText(file->text() + kPrintedFile);
   const auto* properties = dialog.findChild<QPushButton*>("properties");
   bool sawProperties = properties == nullptr;
   if (properties != nullptr) {

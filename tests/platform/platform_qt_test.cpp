@@ -218,6 +218,25 @@ TEST_F(RealPlatform, PrinterDialogOffersNoSelectionOrPagesAndCanBeCancelled) {
   EXPECT_FALSE(offersParts);
 }
 
+TEST_F(RealPlatform, PrinterDialogProposesAFileUntilOneIsChosen) {
+  const auto proposed = [this] {
+    ModalSteps steps;
+    QString shown;
+    steps.Then<QPrintDialog>("QPrintDialog", [&](QPrintDialog& dialog) {
+      shown = Find<QLineEdit>(dialog, "filename").text();
+      QTest::keyClick(&dialog, Qt::Key_Escape);
+    });
+    EXPECT_FALSE(platform.ChoosePrinter(nullptr));
+    return shown;
+  };
+  // In the folder of the user, or where the program runs below it.
+  const QFileInfo first(proposed());
+  EXPECT_EQ(first.fileName(), "print.pdf");
+  EXPECT_TRUE(first.dir().exists()) << first.path().toStdString();
+  platform.CurrentPrinter().setOutputFileName(File("report.pdf"));
+  EXPECT_EQ(proposed(), File("report.pdf"));
+}
+
 TEST_F(RealPlatform, PrinterDialogAcceptedGivesThePrinterToPrintOn) {
   platform.CurrentPrinter().setOutputFileName(File("report.pdf"));
   ModalSteps steps;
