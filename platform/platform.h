@@ -53,7 +53,7 @@ class Platform {
   virtual bool ChoosePrinter(QWidget* parent) = 0;
   /// Lets the user set up paper and orientation of the current printer.
   virtual void SetUpPrinter(QWidget* parent) = 0;
-  /// Prints a whole document on the current printer.
+  /// Prints a whole document on the current printer, in whose queue it has its title.
   virtual void Print(const QTextDocument& document) = 0;
 
   virtual void ClearClipboard() = 0;

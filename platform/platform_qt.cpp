@@ -22,8 +22,10 @@
 #include <QSaveFile>
 #include <QScreen>
 #include <QStandardPaths>
+#include <QTextDocument>
 #include <QWidget>
 #include <QWindow>
+#include <algorithm>
 #include <array>
 
 #include "core/user_folders.h"
@@ -147,21 +149,48 @@ bool QtPlatform::ChoosePrinter(QWidget* parent) {
   }
   if (dialog.exec() != QDialog::Accepted) return false;
   // The toolkit's own dialog goes back to a printer's usual paper unless another one is chosen in
-  // the printer's properties; the paper of the setup dialog has to hold.
+  // the printer's properties; what was set up has to hold.
   if (sawProperties) {
-    paper_.reset();
-  } else if (paper_) {
-    CurrentPrinter().setPageSize(*paper_);
+    setup_.reset();
+  } else if (setup_) {
+    UseSetup();
   }
   return true;
 }
 
 void QtPlatform::SetUpPrinter(QWidget* parent) {
-  QPageSetupDialog dialog(&CurrentPrinter(), parent);
-  if (dialog.exec() == QDialog::Accepted) paper_ = CurrentPrinter().pageLayout().pageSize();
+  // Of a printer of the system the toolkit's dialog takes over the orientation alone: it asks for
+  // margins of nothing, which no printer has. A file can have any.
+  QPrinter paper(QPrinter::HighResolution);
+  paper.setOutputFormat(QPrinter::PdfFormat);
+  paper.setPageLayout(CurrentPrinter().pageLayout());
+  QPageSetupDialog dialog(&paper, parent);
+  if (dialog.exec() != QDialog::Accepted) return;
+  setup_ = paper.pageLayout();
+  UseSetup();
 }
 
-void QtPlatform::Print(const QTextDocument& document) { PrintPages(document, CurrentPrinter()); }
+void QtPlatform::UseSetup() {
+  QPrinter& printer = CurrentPrinter();
+  printer.setPageSize(setup_->pageSize());
+  printer.setPageOrientation(setup_->orientation());
+  QPageLayout layout = printer.pageLayout();
+  layout.setUnits(setup_->units());
+  const QMarginsF margins = setup_->margins();
+  const QMarginsF least = layout.minimumMargins();
+  printer.setPageMargins(
+      {std::max(margins.left(), least.left()), std::max(margins.top(), least.top()),
+       std::max(margins.right(), least.right()), std::max(margins.bottom(), least.bottom())},
+      setup_->units());
+}
+
+void QtPlatform::Print(const QTextDocument& document) {
+  QPrinter& printer = CurrentPrinter();
+  printer.setDocName(document.metaInformation(QTextDocument::DocumentTitle));
+  PrintPages(document, printer);
+  // The next dialog would propose a file of this name for another document.
+  printer.setDocName({});
+}
 
 void QtPlatform::ClearClipboard() { QGuiApplication::clipboard()->clear(); }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QPageSize>
+#include <QPageLayout>
 #include <memory>
 #include <optional>
 
@@ -43,8 +43,11 @@ class QtPlatform : public Platform {
   QPrinter& CurrentPrinter();
 
  private:
+  /// Gives the current printer what was set up, with the margins that it needs at least.
+  void UseSetup();
+
   std::unique_ptr<QPrinter> printer_;
-  std::optional<QPageSize> paper_;  ///< chosen in the setup dialog and not replaced since
+  std::optional<QPageLayout> setup_;  ///< chosen in the setup dialog and not replaced since
 };
 
 }  // namespace halvane

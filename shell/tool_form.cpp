@@ -195,6 +195,7 @@ void ToolForm::mnuPrint_Click() {
     if (!ThePlatform().ChoosePrinter(this)) return;
     WriteAndShow([this] { printReport(report_); });
     pane_->SelectAll();
+    pane_->document()->setMetaInformation(QTextDocument::DocumentTitle, windowTitle());
     ThePlatform().Print(*pane_->document());
     pane_->Select(0, 0);
   });

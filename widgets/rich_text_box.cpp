@@ -214,6 +214,8 @@ void RichTextBox::Select(int start, int length) {
   cursor.setPosition(std::min(start, last));
   cursor.setPosition(std::min(start + length, last), QTextCursor::KeepAnchor);
   setTextCursor(cursor);
+  // The caret at the start may be in sight without the margin above it.
+  if (cursor.position() == 0) verticalScrollBar()->setValue(verticalScrollBar()->minimum());
 }
 
 void RichTextBox::SelectAll() { Select(0, document()->characterCount() - 1); }

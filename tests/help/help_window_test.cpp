@@ -257,6 +257,8 @@ TEST_F(HelpViewing, ThePageIsPrintedUnlessThePrinterIsCancelled) {
   Choose(window(), "HelpPrint");
   ASSERT_EQ(platform.printed().size(), 1);
   EXPECT_EQ(platform.printed().front(), page().toPlainText());
+  EXPECT_EQ(platform.printedTitles().front(), page().documentTitle());
+  EXPECT_NE(page().documentTitle(), "");
 }
 
 TEST_F(HelpViewing, AClosedWindowIsMadeAnewByTheNextCommand) {

@@ -249,15 +249,19 @@ TEST_F(RealPlatform, PrinterDialogAcceptedGivesThePrinterToPrintOn) {
   EXPECT_TRUE(platform.ChoosePrinter(nullptr));
 }
 
-TEST_F(RealPlatform, PageSetupWorksOnTheCurrentPrinter) {
+TEST_F(RealPlatform, PageSetupShowsTheCurrentPrintersPaperAndCanBeCancelled) {
+  platform.CurrentPrinter().setPageSize(QPageSize(QPageSize::A3));
   ModalSteps steps;
-  bool same = false;
+  QString shown;
   steps.Then<QPageSetupDialog>("QPageSetupDialog", [&](QPageSetupDialog& dialog) {
-    same = dialog.printer() == &platform.CurrentPrinter();
+    auto& paper = Find<QComboBox>(dialog, "pageSizeCombo");
+    shown = paper.currentText();
+    paper.setCurrentIndex(paper.findText(QPageSize::name(QPageSize::A5)));
     QTest::keyClick(&dialog, Qt::Key_Escape);
   });
   platform.SetUpPrinter(nullptr);
-  EXPECT_TRUE(same);
+  EXPECT_EQ(shown, QPageSize::name(QPageSize::A3));
+  EXPECT_EQ(platform.CurrentPrinter().pageLayout().pageSize().id(), QPageSize::A3);
 }
 
 /// Presses a dialog's OK, as Return in a box would not always.
@@ -278,6 +282,7 @@ TEST_F(RealPlatform, PaperAndOrientationOfPageSetupHoldForEachPrint) {
   });
   platform.SetUpPrinter(nullptr);
   QTextDocument document("printed");
+  document.setMetaInformation(QTextDocument::DocumentTitle, "Report");
   for (const char* name : {"first.pdf", "second.pdf"}) {
     steps.Then<QPrintDialog>("QPrintDialog", [&](QPrintDialog& dialog) {
       Find<QLineEdit>(dialog, "filename").setText(File(name));
@@ -290,6 +295,10 @@ TEST_F(RealPlatform, PaperAndOrientationOfPageSetupHoldForEachPrint) {
     EXPECT_EQ(page.orientation(), QPageLayout::Landscape) << name;
     EXPECT_NEAR(page.margins(QPageLayout::Millimeter).left(), 12, 0.1) << name;
     EXPECT_TRUE(folder.Names().find(name) != std::string::npos) << folder.Names();
+    // In UTF-16, as the toolkit writes it.
+    const std::string title("/Title (\xfe\xff\0R\0e\0p\0o\0r\0t)", 23);
+    EXPECT_NE(BytesOf(folder.File(name)).find(title), std::string::npos) << name;
+    EXPECT_EQ(platform.CurrentPrinter().docName(), "");
   }
 }
 
@@ -300,25 +309,31 @@ void ChoosePaper(const QDialog& dialog, QPageSize::PageSizeId size) {
   Confirm(dialog);
 }
 
-TEST_F(RealPlatform, PaperOfPageSetupHoldsWhereThePrintDialogTakesThePrintersOwn) {
+TEST_F(RealPlatform, SetupHoldsWhereThePrintDialogTakesThePrintersOwn) {
   ModalSteps steps;
   const QPrinter& printer = platform.CurrentPrinter();
   const auto confirmWithOwnPaper = [this](QPrintDialog& dialog) {
     Find<QLineEdit>(dialog, "filename").setText(File("report.pdf"));
     // What the dialog does for a printer of the system.
-    dialog.printer()->setPageSize(QPageSize(QPageSize::Legal));
+    dialog.printer()->setPageLayout(QPageLayout(QPageSize(QPageSize::Legal), QPageLayout::Portrait,
+                                                {5, 5, 5, 5}, QPageLayout::Millimeter));
     Confirm(dialog);
   };
   steps.Then<QPrintDialog>("QPrintDialog", confirmWithOwnPaper);
   EXPECT_TRUE(platform.ChoosePrinter(nullptr));
   EXPECT_EQ(printer.pageLayout().pageSize().id(), QPageSize::Legal) << "nothing was chosen yet";
 
-  steps.Then<QPageSetupDialog>(
-      "QPageSetupDialog", [](QPageSetupDialog& dialog) { ChoosePaper(dialog, QPageSize::A5); });
+  steps.Then<QPageSetupDialog>("QPageSetupDialog", [](QPageSetupDialog& dialog) {
+    Find<QRadioButton>(dialog, "landscape").click();
+    Find<QDoubleSpinBox>(dialog, "bottomMargin").setValue(21);
+    ChoosePaper(dialog, QPageSize::A5);
+  });
   platform.SetUpPrinter(nullptr);
   steps.Then<QPrintDialog>("QPrintDialog", confirmWithOwnPaper);
   EXPECT_TRUE(platform.ChoosePrinter(nullptr));
   EXPECT_EQ(printer.pageLayout().pageSize().id(), QPageSize::A5);
+  EXPECT_EQ(printer.pageLayout().orientation(), QPageLayout::Landscape);
+  EXPECT_NEAR(printer.pageLayout().margins(QPageLayout::Millimeter).bottom(), 21, 0.1);
 }
 
 TEST_F(RealPlatform, PaperOfThePrintersPropertiesTakesThePlaceOfThatOfPageSetup) {

@@ -105,6 +105,7 @@ TEST_F(ReportCommands, PrintHasTheLatestValuesAndEndsAtTheStart) {
   EXPECT_TRUE(platform.printed()[0].contains("Job Name: Packing\n"));
   EXPECT_TRUE(platform.printed()[0].contains("Duration of exertion (%)   \t75.0\t2.0\n"));
   EXPECT_EQ(platform.printed()[0], Pane().toPlainText());
+  EXPECT_EQ(platform.printedTitles(), QStringList(form->windowTitle()));
   EXPECT_EQ(whilePrinting, WholeText());
   EXPECT_EQ(Selection(), std::pair(0, 0));
 }

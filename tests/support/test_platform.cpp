@@ -76,6 +76,7 @@ void TestPlatform::SetUpPrinter(QWidget* /*parent*/) {
 void TestPlatform::Print(const QTextDocument& document) {
   if (whenPrinted_) whenPrinted_();
   printed_.append(document.toPlainText());
+  printedTitles_.append(document.metaInformation(QTextDocument::DocumentTitle));
 }
 
 void TestPlatform::ClearClipboard() { clipboard_.append("clear"); }

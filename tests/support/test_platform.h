@@ -66,6 +66,8 @@ class TestPlatform : public Platform {
   [[nodiscard]] const QStringList& filters() const { return filters_; }
   /// The plain text of each printed document.
   [[nodiscard]] const QStringList& printed() const { return printed_; }
+  /// What each of them is called.
+  [[nodiscard]] const QStringList& printedTitles() const { return printedTitles_; }
   /// "clear" or "text: ..." for each operation.
   [[nodiscard]] const QStringList& clipboard() const { return clipboard_; }
   /// Exit status of each end of the program.
@@ -123,6 +125,7 @@ class TestPlatform : public Platform {
   std::vector<ShownMessage> messages_;
   QStringList filters_;
   QStringList printed_;
+  QStringList printedTitles_;
   QStringList clipboard_;
   QStringList copied_;
   std::vector<ProgramCall> started_;

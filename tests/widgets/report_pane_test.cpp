@@ -47,6 +47,18 @@ TEST_F(Pane, TextHasTheReportsLines) {
   EXPECT_EQ(box.toPlainText(), "first\n\nthird\ttab\n");
 }
 
+TEST_F(Pane, CaretAtTheStartIsSeenWithTheMarginAboveIt) {
+  Show([](RichText& report) {
+    for (int line = 0; line < 60; ++line) report.Append("line\r\n");
+  });
+  box.resize(400, 200);
+  box.show();
+  box.SelectAll();
+  ASSERT_GT(box.verticalScrollBar()->value(), 0);
+  box.Select(0, 0);
+  EXPECT_EQ(box.verticalScrollBar()->value(), 0);
+}
+
 TEST_F(Pane, TabStopsStandAtTheirTwips) {
   Show([](RichText& report) {
     report.SetTabCount(2);
