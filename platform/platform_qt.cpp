@@ -143,14 +143,19 @@ bool QtPlatform::ChoosePrinter(QWidget* parent) {
   auto* file = dialog.findChild<QLineEdit*>("filename");
   if (file != nullptr && file->text().endsWith('/')) file->setText(file->text() + kPrintedFile);
   const auto* properties = dialog.findChild<QPushButton*>("properties");
-  bool sawProperties = properties == nullptr;
+  bool hasOwnPaper = properties == nullptr;
   if (properties != nullptr) {
-    QObject::connect(properties, &QPushButton::clicked, [&] { sawProperties = true; });
+    // Comes when the toolkit's own handler has shown them, in a dialog below this one.
+    QObject::connect(properties, &QPushButton::clicked, [&] {
+      for (const QDialog* shown : dialog.findChildren<QDialog*>()) {
+        if (shown->result() == QDialog::Accepted) hasOwnPaper = true;
+      }
+    });
   }
   if (dialog.exec() != QDialog::Accepted) return false;
   // The toolkit's own dialog goes back to a printer's usual paper unless another one is chosen in
   // the printer's properties; what was set up has to hold.
-  if (sawProperties) {
+  if (hasOwnPaper) {
     setup_.reset();
   } else if (setup_) {
     UseSetup();

@@ -341,15 +341,25 @@ TEST_F(RealPlatform, PaperOfThePrintersPropertiesTakesThePlaceOfThatOfPageSetup)
   steps.Then<QPageSetupDialog>(
       "QPageSetupDialog", [](QPageSetupDialog& dialog) { ChoosePaper(dialog, QPageSize::A5); });
   platform.SetUpPrinter(nullptr);
-  steps.Then<QPrintDialog>("QPrintDialog", [&](QPrintDialog& dialog) {
-    steps.Then<QDialog>("QPrintPropertiesDialog",
-                        [](QDialog& properties) { ChoosePaper(properties, QPageSize::Letter); });
-    Find<QLineEdit>(dialog, "filename").setText(File("report.pdf"));
-    Find<QPushButton>(dialog, "properties").click();
-    Confirm(dialog);
-  });
-  EXPECT_TRUE(platform.ChoosePrinter(nullptr));
-  EXPECT_EQ(platform.CurrentPrinter().pageLayout().pageSize().id(), QPageSize::Letter);
+  for (const bool isConfirmed : {false, true}) {
+    steps.Then<QPrintDialog>("QPrintDialog", [&](QPrintDialog& dialog) {
+      steps.Then<QDialog>("QPrintPropertiesDialog", [isConfirmed](QDialog& properties) {
+        if (isConfirmed) return ChoosePaper(properties, QPageSize::Letter);
+        properties.reject();
+      });
+      Find<QLineEdit>(dialog, "filename").setText(File("report.pdf"));
+      Find<QPushButton>(dialog, "properties").click();
+      // What the dialog does for a printer of the system.
+      if (!isConfirmed) {
+        QObject::connect(&dialog, &QDialog::accepted,
+                         [&dialog] { dialog.printer()->setPageSize(QPageSize(QPageSize::Legal)); });
+      }
+      Confirm(dialog);
+    });
+    EXPECT_TRUE(platform.ChoosePrinter(nullptr));
+    EXPECT_EQ(platform.CurrentPrinter().pageLayout().pageSize().id(),
+              isConfirmed ? QPageSize::Letter : QPageSize::A5);
+  }
 }
 
 TEST_F(RealPlatform, RescueFoldersBeginWithTheUsersDocuments) {
