@@ -51,7 +51,7 @@ class Platform {
   /// Lets the user choose the printer, without a choice of selection or pages; false when
   /// cancelled.
   virtual bool ChoosePrinter(QWidget* parent) = 0;
-  /// Lets the user set up paper and orientation of the current printer.
+  /// Lets the user set up paper, orientation and margins of the current printer.
   virtual void SetUpPrinter(QWidget* parent) = 0;
   /// Prints a whole document on the current printer, in whose queue it has its title.
   virtual void Print(const QTextDocument& document) = 0;
