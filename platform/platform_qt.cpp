@@ -25,7 +25,6 @@
 #include <QTextDocument>
 #include <QWidget>
 #include <QWindow>
-#include <algorithm>
 #include <array>
 
 #include "core/user_folders.h"
@@ -179,14 +178,12 @@ void QtPlatform::UseSetup() {
   QPrinter& printer = CurrentPrinter();
   printer.setPageSize(setup_->pageSize());
   printer.setPageOrientation(setup_->orientation());
-  QPageLayout layout = printer.pageLayout();
-  layout.setUnits(setup_->units());
-  const QMarginsF margins = setup_->margins();
-  const QMarginsF least = layout.minimumMargins();
-  printer.setPageMargins(
-      {std::max(margins.left(), least.left()), std::max(margins.top(), least.top()),
-       std::max(margins.right(), least.right()), std::max(margins.bottom(), least.bottom())},
-      setup_->units());
+  QPageLayout own = printer.pageLayout();
+  own.setUnits(setup_->units());
+  // Raises margins that are smaller.
+  QPageLayout wanted = *setup_;
+  wanted.setMinimumMargins(own.minimumMargins());
+  printer.setPageMargins(wanted.margins(), wanted.units());
 }
 
 void QtPlatform::Print(const QTextDocument& document) {
