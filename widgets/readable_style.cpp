@@ -122,7 +122,9 @@ void ReadableStyle::polish(QPalette& palette) {
 void ReadableStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
                                   QPainter* painter, const QWidget* widget) const {
   const auto draw = [&] { QProxyStyle::drawPrimitive(element, option, painter, widget); };
-  if (element == PE_FrameGroupBox || element == PE_FrameTabWidget) {
+  if (element == PE_FrameTabWidget) {
+    DrawInRectangles(*painter, option->rect, draw);
+  } else if (element == PE_FrameGroupBox) {
     DrawInStrips(*painter, option->rect, draw);
   } else {
     draw();

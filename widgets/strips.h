@@ -16,4 +16,10 @@ constexpr int kRowsOfAStrip = 40;
 /// panel.
 void DrawInStrips(QPainter& painter, const QRect& area, const std::function<void()>& draw);
 
+/// The same with a strip's rectangles of what the toolkit has to paint one after the other, for
+/// what has long lines: those that are cut at one rectangle go straight to their pixels, where
+/// beside the children of a widget each pixel would be looked up among all rectangles that there
+/// are.
+void DrawInRectangles(QPainter& painter, const QRect& area, const std::function<void()>& draw);
+
 }  // namespace halvane

@@ -3,7 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <QImage>
+#include <QPaintEngine>
 #include <QPainter>
+#include <QRegion>
 #include <algorithm>
 
 namespace halvane {
@@ -13,12 +15,14 @@ constexpr QSize kGround(60, 300);
 /// At an odd place.
 constexpr QRect kArea(7, 5, 40, 283);
 
-/// A ground of so many device pixels a logical one, and what is drawn on it.
+/// A ground of so many device pixels a logical one, and what is drawn on it, where it is seen: all
+/// over or in a region of device pixels.
 template <typename Draw>
-QImage Drawn(double ratio, Draw draw) {
+QImage Drawn(double ratio, Draw draw, const QRegion& seen = {}) {
   QImage image((QSizeF(kGround) * ratio).toSize(), QImage::Format_ARGB32_Premultiplied);
   image.setDevicePixelRatio(ratio);
   image.fill(Qt::white);
+  image.paintEngine()->setSystemClip(seen);
   QPainter painter(&image);
   // What two strips both drew would be darker.
   painter.setPen(QColor(51, 63, 120, 100));
@@ -76,6 +80,39 @@ TEST(Strips, LeaveTheClipOfThePainter) {
   });
   EXPECT_EQ(image.pixelColor(20, clip.bottom() + 1), QColor(Qt::white));
   EXPECT_NE(image.pixelColor(20, clip.bottom()), QColor(Qt::white));
+}
+
+/// What is seen of a window beside what stands in it, in device pixels.
+QRegion Beside(double ratio) {
+  const auto scaled = [ratio](const QRect& rect) {
+    return QRectF(rect.topLeft() * ratio, QSizeF(rect.size()) * ratio).toAlignedRect();
+  };
+  return QRegion(scaled(QRect(QPoint(), kGround))) - scaled({14, 20, 25, 240}) -
+         scaled({20, 265, 10, 20});
+}
+
+TEST_P(Strips, OfRectanglesShowWhatIsDrawnAsAWhole) {
+  const auto draw = [](QPainter& painter) {
+    painter.drawRect(kArea);
+    painter.fillRect(kArea.adjusted(3, 3, -3, -3), QColor(200, 30, 30, 90));
+  };
+  const QRegion seen = Beside(GetParam());
+  const QImage whole = Drawn(GetParam(), draw, seen);
+  int pieces = 0;
+  const QImage rectangles = Drawn(
+      GetParam(),
+      [&](QPainter& painter) {
+        DrawInRectangles(painter, kArea, [&] {
+          ++pieces;
+          draw(painter);
+        });
+      },
+      seen);
+  EXPECT_EQ(rectangles, whole);
+  // Some of the ground was left out.
+  EXPECT_NE(whole, Drawn(GetParam(), draw));
+  // A strip for each 40 rows, of two pieces beside what stands there; none at a scale without.
+  EXPECT_GT(pieces, GetParam() == 1.1 ? 0 : 10);
 }
 
 }  // namespace
