@@ -1,8 +1,10 @@
 #include "widgets/window_place.h"
 
 #include <QApplication>
+#include <QBackingStore>
 #include <QEvent>
 #include <QLayout>
+#include <QScreen>
 #include <QWidget>
 #include <QWindow>
 #include <algorithm>
@@ -39,6 +41,15 @@ void LayOutAnew(const QWidget& window) {
     if (control->layout() != nullptr) control->layout()->invalidate();
     control->updateGeometry();
   }
+}
+
+/// Has the picture of a window that is about to be shown lie in memory for the whole screen. X11
+/// shares that memory with the program: where a window gets larger than it ever was, all of it is
+/// made anew at each step, while what is there and was never drawn on costs nothing.
+void ReserveScreen(const QWidget& window) {
+  QBackingStore* picture = window.backingStore();
+  if (picture == nullptr || QGuiApplication::platformName() != "xcb") return;
+  picture->resize(window.screen()->size());
 }
 
 }  // namespace
@@ -100,6 +111,7 @@ WindowMeasures WindowPlace::Measure() const {
 void WindowPlace::Show() {
   settled_ = false;
   TakePlace();
+  ReserveScreen(window_);
 }
 
 void WindowPlace::TakePlace() {

@@ -179,8 +179,29 @@ def help_reopened(desktop, program):
     run_.end()
 
 
+def shared_memory(process):
+    """What a program shares with the X server and others, to read and to write: where it begins and ends."""
+    with open(f"/proc/{process.pid}/maps", encoding="utf-8") as maps:
+        return [line.split()[0] for line in maps if line.split()[1] == "rw-s"]
+
+
+def grown(desktop, program):
+    """A window that gets larger than it ever was is drawn in the memory that it had."""
+    run_ = Program(desktop, program)
+    window = run_.open(OCRA)
+    (_, _, width, height), _ = settled(desktop, window)
+    before = shared_memory(run_.process)
+    assert before, "no memory is shared"
+    for step in (20, 40, 60):
+        desktop.xdotool("windowsize", window, width + step, height + step)
+        wait_until(lambda: settled(desktop, window)[0][2:] == (width + step, height + step), "the new size")
+        assert shared_memory(run_.process) == before, "the memory of the window was made anew"
+    run_.end()
+
+
 CASES = {f"on_screen_{name}": on_screen for name in ("small", "flat", "smallest", "large")}
-CASES.update({f"reopened_{name}": reopened for name in ("small", "flat")}, help_reopened_small=help_reopened)
+CASES.update({f"reopened_{name}": reopened for name in ("small", "flat")})
+CASES.update(help_reopened_small=help_reopened, grown_large=grown)
 SIZES = {case: SMALL[case.split("_")[-1]] for case in CASES if not case.endswith("large")}
 
 if __name__ == "__main__":
