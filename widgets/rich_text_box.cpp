@@ -27,6 +27,8 @@ constexpr auto kNews = "Report computed anew";
 constexpr int kNewsMilliseconds = 500;
 /// Paragraphs of a report that is laid out whole before it is painted.
 constexpr std::size_t kMostAtOnce = 256;
+/// From so many paragraphs on that differ all of them are written faster.
+constexpr std::size_t kMostDifferent = 24;
 
 QTextCharFormat CharFormat(const CharacterFormat& format) {
   QTextCharFormat result;
@@ -47,6 +49,11 @@ QTextBlockFormat BlockFormat(const ParagraphFormat& format, int dotsPerInch) {
   }
   result.setTabPositions(tabs);
   return result;
+}
+
+bool HasPicture(const Paragraph& paragraph) {
+  return std::any_of(paragraph.runs.begin(), paragraph.runs.end(),
+                     [](const Run& run) { return !run.picture.empty(); });
 }
 
 }  // namespace
@@ -99,11 +106,66 @@ QSize RichTextBox::minimumSizeHint() const {
 void RichTextBox::ShowReport(const RichText& report) {
   // A report is nothing that the user could undo.
   setUndoRedoEnabled(false);
-  ForgetNotes();
-  document()->clear();
-  CatchUp();
+  ForgetNews();
+  const auto differences = Differences(report);
+  if (!differences) {
+    ForgetPictures();
+    document()->clear();
+  }
   // What its form shows or hides beside a report changes the width that it is laid out in.
   if (isVisible() && window()->layout() != nullptr) window()->layout()->activate();
+  CatchUp();
+  if (differences) {
+    WriteAgain(*differences, report);
+  } else {
+    WriteAnew(report);
+  }
+  KeepShown(report);
+  setUndoRedoEnabled(!isReadOnly());
+  Select(0, 0);
+  ensureCursorVisible();
+  // A pane that is cleared is no news.
+  if (!document()->isEmpty()) newsDelay_.start();
+}
+
+void RichTextBox::KeepShown(const RichText& report) {
+  document()->setModified(false);
+  dotsPerInch_ = logicalDpiX();
+  shown_.clear();
+  if (report.paragraphs().size() <= kMostAtOnce) shown_ = report.paragraphs();
+}
+
+std::optional<std::vector<std::size_t>> RichTextBox::Differences(const RichText& report) const {
+  const std::vector<Paragraph>& paragraphs = report.paragraphs();
+  // What was typed is no longer there when the next report is.
+  const bool stands = !document()->isModified() && dotsPerInch_ == logicalDpiX();
+  if (!stands || paragraphs.size() != shown_.size()) return std::nullopt;
+  std::vector<std::size_t> differences;
+  for (std::size_t i = 0; i < paragraphs.size(); ++i) {
+    if (paragraphs[i] == shown_[i]) continue;
+    if (HasPicture(paragraphs[i]) || HasPicture(shown_[i])) return std::nullopt;
+    differences.push_back(i);
+    if (differences.size() > kMostDifferent) return std::nullopt;
+  }
+  return differences;
+}
+
+void RichTextBox::WriteAgain(const std::vector<std::size_t>& paragraphs, const RichText& report) {
+  for (const std::size_t number : paragraphs) {
+    const Paragraph& paragraph = report.paragraphs()[number];
+    QTextCursor cursor(document()->findBlockByNumber(static_cast<int>(number)));
+    cursor.beginEditBlock();
+    cursor.movePosition(QTextCursor::EndOfBlock, QTextCursor::KeepAnchor);
+    cursor.removeSelectedText();
+    cursor.setBlockFormat(BlockFormat(paragraph.format, dotsPerInch_));
+    for (const Run& run : paragraph.runs) {
+      cursor.insertText(QString::fromStdString(run.text), CharFormat(run.format));
+    }
+    cursor.endEditBlock();
+  }
+}
+
+void RichTextBox::WriteAnew(const RichText& report) {
   // A bar that goes with the old text and comes back with the new one would have all of it laid out
   // in one width more each time.
   setVerticalScrollBarPolicy(IsLikelyToScroll(report) ? Qt::ScrollBarAlwaysOn
@@ -120,15 +182,12 @@ void RichTextBox::ShowReport(const RichText& report) {
     document()->setPageSize(page);
   }
   setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
-  setUndoRedoEnabled(!isReadOnly());
-  Select(0, 0);
-  ensureCursorVisible();
-  // A pane that is cleared is no news.
-  if (!document()->isEmpty()) newsDelay_.start();
 }
 
 bool RichTextBox::IsLikelyToScroll(const RichText& report) const {
   const auto lines = static_cast<int>(report.paragraphs().size());
+  // The paper's font takes as long to load as a page to draw.
+  if (lines <= 1) return false;
   return lines * QFontMetrics(document()->defaultFont()).height() > viewport()->height();
 }
 
@@ -173,11 +232,14 @@ void RichTextBox::InsertPicture(QTextCursor& cursor, const Run& run) {
   pictures_.push_back(new ReportNote(*this, QString::fromStdString(run.sense), place));
 }
 
-void RichTextBox::ForgetNotes() {
+void RichTextBox::ForgetNews() {
   newsDelay_.stop();
-  for (const ReportNote* note : notes()) delete note;
+  delete std::exchange(news_, nullptr);
+}
+
+void RichTextBox::ForgetPictures() {
+  for (const ReportNote* picture : pictures_) delete picture;
   pictures_.clear();
-  news_ = nullptr;
 }
 
 void RichTextBox::TellNews() {
@@ -235,11 +297,14 @@ bool RichTextBox::event(QEvent* event) {
 }
 
 void RichTextBox::resizeEvent(QResizeEvent* event) {
-  // A pane that comes into view in a window gets its size first and then, mostly, a new report: the
-  // old one would be laid out for nothing.
-  isBehind_ =
+  // A pane that comes into view in a window gets its size in several steps and then, mostly, a new
+  // report: the old one would be laid out for nothing.
+  const bool comesIntoView =
       !isWindow() && window()->isVisible() && !viewport()->isVisible() && !document()->isEmpty();
-  if (!isBehind_) QTextEdit::resizeEvent(event);
+  isBehind_ = isBehind_ || comesIntoView;
+  if (isBehind_) return;
+  QTextEdit::resizeEvent(event);
+  laidOut_ = event->size();
 }
 
 void RichTextBox::showEvent(QShowEvent* event) {
@@ -249,8 +314,9 @@ void RichTextBox::showEvent(QShowEvent* event) {
 
 void RichTextBox::CatchUp() {
   if (!std::exchange(isBehind_, false)) return;
-  QResizeEvent whole(viewport()->size(), QSize());
-  QTextEdit::resizeEvent(&whole);
+  QResizeEvent all(viewport()->size(), laidOut_);
+  QTextEdit::resizeEvent(&all);
+  laidOut_ = all.size();
 }
 
 QMimeData* RichTextBox::createMimeDataFromSelection() const {

@@ -2,6 +2,8 @@
 
 #include <QTextEdit>
 #include <QTimer>
+#include <cstddef>
+#include <optional>
 #include <vector>
 
 #include "core/rich_text.h"
@@ -26,7 +28,8 @@ class RichTextBox : public QTextEdit {
   void SetLeast(int columns, int lines);
   [[nodiscard]] QSize minimumSizeHint() const override;
 
-  /// Shows `report` with the caret at its start. A long one is laid out while it stands there.
+  /// Shows `report` with the caret at its start. A long one is laid out while it stands there. Of
+  /// a short one only the paragraphs are written anew that the report shown before has not.
   void ShowReport(const RichText& report);
 
   /// Selects `length` characters from `start` on; a line end is one character here.
@@ -54,15 +57,25 @@ class RichTextBox : public QTextEdit {
   void CatchUp();
   /// Whether a report is longer than the pane; a wrong guess costs a second layout.
   [[nodiscard]] bool IsLikelyToScroll(const RichText& report) const;
-  /// Fills the empty pane.
+  /// The paragraphs in which a report differs from the one that is shown, where writing those anew
+  /// makes that one of it.
+  [[nodiscard]] std::optional<std::vector<std::size_t>> Differences(const RichText& report) const;
+  void WriteAgain(const std::vector<std::size_t>& paragraphs, const RichText& report);
+  /// Fills the empty pane, whatever its size is.
+  void WriteAnew(const RichText& report);
   void Fill(const RichText& report);
+  void KeepShown(const RichText& report);
   void InsertPicture(QTextCursor& cursor, const Run& run);
-  void ForgetNotes();
+  void ForgetNews();
+  void ForgetPictures();
   void TellNews();
 
   int leastColumns_ = 0;
   int leastLines_ = 0;
-  bool isBehind_ = false;  ///< the text is laid out for another size
+  bool isBehind_ = false;         ///< the text is laid out for another size
+  QSize laidOut_;                 ///< that size
+  std::vector<Paragraph> shown_;  ///< none of a long report
+  int dotsPerInch_ = 0;           ///< that they are laid out with
   std::vector<ReportNote*> pictures_;
   ReportNote* news_ = nullptr;
   QTimer newsDelay_;

@@ -15,3 +15,4 @@ def rows(bench):
         sides = bench.samples("report_tab", key, "quiet", runs=bench.many(3, quick=1))
         yield Row(f"{name}, first click on the report tab", of("first", sides), "a frame of 60 Hz", FIRST, goal=1)
         yield Row(f"{name}, later click on it", of("later", sides), "8 ms", LATER, goal=1, judged=ninetieth)
+        yield Row(f"{name}, later, with another job name", of("changed", sides), "8 ms", LATER, goal=1, judged=ninetieth)
