@@ -180,15 +180,15 @@ void ReadableStyle::drawComplexControl(ComplexControl control, const QStyleOptio
 
 void ReadableStyle::DrawScrollBar(const QStyleOptionSlider& option, QPainter& painter,
                                   const QWidget* widget) const {
-  const auto draw = [&](SubControls parts) {
+  const auto draw = [&](QPainter& on, SubControls parts) {
     QStyleOptionSlider some = option;
     some.subControls &= parts;
-    QProxyStyle::drawComplexControl(CC_ScrollBar, &some, &painter, widget);
+    QProxyStyle::drawComplexControl(CC_ScrollBar, &some, &on, widget);
   };
   // The groove has a clip of its own.
-  draw(SC_ScrollBarGroove);
-  DrawInStrips(painter, option.rect, [&] { draw(SC_ScrollBarSlider); });
-  draw(~SubControls(SC_ScrollBarGroove | SC_ScrollBarSlider));
+  DrawByStrips(painter, option.rect, [&](QPainter& on) { draw(on, SC_ScrollBarGroove); });
+  DrawInStrips(painter, option.rect, [&] { draw(painter, SC_ScrollBarSlider); });
+  draw(painter, ~SubControls(SC_ScrollBarGroove | SC_ScrollBarSlider));
 }
 
 QRect ReadableStyle::subControlRect(ComplexControl control, const QStyleOptionComplex* option,

@@ -1,5 +1,6 @@
 #include "widgets/strips.h"
 
+#include <QImage>
 #include <QPaintEngine>
 #include <QPainter>
 #include <QRegion>
@@ -68,6 +69,23 @@ void DrawInRectangles(QPainter& painter, const QRect& area, const std::function<
     for (const QRect& rectangle : seen) {
       DrawClipped(painter, toLogical.mapRect(QRectF(rectangle)), draw);
     }
+  });
+}
+
+void DrawByStrips(QPainter& painter, const QRect& area,
+                  const std::function<void(QPainter&)>& draw) {
+  const double scale = painter.deviceTransform().m22();
+  // Elsewhere a strip may begin within a pixel.
+  if (scale != std::floor(scale)) return draw(painter);
+  const auto drawAll = [&] { draw(painter); };
+  OnStrips(painter, area, drawAll, [&](const QRectF& strip) {
+    QImage picture((strip.size() * scale).toSize(), QImage::Format_ARGB32_Premultiplied);
+    picture.setDevicePixelRatio(scale);
+    picture.fill(Qt::transparent);
+    QPainter onPicture(&picture);
+    onPicture.translate(-strip.topLeft());
+    draw(onPicture);
+    painter.drawImage(strip.topLeft(), picture);
   });
 }
 

@@ -22,4 +22,8 @@ void DrawInStrips(QPainter& painter, const QRect& area, const std::function<void
 /// are.
 void DrawInRectangles(QPainter& painter, const QRect& area, const std::function<void()>& draw);
 
+/// The same for what sets a clip of its own: at whole scales each strip is drawn on a picture of
+/// its own, `draw`'s painter in the coordinates of `painter`.
+void DrawByStrips(QPainter& painter, const QRect& area, const std::function<void(QPainter&)>& draw);
+
 }  // namespace halvane

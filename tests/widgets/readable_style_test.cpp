@@ -148,15 +148,18 @@ class MeasuringStyle : public QProxyStyle {
   }
   void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
                           QPainter* painter, const QWidget* widget) const override {
-    if (option->subControls.testFlag(SC_ScrollBarSlider)) Measure(*option, *painter);
+    const bool isLong = option->subControls & (SC_ScrollBarSlider | SC_ScrollBarGroove);
+    if (isLong) Measure(*option, *painter);
     QProxyStyle::drawComplexControl(control, option, painter, widget);
   }
   mutable double highest = 0;
 
  private:
   void Measure(const QStyleOption& option, const QPainter& painter) const {
-    const QRectF place = painter.hasClipping() ? painter.clipBoundingRect() : option.rect;
-    highest = std::max(highest, (place & QRectF(option.rect)).height());
+    const QRectF device(0, 0, painter.device()->width(), painter.device()->height());
+    const QRectF drawn = painter.hasClipping() ? painter.clipBoundingRect() : option.rect;
+    const QRectF seen = painter.worldTransform().inverted().mapRect(device) & drawn;
+    highest = std::max(highest, (seen & QRectF(option.rect)).height());
   }
 };
 
