@@ -111,7 +111,7 @@ WindowMeasures WindowPlace::Measure() const {
 void WindowPlace::Show() {
   settled_ = false;
   TakePlace();
-  ReserveScreen(window_);
+  if (!std::exchange(reserved_, true)) ReserveScreen(window_);
 }
 
 void WindowPlace::TakePlace() {

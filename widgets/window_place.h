@@ -64,6 +64,7 @@ class WindowPlace : public QObject {
   std::function<QSize()> least_;
   LastPlace& last_;
   bool settled_ = false;
+  bool reserved_ = false;  ///< for as long as the window is
 };
 
 }  // namespace halvane
