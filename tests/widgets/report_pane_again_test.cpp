@@ -7,7 +7,12 @@
 #include <QTest>
 #include <QTextBlock>
 #include <array>
+#include <cstddef>
 #include <random>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
 
 #include "tests/support/form_support.h"
 #include "widgets/report_note.h"
@@ -67,7 +72,7 @@ class Reports {
       report.SetTab(0, Any(2) == 0 ? 1440 : 2880);
     }
     if (Any(12) == 0) report.AppendPicture("ocra/zones", "Zones");
-    report.Append(kTexts.at(static_cast<std::size_t>(Any(kTexts.size()))), kNewLine);
+    report.Append(kTexts.at(Any(kTexts.size())), kNewLine);
   }
 
   static constexpr std::array<std::string_view, 4> kTexts{"", "Score\t3", "Analyst: Line 4", "A"};
@@ -146,6 +151,14 @@ TEST_F(PaneAgain, KeepsNeitherSelectionNorPlace) {
   box.ShowReport(report);
   EXPECT_FALSE(box.textCursor().hasSelection());
   EXPECT_EQ(box.verticalScrollBar()->value(), 0);
+}
+
+TEST_F(PaneAgain, IsEmptyBehindALongReport) {
+  RichText report;
+  for (int line = 0; line < 4000; ++line) report.Append("line\r\n");
+  box.ShowReport(report);
+  box.ShowReport(RichText());
+  EXPECT_EQ(HeldBy(box), HeldAtFirst(RichText()));
 }
 
 TEST_F(PaneAgain, IsLaidOutForTheWidthThatItHasBecome) {
