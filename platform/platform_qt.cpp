@@ -119,11 +119,23 @@ QString QtPlatform::ChooseFileToOpen(QWidget* parent, const QString& filter) {
 QString QtPlatform::ChooseFileToSave(QWidget* parent, const QString& filter) {
   QFileDialog dialog(parent, QFileDialog::tr("Save As"));
   dialog.setAcceptMode(QFileDialog::AcceptSave);
+  // Asked behind the dialog: of two windows that end together the window manager may give the focus
+  // to another one than the tool's, and keys that come then are lost.
+  dialog.setOption(QFileDialog::DontConfirmOverwrite);
+  const auto show = [&](const QString& text, const std::vector<Answer>& buttons) {
+    return ShowMessage(parent, dialog.windowTitle(), text, buttons);
+  };
   for (;;) {
     const QString name = RunFileDialog(dialog, filter);
-    if (name.isEmpty() || QFileInfo(QFileInfo(name).path()).isDir()) return name;
-    ShowMessage(parent, dialog.windowTitle(),
-                QFileInfo(name).path() + "\nThis folder does not exist.", {Answer::Ok});
+    if (name.isEmpty()) return name;
+    const QFileInfo file(name);
+    if (!QFileInfo(file.path()).isDir()) {
+      show(file.path() + "\nThis folder does not exist.", {Answer::Ok});
+    } else if (!file.exists() ||
+               show(file.fileName() + " already exists.\nDo you want to replace it?",
+                    {Answer::No, Answer::Yes}) == Answer::Yes) {
+      return name;
+    }
   }
 }
 

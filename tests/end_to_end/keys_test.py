@@ -197,6 +197,31 @@ def keys_behind_dialogs(desktop, program):
     return 0
 
 
+def keys_behind_dialogs_on_gnome(desktop, program):
+    """Where the desktop has file dialogs of its own, a job that takes the place of another one is saved, and keys that
+    come right behind that reach the tool."""
+    run_ = Program(desktop, program, ("env", "XDG_CURRENT_DESKTOP=GNOME"))
+    run_.open(RULA)
+    path = os.path.join(desktop.folder, "saved.qjt")
+    run_.save_as(path)
+    desktop.type("Mia")
+    desktop.keys("alt+f")
+    desktop.keys("Down", "Down", "Down", "Return")
+    dialog = desktop.window("Save As")
+    desktop.type(path)
+    desktop.keys("Return")
+    # It has the title of the dialog.
+    wait_until(lambda: desktop.focused() in set(desktop.visible("Save As")) - {dialog}, "the question about the other job")
+    desktop.keys("Tab", "Return")
+    desktop.type(" Wallace")
+    desktop.gone("Save As")
+    desktop.window(RULA.title)
+    wait_until(lambda: run_.job_with(lambda job: job.analyst == "Mia"), "the saved job")
+    run_.save()
+    wait_until(lambda: run_.job_with(lambda job: job.analyst == "Mia Wallace"), "what was typed behind the dialog")
+    run_.end()
+
+
 def answer_is_kept(desktop, program):
     """Tab comes to the hand that is chosen, where Space changes nothing; the arrows choose from there."""
     run_ = Program(desktop, program)
@@ -276,6 +301,7 @@ CASES = {
     "new_with_a_held_key": new_with_a_held_key,
     "open_with_enter": open_with_enter,
     "keys_behind_dialogs": keys_behind_dialogs,
+    "keys_behind_dialogs_on_gnome": keys_behind_dialogs_on_gnome,
     "answer_is_kept": answer_is_kept,
     "tabs_by_key": tabs_by_key,
     "file_menu_by_letter": file_menu_by_letter,
