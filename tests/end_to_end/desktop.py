@@ -145,10 +145,17 @@ class Desktop:
 
     def rest_mouse(self, window, harmless):
         """Takes the mouse where it touches no control; to a `harmless` place of the window if that gives it the keys."""
-        if self.keys_follow_mouse:
+        if self.manager is None:
+            # A window that has just come may still move.
+            wait_until(lambda: self._mouse_is_over(window, harmless), "the mouse over the window")
+        elif self.keys_follow_mouse:
             self.xdotool("mousemove", "--window", window, *harmless)
         else:
             self.xdotool("mousemove", self.size[0] - 1, self.size[1] - 1)
+
+    def _mouse_is_over(self, window, place):
+        self.xdotool("mousemove", "--window", window, *place)
+        return f"WINDOW={window}" in self.output("xdotool", "getmouselocation", "--shell").split()
 
     def minimise(self, window):
         self.xdotool("windowminimize", window)
