@@ -25,6 +25,7 @@
 #include <QTextDocument>
 #include <QWidget>
 #include <QWindow>
+#include <algorithm>
 #include <array>
 
 #include "core/user_folders.h"
@@ -47,6 +48,14 @@ constexpr std::array kButtons{
     ButtonRow{Answer::Cancel, QMessageBox::Cancel},
     ButtonRow{Answer::Ok, QMessageBox::Ok},
 };
+
+/// The answer of a box that ends without one.
+Answer AnswerOfClosing(const std::vector<Answer>& buttons) {
+  for (const Answer harmless : {Answer::Cancel, Answer::No}) {
+    if (std::find(buttons.begin(), buttons.end(), harmless) != buttons.end()) return harmless;
+  }
+  return buttons.front();
+}
 
 /// What is printed to when the user names no other file.
 constexpr const char* kPrintedFile = "print.pdf";
@@ -107,7 +116,7 @@ Answer QtPlatform::ShowMessage(QWidget* parent, const QString& title, const QStr
   for (const ButtonRow& row : kButtons) {
     if (row.button == chosen) return row.answer;
   }
-  return buttons.back();
+  return AnswerOfClosing(buttons);
 }
 
 QString QtPlatform::ChooseFileToOpen(QWidget* parent, const QString& filter) {

@@ -40,8 +40,8 @@ HalvaneApplication::HalvaneApplication(int& argc, char** argv)
   setApplicationName("halvane-tools");
   setApplicationVersion(HALVANE_VERSION);
   setDesktopFileName(HALVANE_IDENTIFIER);
-  // Those of another toolkit lose keys that come right behind them, even take them for a cancelled
-  // Save As, and stay when the system ends the program.
+  // File dialogs of the desktop lose keys that come right behind them, even take them for a
+  // cancelled Save As, and stay when the system ends the program.
   setAttribute(Qt::AA_DontUseNativeDialogs);
   setStyle(new ReadableStyle);
   installEventFilter(new HeldKeys(this));

@@ -22,6 +22,8 @@
 #include <QTest>
 #include <QTextDocument>
 #include <filesystem>
+#include <functional>
+#include <vector>
 
 #include "core/user_folders.h"
 #include "tests/support/form_support.h"
@@ -183,6 +185,15 @@ TEST_F(RealPlatform, SaveDialogAsksBeforeAFileIsOverwritten) {
     EXPECT_TRUE(box.text().contains("already exists")) << box.text().toStdString();
     QTest::mouseClick(box.button(QMessageBox::No), Qt::LeftButton);
   });
+  // What is no answer is No: the box ends with the program, by its title bar, by keys.
+  const std::vector<std::function<void(QMessageBox&)>> noAnswers{
+      [](QMessageBox& box) { box.done(0); }, [](QMessageBox& box) { box.close(); },
+      [](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Escape); },
+      [](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Return); }};
+  for (const auto& noAnswer : noAnswers) {
+    steps.Then<QFileDialog>("QFileDialog", typeIt);
+    steps.Then<QMessageBox>("QMessageBox", noAnswer);
+  }
   steps.Then<QFileDialog>("QFileDialog", typeIt);
   steps.Then<QMessageBox>("QMessageBox", [](QMessageBox& box) {
     QTest::mouseClick(box.button(QMessageBox::Yes), Qt::LeftButton);
