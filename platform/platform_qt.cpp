@@ -172,7 +172,11 @@ bool QtPlatform::ChoosePrinter(QWidget* parent) {
       }
     });
   }
-  if (dialog.exec() != QDialog::Accepted) return false;
+  const int result = dialog.exec();
+  // Where the dialog and its question about a file that is there end together, the window manager
+  // may give the focus to another window than the one below, and keys that come then are lost.
+  if (parent != nullptr) parent->activateWindow();
+  if (result != QDialog::Accepted) return false;
   // The toolkit's own dialog goes back to a printer's usual paper unless another one is chosen in
   // the printer's properties; what was set up has to hold.
   if (hasOwnPaper) {

@@ -22,6 +22,7 @@
 #include <QTest>
 #include <QTextDocument>
 #include <filesystem>
+#include <fstream>
 #include <functional>
 #include <vector>
 
@@ -280,6 +281,26 @@ void Confirm(const QDialog& dialog) {
   const auto* buttons = dialog.findChild<QDialogButtonBox*>();
   ASSERT_NE(buttons, nullptr);
   QTest::mouseClick(buttons->button(QDialogButtonBox::Ok), Qt::LeftButton);
+}
+
+TEST_F(RealPlatform, WindowThatPrintsOverAFileGetsTheKeysBack) {
+  std::ofstream(folder.File("report.pdf")) << "older";
+  QWidget window;
+  window.show();
+  QWidget neighbour;
+  ModalSteps steps;
+  steps.Then<QPrintDialog>("QPrintDialog", [&](QPrintDialog& dialog) {
+    Find<QLineEdit>(dialog, "filename").setText(File("report.pdf"));
+    steps.Then<QMessageBox>("QMessageBox", [&](QMessageBox& box) {
+      // Some window managers give them to another window when both end.
+      neighbour.show();
+      neighbour.activateWindow();
+      QTest::mouseClick(box.button(QMessageBox::Yes), Qt::LeftButton);
+    });
+    Confirm(dialog);
+  });
+  EXPECT_TRUE(platform.ChoosePrinter(&window));
+  EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
 }
 
 TEST_F(RealPlatform, PaperAndOrientationOfPageSetupHoldForEachPrint) {
