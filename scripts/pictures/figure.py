@@ -5,7 +5,7 @@ swings from hanging down, an elbow and a knee bend from straight; forward is pos
 """
 
 import math
-from dataclasses import dataclass, field
+from dataclasses import dataclass, field, replace
 
 from pictures import body
 from pictures.inks import ACCENT, EDGE, FIGURE, GUIDE
@@ -13,7 +13,6 @@ from pictures.svg import Frame, disc, polar, polyline, smooth
 
 APART = 6  # degrees to the side, of legs from the front
 CHIN = 0.8  # width of the line between a head and its neck from the side, body units
-SQUATTING = 5.0  # height of a hip above which the trunk is in the picture
 UPPER = 0.6  # height in the picture above which a figure is cut off
 LOWER = 55.4  # height in the picture where what goes on is cut off
 
@@ -31,9 +30,9 @@ class View:
 # One view a joint: its pictures share scale and ground in all tools.
 ARM_SIDE = View(0.68, (22, 40.4), head=1.2, profile=body.CLEAR)
 TRUNK_SIDE = View(0.65, (19.4, 44.6), head=1.06, profile=body.CLEAR)
-NECK_SIDE = View(1.24, (22, 83))
-LEGS = View(1.12, (20, -4.2))
-LEGS_FRONT = View(0.82, (28, 10.6))
+NECK_SIDE = View(1.15, (22, 80.4))
+LEGS = View(0.76, (22, 5.4))
+LEGS_FRONT = replace(LEGS, hip=(28, LEGS.hip[1]))
 ARM_FRONT = View(0.7, (43, 38.6))
 MIDDLE_FRONT = View(0.78, (28, 43))
 WHOLE_FRONT = View(0.66, (28, 38.5))
@@ -227,11 +226,9 @@ class KneesFigure:
 
     def draw(self, drawing, between=lambda: None):
         pelvis = below(Frame(self.hip, self.scale, self.thigh * 0.5), body.SIDE_PELVIS)
-        paths = [*self.leg_paths(-2.6), pelvis]
-        if self.hip[1] > SQUATTING:
-            lean = Frame(self.hip, self.scale, self.thigh * 0.8)
-            paths.append(below(Frame(lean.at(0, -4), self.scale, lean.turn), body.SIDE_TRUNK))
-        drawing.solid(paths, FIGURE)
+        lean = Frame(self.hip, self.scale, self.thigh * 0.8)
+        trunk = below(Frame(lean.at(0, -4), self.scale, lean.turn), body.SIDE_TRUNK)
+        drawing.solid([*self.leg_paths(-2.6), pelvis, trunk], FIGURE)
         between()
         drawing.solid(self.leg_paths(), ACCENT)
 

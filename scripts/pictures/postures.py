@@ -1,6 +1,5 @@
 """Whole postures of the figure: one function a kind of picture, the angle as its argument."""
 
-import math
 from dataclasses import replace
 
 from pictures import body
@@ -22,10 +21,10 @@ from pictures.figure import (
     front_legs,
     ground_line,
 )
-from pictures.inks import ACCENT, FIGURE, RANGE
+from pictures.inks import ACCENT, EDGE, FIGURE, RANGE
 from pictures.limb_protractor import LimbProtractor
-from pictures.protractor import Protractor, Reach, axis_line, reference_line
-from pictures.svg import Drawing, Frame, capsule, disc, polar, polyline
+from pictures.protractor import HALO, LIMIT, Protractor, Reach, axis_line, reference_line
+from pictures.svg import Drawing, Frame, capsule, disc, number, polar, polyline
 
 ARM = frozenset({"upper_arm", "forearm"})
 WHOLE_ARM = body.UPPER_ARM + body.FOREARM + body.HAND
@@ -63,11 +62,6 @@ def side_elbow(title, elbow, shown=None, neutral=0, mirrored=False):
     figure.draw(drawing, measure.draw_lines)
     measure.draw_axis()
     return drawing
-
-
-def _reach_down(bottom, joint, degrees):
-    """How far it is from a joint to a bottom, `degrees` from straight down."""
-    return (bottom - joint[1]) / math.cos(math.radians(degrees))
 
 
 def _moved(view, hip):
@@ -139,7 +133,10 @@ def stance(title, lifted):
     feet = polyline([(x - 13 * s, ground), (x - 7 * s if lifted else x + 13 * s, ground)])
     drawing.line(feet, ACCENT, 2)
     front_legs(drawing, LEGS_FRONT, lifted)
-    reference_line(drawing, (x, y), (x, ground))
+    top, bottom = y + 3, ground - 1 - HALO
+    drawing.raw(f'<path d="{polyline([(x, top - HALO), (x, bottom)])}" fill="none" '
+                f'stroke="{EDGE}" stroke-width="{number(LIMIT + 2 * HALO)}"/>')
+    reference_line(drawing, (x, top), (x, bottom))
     return drawing
 
 
@@ -150,9 +147,8 @@ def side_knees(title, bend, shown):
     figure = KneesFigure(LEGS, bend)
     ground = LEGS.hip[1] + body.GROUND * s + 0.7
     ground_line(drawing, ground)
-    sector = min(27, _reach_down(ground - 0.7, figure.knee, max(0, shown.near - bend / 2)))
-    reach = Reach(segment=(body.SHANK + body.SOLE / 2) * s, sector=sector, arc=12, line=22,
-                  least=1, half=2.3 * s)
+    reach = Reach(segment=(body.SHANK + body.SOLE / 2) * s, sector=33, arc=12, line=22,
+                  least=0.8, half=2.3 * s)
     kind = Protractor if shown.far is not None else LimbProtractor
     measure = kind(drawing, figure.knee, 180 - bend / 2, 1, bend, reach, shown)
 

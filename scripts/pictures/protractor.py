@@ -2,9 +2,9 @@
 
 A dashed reference line, an arc from it to the axis of the moving segment, and that axis as a fine
 line through the segment. Where a caption names a range, a tinted sector shows it between its
-limits, which are solid lines; where it names one limit, the sector is open beyond it: there it
-fades and its rim ends in an arrow. Both reach beyond the segment, which would hide them, where
-there is room.
+limits, which are solid lines, or the reference line where zero is one; where it names one limit,
+the sector is open beyond it: there it fades and its rim ends in an arrow. Both reach beyond the
+segment, which would hide them, where there is room.
 """
 
 import math
@@ -137,6 +137,8 @@ class Protractor:
             start += away * degrees
 
     def _draw_limit(self, name, angle):
+        if angle == 0:
+            return  # the reference line shows it
         inner = INNER * self.radius if self.reach.half else self.reach.segment
         path = polyline([self.at(inner, angle),
                          self.at(min(self.radius, self._room(angle)), angle)])
@@ -178,7 +180,9 @@ class Protractor:
     def draw_lines(self):
         """Reference, limits and arc, which lie under the moving segment."""
         reach = self.reach
-        reference_line(self.drawing, self.joint, self.at(reach.line, 0))
+        is_limit = self.range is not None and 0 in (self.range.near, self.range.far)
+        line = max(reach.line, self.radius) if is_limit else reach.line
+        reference_line(self.drawing, self.joint, self.at(line, 0))
         if self.range is not None:
             self._draw_limit("near", self.range.near)
             if self.range.far is not None:

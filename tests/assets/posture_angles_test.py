@@ -304,11 +304,20 @@ class PostureAngles(unittest.TestCase):
                 self.assertAlmostEqual(limits[1], most, delta=NEAR, msg=asset)
                 self.assertLess(limits[0], angle - 4, msg=asset)
 
-    def test_limits_are_solid_lines_to_the_rim_of_the_sector(self):
+    def test_limits_are_lines_to_the_rim_of_the_sector(self):
         for picture, asset, joint, least, most in self.each([*ONE_SIDED, *TWO_SIDED]):
             drawn = [name for name in ("near", "far") if picture.path(name)]
-            named = [limit for limit in (least, most) if limit is not None]
+            # Zero is shown by the reference line, which a solid line would hide.
+            named = [limit for limit in (least, most) if limit]
             self.assertEqual(len(drawn), len(named), msg=asset)
+            rim = picture.path("sector")[1:]
+            if 0 in (least, most):
+                _, end = picture.path("reference")
+                nearest = min(rim, key=lambda corner: math.dist(end, corner))
+                self.assertLess(abs(turn(picture.reference, direction(picture.joint, nearest))),
+                                NEAR, msg=asset)
+                self.assertGreater(math.dist(picture.joint, end),
+                                   math.dist(picture.joint, nearest) - 0.1, msg=asset)
             angles = []
             for name in drawn:
                 style = re.search(rf'<path id="{name}"[^>]*>', picture.text).group()
@@ -319,7 +328,6 @@ class PostureAngles(unittest.TestCase):
                 self.assertAlmostEqual(self.from_reference(picture, joint, start), angles[-1],
                                        delta=NEAR, msg=asset)
                 # Its outer end is on the outline of the sector.
-                rim = picture.path("sector")[1:]
                 self.assertLess(min(math.dist(end, corner) for corner in rim), 0.1, msg=asset)
             for angle, limit in zip(sorted(angles), named):
                 self.assertAlmostEqual(angle, limit, delta=NEAR, msg=asset)
