@@ -8,7 +8,7 @@ import subprocess
 import sys
 
 from desktop import wait_until
-from program import CTD, MAIN, MESSAGE, OCRA, REBA, RULA, SI, SKIPPED, Job, Program, run, write_job
+from program import CTD, HELP, MAIN, MESSAGE, OCRA, REBA, RULA, SI, SKIPPED, Job, Program, run, write_job
 
 OCRA_ANALYST = (207, 39)
 OCRA_ADD_TASK = (161, 543)
@@ -18,6 +18,8 @@ CTD_ADD_TASK = (51, 668)
 CTD_WORK_TIME = (855, 162)
 FILE_MENU = (19, 9)
 SAVE_AS = (62, 76)
+HELP_SEARCH = (70, 80)
+HELP_PAGE = (900, 70)
 
 # A disk that takes 0.4 seconds for whatever has to be on it. The program itself is the child that is started.
 SLOW_DISK = ("strace", "-D", "-f", "-qq", "-o", os.devnull, "-e", "trace=fsync,fdatasync",
@@ -291,6 +293,31 @@ def help_by_key(desktop, program):
     run_.end()
 
 
+def help_search(desktop, program):
+    """The help finds the pages with some words, and the arrows and Return show one of them."""
+    run_ = Program(desktop, program)
+    run_.open(RULA)
+    desktop.hold("F1", PRESSED)
+    window = wait_until(lambda: desktop.visible(HELP), "the help")[0]
+    wait_until(lambda: desktop.focused() == window, "the help in front")
+
+    def page():
+        desktop.set_clipboard("")
+        desktop.click(window, *HELP_PAGE)
+        desktop.keys("ctrl+a", "ctrl+c")
+        return wait_until(desktop.clipboard, "the copied page").split("\n")[0]
+
+    before = page()
+    assert before.startswith("RULA"), before
+    desktop.click(window, *HELP_SEARCH)
+    desktop.type("borg scale")
+    desktop.hold("Down", PRESSED)
+    desktop.hold("Return", PRESSED)
+    found = page()
+    assert found == "Strain Index (SI)", found
+    run_.end()
+
+
 CASES = {
     "save_with_enter": lambda desktop, program: save_with_enter(desktop, program, OCRA, CTD),
     "save_with_enter_no_tasks": lambda desktop, program: save_with_enter(desktop, program, SI, REBA, RULA),
@@ -306,6 +333,7 @@ CASES = {
     "tabs_by_key": tabs_by_key,
     "file_menu_by_letter": file_menu_by_letter,
     "help_by_key": help_by_key,
+    "help_search": help_search,
 }
 
 if __name__ == "__main__":
