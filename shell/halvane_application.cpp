@@ -10,6 +10,7 @@
 #include "core/runtime_failure.h"
 #include "platform/end_signals.h"
 #include "platform/platform.h"
+#include "platform/platform_buttons.h"
 #include "shell/held_keys.h"
 #include "widgets/readable_style.h"
 #include "widgets/spoken.h"
@@ -45,6 +46,7 @@ HalvaneApplication::HalvaneApplication(int& argc, char** argv)
   setAttribute(Qt::AA_DontUseNativeDialogs);
   setStyle(new ReadableStyle);
   installEventFilter(new HeldKeys(this));
+  installEventFilter(new PromptButtons(this));
   UseSpokenControls();
 }
 
