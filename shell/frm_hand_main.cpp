@@ -209,8 +209,6 @@ void FrmHandMain::SSCommand2_Click(int index) {
     do {
       form.load();
     } while (form.exec() == ToolForm::Reload);
-    // Else the window manager may give the keyboard to the help, which stays open.
-    activateWindow();
   }
   ParkFocus();
   ReleaseRibbons();

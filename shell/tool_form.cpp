@@ -157,6 +157,9 @@ void ToolForm::done(int result) {
 }
 
 void ToolForm::setVisible(bool visible) {
+  // Passed on while the tool still has it: behind that the window manager gives the keyboard to the
+  // help, if that is open, and some then take the wish of the main window for an older one.
+  if (!visible && isActiveWindow() && parentWidget() != nullptr) parentWidget()->activateWindow();
   QDialog::setVisible(visible);
   if (!visible) loop_.exit();
 }

@@ -20,13 +20,7 @@ class Reader:
     """A screen reader on a session bus of its own, which the program joins."""
 
     def __init__(self, desktop, program):
-        reading, writing = os.pipe()
-        desktop.start(
-            ["dbus-daemon", "--session", "--nofork", f"--print-address={writing}"], pass_fds=(writing,)
-        )
-        os.close(writing)
-        with os.fdopen(reading) as pipe:
-            desktop.environment["DBUS_SESSION_BUS_ADDRESS"] = pipe.readline().strip()
+        desktop.environment["DBUS_SESSION_BUS_ADDRESS"] = desktop.start_bus()
         # The library of this process finds both there; what others put there leads elsewhere.
         for name in ("DBUS_SESSION_BUS_ADDRESS", "DISPLAY", "XDG_RUNTIME_DIR", "HOME", "XDG_CONFIG_HOME"):
             os.environ[name] = desktop.environment[name]

@@ -6,6 +6,7 @@ import subprocess
 import time
 
 TOOLS = ("Xvfb", "openbox", "xdotool", "xclip", "xev", "xprop", "convert", "import")
+XFCE = "xfwm4"
 PATIENCE = 20  # seconds until something that has to happen counts as missing
 LEFT, RIGHT = 1, 3
 WHEEL_UP, WHEEL_DOWN = 4, 5
@@ -14,6 +15,8 @@ WHEEL_UP, WHEEL_DOWN = 4, 5
 def missing_tools(manager="none"):
     """The programs that the machine lacks, that window manager among them."""
     needed = TOOLS if manager == "none" else (*TOOLS, manager)
+    if manager == XFCE:
+        needed += ("dbus-daemon",)
     return [tool for tool in needed if shutil.which(tool) is None]
 
 
@@ -65,7 +68,7 @@ class Desktop:
             with open(os.path.join(self.folder, ".twmrc"), "w", encoding="ascii") as file:
                 file.write("\n".join(["RandomPlacement", "NoGrabServer", *fonts, ""]))
         if self.manager:
-            self.start([self.manager])
+            self._start_manager()
             wait_until(self._is_managed, "the window manager")
         return self
 
@@ -92,6 +95,22 @@ class Desktop:
                 except subprocess.TimeoutExpired:
                     process.kill()
                     process.wait()
+
+    def _start_manager(self):
+        if self.manager != XFCE:
+            self.start([self.manager])
+            return
+        # It keeps its settings with a service of the session, and would start a bus for screen readers.
+        session = {"DBUS_SESSION_BUS_ADDRESS": self.start_bus(), "NO_AT_BRIDGE": "1"}
+        self.start(["env", *(f"{name}={value}" for name, value in session.items()), self.manager, "--compositor=off"])
+
+    def start_bus(self):
+        """Starts a message bus of a session and gives its address; nobody joins it by himself."""
+        reading, writing = os.pipe()
+        self.start(["dbus-daemon", "--session", "--nofork", f"--print-address={writing}"], pass_fds=(writing,))
+        os.close(writing)
+        with os.fdopen(reading) as pipe:
+            return pipe.readline().strip()
 
     def start(self, command, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, **options):
         process = subprocess.Popen(
