@@ -133,6 +133,7 @@ def stance(title, lifted):
     feet = polyline([(x - 13 * s, ground), (x - 7 * s if lifted else x + 13 * s, ground)])
     drawing.line(feet, ACCENT, 2)
     front_legs(drawing, LEGS_FRONT, lifted)
+    # Thighs and sole come near it.
     top, bottom = y + 3, ground - 1 - HALO
     drawing.raw(f'<path d="{polyline([(x, top - HALO), (x, bottom)])}" fill="none" '
                 f'stroke="{EDGE}" stroke-width="{number(LIMIT + 2 * HALO)}"/>')

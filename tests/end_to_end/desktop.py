@@ -105,7 +105,7 @@ class Desktop:
         self.start(["env", *(f"{name}={value}" for name, value in session.items()), self.manager, "--compositor=off"])
 
     def start_bus(self):
-        """Starts a message bus of a session and gives its address; nobody joins it by himself."""
+        """Starts a message bus of a session, which nobody is told of, and gives its address."""
         reading, writing = os.pipe()
         self.start(["dbus-daemon", "--session", "--nofork", f"--print-address={writing}"], pass_fds=(writing,))
         os.close(writing)
