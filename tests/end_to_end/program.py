@@ -11,6 +11,7 @@ SKIPPED = 77
 MAIN = "Halvane Tools V1.0"
 MESSAGE = "Halvane Tools"
 HELP = ".*Help"
+SAID = "standard error"  # the file of a case's folder for what the program says
 
 # Places in the windows, in pixels from their upper left corner.
 CLOSE_BUTTON = (264, 220)
@@ -54,7 +55,7 @@ class Program:
 
     def __init__(self, desktop, program, below=()):
         self.desktop = desktop
-        self.said = os.path.join(desktop.folder, "standard error")
+        self.said = os.path.join(desktop.folder, SAID)
         with open(self.said, "wb") as file:
             self.process = desktop.start([*below, program], stderr=file)
         self.main = desktop.shown(MAIN)
@@ -206,4 +207,19 @@ def run(cases, sizes=None):
     with tempfile.TemporaryDirectory() as folder:
         size = {"size": sizes[case]} if sizes and case in sizes else {}
         with Desktop(folder, manager=None if manager == "none" else manager, **size) as desktop:
-            return cases[case](desktop, program) or 0
+            try:
+                return cases[case](desktop, program) or 0
+            except Exception:
+                tell_of_failure(desktop)
+                raise
+
+
+def tell_of_failure(desktop):
+    """Prints which windows stand, how each process is and what the program said."""
+    print("windows:", desktop.visible(".+"), "focused:", desktop.focused())
+    for process in desktop.processes:
+        print("running" if process.poll() is None else f"ended with {process.poll()}", "-", *process.args)
+    said = os.path.join(desktop.folder, SAID)
+    if os.path.exists(said):
+        with open(said, encoding="utf-8", errors="replace") as file:
+            print("said:", file.read() or "nothing", flush=True)
