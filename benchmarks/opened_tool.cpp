@@ -18,6 +18,8 @@ namespace {
 constexpr int kQuietMilliseconds = 1000;
 /// Longer than any pause between two pieces of work that the program does ahead.
 constexpr int kPauseMilliseconds = 200;
+/// A timer that is no call in the queue of events.
+constexpr int kNextMilliseconds = 1;
 /// More than an event loop without events takes in such a time, and less than a piece of work.
 constexpr double kIdleSeconds = 0.002;
 
@@ -44,9 +46,11 @@ class ShowWatch : public QObject {
   }
 
  private:
-  /// The form stays on the screen, and what does not change is not painted.
+  /// The form stays on the screen, and what does not change is not painted. A call that waits in
+  /// one queue with the painting of the job would be made before it, and the painting counted with
+  /// what is done next.
   void UseAgain(ToolForm& form) {
-    QTimer::singleShot(0, this, [this, &form] {
+    QTimer::singleShot(kNextMilliseconds, this, [this, &form] {
       // The same turn of the loop may still be that of the job before.
       if (form.result() == ToolForm::Reload) return UseAgain(form);
       FinishTurn();
