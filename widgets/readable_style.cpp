@@ -5,6 +5,7 @@
 #include <array>
 
 #include "widgets/contrast.h"
+#include "widgets/stretched_frame.h"
 #include "widgets/strips.h"
 
 namespace halvane {
@@ -125,7 +126,7 @@ void ReadableStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* 
   if (element == PE_FrameTabWidget) {
     DrawInRectangles(*painter, option->rect, draw);
   } else if (element == PE_FrameGroupBox) {
-    DrawInStrips(*painter, option->rect, draw);
+    DrawGroupFrame(*option, *painter, widget);
   } else {
     draw();
   }
@@ -137,6 +138,23 @@ void ReadableStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* 
   if (element == PE_IndicatorRadioButton) {
     OutlineRound(*painter, option->rect, OutlineColor(*option));
   }
+}
+
+void ReadableStyle::DrawGroupFrame(const QStyleOption& option, QPainter& painter,
+                                   const QWidget* widget) const {
+  QStyleOptionFrame frame;
+  const auto* given = qstyleoption_cast<const QStyleOptionFrame*>(&option);
+  if (given != nullptr) {
+    frame = *given;
+  } else {
+    frame.QStyleOption::operator=(option);
+  }
+  // A caption stands above the frame, and may have a box before it.
+  const int top = proxy()->pixelMetric(PM_IndicatorHeight) + 2 * option.fontMetrics.height();
+  DrawStretched(painter, option.rect, top, [&](QPainter& on, const QRect& place) {
+    frame.rect = place;
+    QProxyStyle::drawPrimitive(PE_FrameGroupBox, &frame, &on, widget);
+  });
 }
 
 void ReadableStyle::drawControl(ControlElement element, const QStyleOption* option,

@@ -30,6 +30,7 @@ class ReadableStyle : public QProxyStyle {
                                      SubControl part, const QWidget* widget) const override;
 
  private:
+  void DrawGroupFrame(const QStyleOption& option, QPainter& painter, const QWidget* widget) const;
   void DrawScrollBar(const QStyleOptionSlider& option, QPainter& painter,
                      const QWidget* widget) const;
 };
