@@ -34,7 +34,8 @@ class ShowWatch : public QObject {
     if (form != nullptr && event->type() == QEvent::Show) {
       isExpected_ = true;
       connect(form, &ToolForm::finished, this, [this, form](int result) {
-        if (result == ToolForm::Reload) UseAgain(*form);
+        // One that was hidden is shown again.
+        if (result == ToolForm::Reload && form->isVisible()) UseAgain(*form);
       });
     }
     if (form != nullptr && event->type() == QEvent::Paint && isExpected_) {
