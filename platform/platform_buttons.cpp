@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QKeyEvent>
+#include <QMenuBar>
 #include <QMessageBox>
 #include <QShortcutEvent>
 
@@ -20,6 +21,27 @@ QAbstractButton* ButtonOf(const QMessageBox& box, const QKeyEvent& key) {
   return nullptr;
 }
 
+bool HasMenuAtHand(const QWidget& window, const QKeySequence& keys) {
+  for (const QMenuBar* bar : window.findChildren<QMenuBar*>()) {
+    for (const QAction* menu : bar->actions()) {
+      if (menu->isEnabled() && QKeySequence::mnemonic(menu->text()) == keys) return true;
+    }
+  }
+  return false;
+}
+
+/// The button of a window that keys stand for, where nothing else that is at hand has them.
+QAbstractButton* OnlyButtonOf(const QWidget& window, const QKeySequence& keys) {
+  if (HasMenuAtHand(window, keys)) return nullptr;
+  QAbstractButton* only = nullptr;
+  for (QAbstractButton* button : window.findChildren<QAbstractButton*>()) {
+    if (!button->isVisible() || !button->isEnabled() || button->shortcut() != keys) continue;
+    if (only != nullptr) return nullptr;
+    only = button;
+  }
+  return only;
+}
+
 }  // namespace
 
 bool PromptButtons::eventFilter(QObject* watched, QEvent* event) {
@@ -34,9 +56,12 @@ bool PromptButtons::eventFilter(QObject* watched, QEvent* event) {
 
 QAbstractButton* PromptButtons::ButtonFor(QObject& watched, const QEvent& event) {
   if (event.type() == QEvent::Shortcut) {
-    // Where two have the same letter, it goes from one to the other and presses none.
-    const bool isAmbiguous = static_cast<const QShortcutEvent&>(event).isAmbiguous();
-    return isAmbiguous ? nullptr : qobject_cast<QAbstractButton*>(&watched);
+    const auto& shortcut = static_cast<const QShortcutEvent&>(event);
+    if (!shortcut.isAmbiguous()) return qobject_cast<QAbstractButton*>(&watched);
+    // Where two have the same letter, it goes from one to the other and presses none; a menu that
+    // is not at hand has its turn too.
+    const auto* widget = qobject_cast<const QWidget*>(&watched);
+    return widget == nullptr ? nullptr : OnlyButtonOf(*widget->window(), shortcut.key());
   }
   if (event.type() == QEvent::KeyPress) {
     const auto* box = qobject_cast<const QMessageBox*>(&watched);

@@ -154,6 +154,23 @@ def edit_button_after_a_click(desktop, program):
     run_.end()
 
 
+def named_by_key(desktop, program):
+    """Alt and a letter adds a task and edits its name, each time, though the menu that is not at hand has the letter too."""
+    run_ = Program(desktop, program)
+    window = run_.open(CTD)
+    names = ["by key", "again", "and again"]
+    for name in names:
+        desktop.keys("alt+a", "alt+e")
+        desktop.type(name)
+        desktop.keys("Return")
+    job = run_.saved_job()
+    assert [job.task_name(task + 1) for task in range(int(job.task_count))] == names, job.lines
+    # Beside the report the letter is the menu's.
+    desktop.click(window, *CTD.tabs[2])
+    assert "and again" in run_.copied_report()
+    run_.end()
+
+
 def leave_the_editor(desktop, program):
     """Whoever leaves the name that is being edited keeps what was typed: by a box, a tab, a button, another window."""
     run_ = Program(desktop, program)
@@ -245,6 +262,7 @@ CASES = {
     "click_into_the_next_box": click_into_the_next_box,
     "rename_waits_in_vain": rename_waits_in_vain,
     "edit_button_after_a_click": edit_button_after_a_click,
+    "named_by_key": named_by_key,
     "leave_the_editor": leave_the_editor,
     "showing_report": showing_report,
     "wheel": wheel,

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <QHBoxLayout>
+#include <QMenuBar>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
@@ -88,6 +89,33 @@ TEST_F(PromptButtonsTest, OfTwoWithTheSameLetterNoneIsPressed) {
   QTest::keyClick(&window, Qt::Key_S, Qt::AltModifier);
   QTest::qWait(kShownDown);
   EXPECT_TRUE(clicked.isEmpty()) << clicked.join(' ').toStdString();
+}
+
+TEST_F(PromptButtonsTest, AMenuThatIsNotAtHandLeavesItsLetterToAButton) {
+  QPushButton& button = Add("&Edit");
+  QMenuBar bar;
+  row.setMenuBar(&bar);
+  QMenu& menu = *bar.addMenu("&Edit");
+  menu.addAction("Copy");
+  menu.setEnabled(false);
+  Show();
+  // Each time, not in turn.
+  for (int i = 1; i <= 3; ++i) {
+    QTest::keyClick(&window, Qt::Key_E, Qt::AltModifier);
+    EXPECT_EQ(clicked.size(), i);
+  }
+  // One that is at hand keeps it.
+  menu.setEnabled(true);
+  button.hide();
+  QTest::keyClick(&window, Qt::Key_E, Qt::AltModifier);
+  EXPECT_TRUE(menu.isVisible());
+  menu.close();
+  button.show();
+  for (int i = 0; i < 2; ++i) {
+    QTest::keyClick(&window, Qt::Key_E, Qt::AltModifier);
+    menu.close();
+  }
+  EXPECT_EQ(clicked.size(), 3);
 }
 
 TEST_F(PromptButtonsTest, AButtonThatIsLockedIsNotPressed) {
